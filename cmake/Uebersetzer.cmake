@@ -10,7 +10,7 @@ option(ZAV_SANITIZER "Build with address and undefined-behaviour sanitizers" OFF
 
 add_library(warnungen INTERFACE)
 target_compile_options(warnungen INTERFACE
-  -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wno-sign-conversion -Wnon-virtual-dtor -Woverloaded-virtual -Werror)
+  -Wall -Wextra -Wpedantic -Wshadow=local -Wconversion -Wno-sign-conversion -Wnon-virtual-dtor -Woverloaded-virtual -Werror)
 
 add_library(pruefer INTERFACE)
 if(ZAV_SANITIZER)
