@@ -2,6 +2,7 @@
 
 #include "form/drehbuch.h"
 #include "form/formular.h"
+#include "form/zeitfeld.h"
 
 namespace zav {
 namespace {
@@ -64,6 +65,45 @@ TEST(Formular, LayoutNamesEveryControlOnce) {
   Muster f;
   EXPECT_EQ(Platzierte(f.anordnung()), f.elemente());
   EXPECT_EQ(f.element("Combo1(1)"), &f.Combo1[1]);
+}
+
+TEST(Zeitfeld, NamesTheFirstFault) {
+  const std::vector<std::pair<const char*, const char*>> faelle{
+      {"23.59.59", ""},
+      {"00.00:00", ""},  // the sixth character may be any
+      {"", "Richtig: hh.mm.ss"},
+      {"7.30.00", "Richtig: hh.mm.ss"},
+      {"07:30.00", "Richtig: hh.mm.ss"},
+      {"07.30.000", "Richtig: hh.mm.ss"},
+      {"0x.30.00", "Richtig: hh.mm.ss"},
+      {"-1.30.00", "Richtig: hh.mm.ss"},
+      {"24.60.60", "Stunde zu gross"},
+      {"23.60.60", "Minute zu gross"},
+      {"23.59.60", "Sekunde zu gross"},
+  };
+  for (const auto& [text, fehler] : faelle) EXPECT_EQ(Zeittest(text), fehler) << text;
+}
+
+TEST(Zeitfeld, ComplainsWithTheMessageOrTheBoundInTheField) {
+  Drehbuch d;
+  Muster f;
+  f.Text1.setzen("24.00.00");
+  d.erwarte({.text = "Bitte Eingabe korrigieren"});
+  EXPECT_EQ(Zeitfeld_pruefen(f.Text1), "Stunde zu gross");
+  EXPECT_EQ(f.Text1.text(), "Stunde zu gross");
+  EXPECT_EQ(f.fokus(), &f.Text1);
+  EXPECT_EQ(f.Text1.farbe, Farbe::normal) << "yellow only while the box is open";
+
+  f.Text1.setzen("02.00.00");
+  Hoechstens(f.Text1, "02.00.00");
+  Mindestens(f.Text1, "02.00.00");
+  d.erwarte({.text = "Maximalwert eingesetzt"});
+  Hoechstens(f.Text1, "01.59.59");
+  EXPECT_EQ(f.Text1.text(), "01.59.59");
+  d.erwarte({.text = "Minimalwert eingesetzt"});
+  Mindestens(f.Text1, "02.00.01");
+  EXPECT_EQ(f.Text1.text(), "02.00.01");
+  EXPECT_EQ(d.maengel(), "");
 }
 
 TEST(Drehbuch, TellsWhatDidNotGoByTheBook) {

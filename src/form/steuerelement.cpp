@@ -118,6 +118,11 @@ bool Textfeld::eingeben(std::string text) {
   return true;
 }
 
+void Textfeld::betreten() {
+  pruefe_bedienbar();
+  ausfuehren(wenn_betreten);
+}
+
 void Textfeld::verlassen() {
   pruefe_bedienbar();
   ausfuehren(wenn_verlassen);

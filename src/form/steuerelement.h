@@ -176,6 +176,7 @@ class Textfeld final : public Steuerelement {
   explicit Textfeld(std::string titel = {}) : Steuerelement(Art::Textfeld, std::move(titel)) {}
 
   std::function<void()> wenn_geaendert;
+  std::function<void()> wenn_betreten;   // the focus enters the field, by a click or by Tab
   std::function<void()> wenn_verlassen;  // the focus leaves the field
   Eigenschaft<bool> nur_lesen{*this, false};
   std::size_t hoechstlaenge = 0;  // in characters, 0 = no limit
@@ -186,6 +187,7 @@ class Textfeld final : public Steuerelement {
   // What the user types replaces the text. Longer text is cut; text with a character that the project file
   // cannot hold is refused with a beep and false.
   bool eingeben(std::string text);
+  void betreten();
   void verlassen();
   // eingeben() and verlassen().
   void ausfuellen(std::string text);
