@@ -11,6 +11,7 @@ struct Sitzung {
   i16 Projekt_geaendert = 0;     // 1: unsaved changes
   i16 Schreibschutz = 0;         // 1: the open file is write-protected
   i16 Speicherfehler = 0;        // 1: the last save refused, the project has no name
+  int Dateifehler = 0;           // error number of the last loading or saving, 0 = none
   i16 Abbruch = 0;               // 1: the running listing shall stop
   i16 Komb_aktuell = 0;          // current Kombination of the installation editor
   i16 Enocean_aktuell = 0;
