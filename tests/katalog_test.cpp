@@ -1,0 +1,140 @@
+#include "store/katalog.h"
+
+#include <gtest/gtest.h>
+
+#include <set>
+#include <string>
+#include <vector>
+
+namespace zav {
+namespace {
+
+std::string Ziffern(const Slots& s) {
+  std::string z;
+  for (int n = 0; n < tastenplaetze; ++n) {
+    if (s.hat(n)) z += std::to_string(n);
+  }
+  return z;
+}
+// The kinds for which the test holds, as "3 5 7".
+template <class F>
+std::string Arten(F f) {
+  std::string z;
+  for (const Apparatart& a : Apparatarten()) {
+    if (f(a)) z += (z.empty() ? "" : " ") + std::to_string(a.typ);
+  }
+  return z;
+}
+
+TEST(Katalog, KindsStandAtTheirNumbersWithTheirSlots) {
+  for (int t = 1; t <= apparat_arten; ++t) ASSERT_EQ(Apparat_art(t)->typ, t);
+  for (const int t : {0, -1, 94, 32767}) EXPECT_EQ(Apparat_art(t), nullptr);
+  struct {
+    int typ;
+    std::string_view tag, titel;
+    int adressen;
+    std::string tasten, leds;
+  } const faelle[] = {
+      {1, "Einfachtaster ohne LED", "Feller: Einfachtaster ohne LED", 1, "2", ""},
+      {25, "Sechsfachtaster ohne LED", "Feller: Sechsfachtaster ohne LED", 2, "234567", ""},
+      {40, "ZAVtherm-4-disp", "ZAVtherm Display-Thermostat", 4, "012", "0123"},
+      {41, "Bewegungsmelder \"alt\"", "Feller Bewegungsmelder mit ALTEM Buskoppler (bis Dezember 2008)", 1, "01", ""},
+      {48, "Levy-Taster 6-fach", "Levy: Sechsfachtaster mit LED", 2, "012367", "012367"},
+      {58, "Alte Feller-Taster", "Feller (alt): Dreifachtaster mit LED", 1, "023", "023"},
+      {73, "", "Universal-Eingang 4 mit LED", 1, "0123", "0123"},
+      {80, "Leer", "Leer", 0, "", ""},
+      {89, "Bewegungs-/Präsenzmelder EnOcean", "EnOcean: Bewegungs-/Präsenzmelder", 2, "01", ""},
+      {93, "Bedientasten für Kameraseiten", "Bedientasten für Kameraseiten", 6, "", ""},
+  };
+  for (const auto& f : faelle) {
+    const Apparatart& a = *Apparat_art(f.typ);
+    EXPECT_EQ(a.tag, f.tag);
+    EXPECT_EQ(a.titel, f.titel);
+    EXPECT_EQ(a.adressen, f.adressen) << f.typ;
+    EXPECT_EQ(Ziffern(a.tasten), f.tasten) << f.typ;
+    EXPECT_EQ(Ziffern(a.leds), f.leds) << f.typ;
+  }
+}
+
+TEST(Katalog, GroupsHoldTheirKinds) {
+  const auto mit = [](int n) { return Arten([n](const Apparatart& a) { return a.adressen == n; }); };
+  const auto in = [](Apparat_gruppe g) { return Arten([g](const Apparatart& a) { return a.ist(g); }); };
+  EXPECT_EQ(mit(0), "33 34 35 36 37 38 43 44 80");
+  EXPECT_EQ(mit(2), "25 26 27 28 29 30 31 32 45 48 69 74 89");
+  EXPECT_EQ(mit(4), "40 75 78");
+  EXPECT_EQ(mit(6), "65 70 71 72 76 79 93");
+  EXPECT_EQ(in(gruppe_diverse), "65 70 71 72 75 76 77 79 93");
+  EXPECT_EQ(in(gruppe_thermostat), "39 40 78");
+  EXPECT_EQ(in(gruppe_flanken), "45 69 89");
+  EXPECT_EQ(in(gruppe_funk), "81 82 83 84 85 86 87 88 89");
+  std::string funk;
+  for (int t = 80; t <= 90; ++t) funk += std::to_string(Apparat_funkart(t));
+  EXPECT_EQ(funk, "01112223450");
+}
+
+TEST(Katalog, EventOffsetsBelongToKeySlots) {
+  EXPECT_EQ(Slot_von_versatz(30, 5), 5);
+  EXPECT_EQ(Versatz_von_slot(69, 2), 4) << "rising edge of key 2";
+  EXPECT_EQ(Slot_von_versatz(69, 5), 2) << "falling edge of key 2";
+  EXPECT_EQ(Slot_von_versatz(76, 15), 7);
+  EXPECT_EQ(Slot_von_versatz(76, 16), 0);
+  EXPECT_EQ(Slot_von_versatz(72, 23), 7);
+  EXPECT_EQ(Slot_von_versatz(70, 23), 23);
+}
+
+TEST(Katalog, RunsOfAddressesEndWhereAddressesEnd) {
+  Projekt p;
+  struct {
+    const char *von, *anzahl;
+    std::optional<Adresslauf> lauf;
+  } const faelle[] = {
+      {"12", "2", Adresslauf{12, 2}}, {"250", "6", Adresslauf{250, 6}}, {"253", "6", Adresslauf{253, 3}},
+      {"7", "", Adresslauf{7, 0}},    {"7", "viele", Adresslauf{7, 0}}, {"", "1", {}},
+      {"256", "1", {}},               {"-1", "1", {}},                  {"i12", "1", {}},
+  };
+  for (const auto& f : faelle) {
+    p.App_text[4095] = f.von;
+    p.App_text2[4095] = f.anzahl;
+    EXPECT_EQ(Apparat_adressen(p, 4095), f.lauf) << f.von << " x " << f.anzahl;
+  }
+}
+
+TEST(Katalog, SlotsBehindTheirPlaceAreOnlyTakenWhileItIsEmpty) {
+  Projekt p;
+  p.App_typ[16] = 65;
+  p.App_text2[16] = "6";
+  EXPECT_EQ(Apparat_slot(p, 16, 23), 128 + 23);
+  EXPECT_EQ(Apparat_slot(p, 16, 24), -1);
+  p.App_typ[18] = 5;
+  EXPECT_EQ(Apparat_slot(p, 16, 15), 128 + 15);
+  EXPECT_EQ(Apparat_slot(p, 16, 16), -1) << "another device's";
+
+  p.App_typ[32] = 40;
+  p.App_text2[32] = "4";
+  p.App_typ[33] = 14;
+  EXPECT_EQ(Apparat_slot(p, 32, 11), 256 + 11) << "LED of the thermostat, whatever stands there";
+  EXPECT_EQ(Apparat_slot(p, 32, 12), -1);
+  p.App_typ[4095] = 78;
+  EXPECT_EQ(Apparat_slot(p, 4095, 7), 32767);
+  EXPECT_EQ(Apparat_slot(p, 4095, 8), -1) << "behind the last place";
+}
+
+TEST(Layouts, ShowTheirPlaces) {
+  const std::vector<std::string> erwartet{
+      "0",       "0 4",   "0 4 8", "0 4 8 12", "0 1 4 5",     "0 1 4 5 8 9",     "0 1 4 5 8 9 12 13", "0 1 2 4 5 6 8 9 10",
+      "0 1 2 4 5 6 8 9 10 12 13 14", "0 1",    "0 1 2",       "0 1 2 3",         "0 1 2 4 5 6",       "0 1 2 3 4 5 6 7",
+      "0 1 2 3 4 5 6 7 8 9 10 11",   "0 1 2 3 4 5 6 7 8 9 10 11 12 13 14 15",    "0"};
+  ASSERT_EQ(Layouts().size(), erwartet.size());
+  for (std::size_t l = 0; l < erwartet.size(); ++l) {
+    std::string gezeigt;
+    for (int platz = 0; platz < plaetze; ++platz) {
+      if (Layouts()[l].hat(platz)) gezeigt += (gezeigt.empty() ? "" : " ") + std::to_string(platz);
+    }
+    EXPECT_EQ(gezeigt, erwartet[l]) << l;
+  }
+  EXPECT_EQ(Layout_von(17), nullptr);
+  EXPECT_EQ(Layout_von(-1), nullptr);
+}
+
+}  // namespace
+}  // namespace zav
