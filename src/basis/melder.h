@@ -30,6 +30,8 @@ class Melder {
   virtual Antwort Melden(const Meldung& m) = 0;
   virtual void Piep() {}
   virtual void Zeiger_setzen(Zeiger) {}
+  // What a longer command is doing, for the panel of the main window; "" takes it away.
+  virtual void Hinweis(const std::string&) {}
   // A turn for the front end during a long operation: repaint, take input. Handlers may run.
   virtual void DoEvents() {}
 };

@@ -1,6 +1,7 @@
 // The master's messages: how numbers are written, the checksum, the window, the status codes and their words.
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 
@@ -14,14 +15,19 @@ std::string Hex2(std::int64_t v);
 std::string Hex4(std::int64_t v);
 std::string Hex8(std::int64_t v);
 
-// Sum of the characters modulo 256, two upper-case digits. A character counts by the low byte of its code point.
+// Sum of the characters modulo 256, two upper-case digits. A character counts by the low byte of its code
+// point.
 std::string Pruefsumme(std::string_view text);
 
-// "D" + six digits each; a value of more than six digits leaves its field empty. Stands in leitung.Sende_text.
+// Reads up to eight hexadecimal digits into a number; false, and the number as it was, for any other text.
+bool Hex_wert(std::string_view text, std::uint32_t& wert);
+
+// "D" + six digits each; a value of more than six digits leaves its field empty. Stands in
+// leitung.Sende_text.
 void Fenster_setzen(i32 von, i32 bis);
 
-// Telegram on the bus: address 4 digits, length 2 digits, 8 data bytes as 16 digits. Opens and closes the port;
-// failures have shown their box and leave Empfang_status 1.
+// Telegram on the bus: address 4 digits, length 2 digits, 8 data bytes as 16 digits. Opens and closes the
+// port; failures have shown their box and leave Empfang_status 1.
 void Can_senden(const std::string& adresse, const std::string& laenge, const std::string& daten);
 // Makes an event in the master: device number on the bus 4 digits, action 2 digits, key 2 digits.
 void Ereignis_erzeugen(const std::string& a, const std::string& b, const std::string& c);
@@ -37,9 +43,9 @@ void Neustart_ausfuehren();
 struct Masterinfo {
   bool gut = false;
   std::string version;  // ten characters
-  std::string projekt;  // name of the project that it holds, 24 characters
+  std::string projekt;  // file name of the project that it holds: 24 characters, blanks behind the name
 };
-// Asks version and project name. Failures have shown their box.
+// Asks version (also put into sitzung.Master_version) and project name. Failures have shown their box.
 Masterinfo Master_abfragen();
 
 }  // namespace zav
