@@ -4,6 +4,7 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <cerrno>
 #include <cstdlib>
 #include <filesystem>
 #include <limits>
@@ -73,11 +74,17 @@ std::vector<Zeile> Tabelle(Einstellungen& e) {
   return t;
 }
 
-// The file as it stands; an empty one where there is none.
-Ini Ini_lesen() {
+// Reads the file as it stands; one that does not exist is empty. The error number, 0 when all went well.
+int Ini_lesen(Ini& ini) {
   std::string inhalt;
-  Datei_lesen(Einstellungsdatei(), inhalt);
-  return Ini(inhalt);
+  const Dateiergebnis ergebnis = Datei_lesen(Einstellungsdatei(), inhalt);
+  ini = Ini(inhalt);
+  return ergebnis.fehler == ENOENT || ergebnis.fehler == ENOTDIR ? 0 : ergebnis.fehler;
+}
+
+std::string Klage(const std::string& was, int fehler) {
+  return "Die Einstellungen in " + Einstellungsdatei() + " können nicht " + was +
+         " werden: " + Systemfehler_text(fehler) + ".";
 }
 
 }  // namespace
@@ -98,8 +105,9 @@ std::string Einstellungsdatei() {
 }
 
 std::string Einstellungen_lesen() {
-  const Ini ini = Ini_lesen();
-  std::string klage;
+  Ini ini;
+  const int fehler = Ini_lesen(ini);
+  std::string klage = fehler == 0 ? std::string() : Klage("gelesen", fehler);
   for (const Zeile& z : Tabelle(einstellungen)) {
     const auto text = ini.Lesen(z.abschnitt(), z.schluessel);
     if (auto* const* ziel = std::get_if<str*>(&z.wert)) {
@@ -127,18 +135,10 @@ std::string Einstellungen_lesen() {
 
 namespace {
 
-std::string Speichern(const std::string& inhalt) {
-  const std::string datei = Einstellungsdatei();
-  std::error_code ordnerfehler;
-  fs::create_directories(fs::path(datei).parent_path(), ordnerfehler);
-  const int fehler = ordnerfehler ? ordnerfehler.value() : Datei_schreiben(datei, inhalt).fehler;
-  if (fehler == 0) return {};
-  return "Die Einstellungen können nicht in " + datei + " gespeichert werden: " + Systemfehler_text(fehler) +
-         ".";
-}
-
 std::string Gruppen_schreiben(std::initializer_list<Gruppe> gruppen) {
-  Ini ini = Ini_lesen();
+  Ini ini;
+  // What could not be read must not be replaced: it holds lines that this program does not know.
+  if (const int fehler = Ini_lesen(ini); fehler != 0) return Klage("gelesen", fehler);
   for (const Zeile& z : Tabelle(einstellungen)) {
     if (std::find(gruppen.begin(), gruppen.end(), z.gruppe) == gruppen.end()) continue;
     std::string wert;
@@ -155,7 +155,11 @@ std::string Gruppen_schreiben(std::initializer_list<Gruppe> gruppen) {
     if (z.gruppe == Gruppe::ports && wert.empty() && !ini.Lesen(z.abschnitt(), z.schluessel)) continue;
     ini.Setzen(z.abschnitt(), z.schluessel, wert);
   }
-  return Speichern(ini.Inhalt());
+  const std::string datei = Einstellungsdatei();
+  std::error_code ordnerfehler;
+  fs::create_directories(fs::path(datei).parent_path(), ordnerfehler);
+  const int fehler = ordnerfehler ? ordnerfehler.value() : Datei_schreiben(datei, ini.Inhalt()).fehler;
+  return fehler == 0 ? std::string() : Klage("gespeichert", fehler);
 }
 
 }  // namespace
