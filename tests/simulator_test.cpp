@@ -1,0 +1,355 @@
+// The simulated master, seen from the other end of the line.
+#include "simulator/simulator.h"
+
+#include <arpa/inet.h>
+#include <fcntl.h>
+#include <gtest/gtest.h>
+#include <netinet/in.h>
+#include <poll.h>
+#include <sys/resource.h>
+#include <sys/socket.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <filesystem>
+#include <fstream>
+
+#include "simulator/fd.h"
+
+namespace zav::simulator {
+namespace {
+
+using namespace std::chrono_literals;
+
+// One end of a wire to the master, by TCP or terminal.
+class Draht {
+ public:
+  explicit Draht(const Simulator& sim) : fd(::socket(AF_INET, SOCK_STREAM, 0)) {
+    sockaddr_in a{};
+    a.sin_family = AF_INET;
+    a.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+    a.sin_port = htons(static_cast<std::uint16_t>(sim.tcp_port()));
+    EXPECT_EQ(::connect(fd.nummer(), reinterpret_cast<sockaddr*>(&a), sizeof a), 0);
+  }
+  explicit Draht(const std::string& geraet) : fd(::open(geraet.c_str(), O_RDWR | O_NOCTTY)) {
+    EXPECT_TRUE(fd);
+  }
+
+  void roh(std::string_view bytes) {
+    while (!bytes.empty()) {
+      const auto n = ::write(fd.nummer(), bytes.data(), bytes.size());
+      ASSERT_GT(n, 0);
+      bytes.remove_prefix(static_cast<std::size_t>(n));
+    }
+  }
+  // Reads until the text ends so; what has come by then when nothing more comes for two seconds or the line
+  // closes.
+  std::string bis(std::string_view ende) {
+    std::string text;
+    while (!text.ends_with(ende) && bereit(2000)) {
+      char c;
+      if (::read(fd.nummer(), &c, 1) != 1) return text + "<zu>";
+      text += c;
+    }
+    return text;
+  }
+  // Payload of the reply to a message; a reply whose checksum is wrong comes back whole.
+  std::string fragen(std::string_view nachricht) {
+    roh(rahmen(nachricht));
+    const std::string antwort = bis("\r");
+    const std::string nutzlast = antwort.substr(0, antwort.size() < 3 ? 0 : antwort.size() - 3);
+    return antwort == rahmen(nutzlast) ? nutzlast : antwort;
+  }
+  bool bereit(int ms) {
+    pollfd p{fd.nummer(), POLLIN, 0};
+    return ::poll(&p, 1, ms) == 1;
+  }
+  bool stumm() { return !bereit(60); }
+
+ private:
+  Fd fd;
+};
+
+class Zavmaster : public ::testing::Test {
+ protected:
+  explicit Zavmaster(Optionen o = {.pty = true}) : sim(std::move(o)), draht((sim.start(), sim)) {}
+  std::string operator()(std::string_view nachricht) { return draht.fragen(nachricht); }
+
+  Simulator sim;
+  Draht draht;
+};
+
+TEST_F(Zavmaster, AntwortetNurAufGanzeUndRichtigeMeldungen) {
+  auto& frage = *this;
+  EXPECT_EQ(frage("i"), "F00");
+  EXPECT_EQ(frage("V"), "REV 09.04 ");
+  draht.roh("V5");
+  EXPECT_TRUE(draht.stumm());
+  draht.roh("6\r");
+  EXPECT_EQ(draht.bis("\r").size(), 13U);
+
+  struct {
+    std::string_view roh, antwort;
+  } falsch[] = {
+      {"V57\r", "F07"},    {"V5g\r", "F05"}, {"V5a\r", "F05"}, {"K4B\r", "F01"},
+      {"\r", "F01"},       {"L4C\r", "F01"}, {"V\r", "F01"},   {"\xFF\xFE\x01\n\r", "F01"},
+      {"i69i69\r", "F07"},
+  };
+  for (const auto& f : falsch) {
+    draht.roh(f.roh);
+    EXPECT_EQ(draht.bis("\r"), rahmen(f.antwort)) << f.roh;
+  }
+  EXPECT_EQ(frage("LD0g"), "F05");
+  EXPECT_EQ(frage("LD0100"), "F01");
+  EXPECT_EQ(frage("LD02"), "F06");
+  EXPECT_EQ(frage("LS08"), "F06");
+
+  draht.roh("halbe Mel%i69\r");
+  EXPECT_EQ(draht.bis("\r"), rahmen("F00"));
+  draht.roh(std::string(300'000, 'A'));
+  EXPECT_EQ(draht.bis("\r"), rahmen("F02"));
+  draht.roh("\r");
+  EXPECT_EQ(frage("i"), "F00");
+}
+
+TEST_F(Zavmaster, PrueftDasFensterUndHaeltDenSpeicher) {
+  auto& frage = *this;
+  EXPECT_EQ(frage("R"), "F06");
+  EXPECT_EQ(frage("W00"), "F06");
+  struct {
+    std::string_view fenster, antwort;
+  } falsch[] = {
+      {"D400000400001", "F06"}, {"D000807000800", "F60"}, {"D000A10000A10", "F61"},  {"D000800000A10", "F62"},
+      {"D000800000C00", "F63"}, {"D00080000080", "F01"},  {"D0008000008070", "F01"}, {"D00080000080a", "F05"},
+  };
+  for (const auto& f : falsch) EXPECT_EQ(frage(f.fenster), f.antwort) << f.fenster;
+
+  EXPECT_EQ(frage("D000800000A0F"), "F00");  // a whole page
+  EXPECT_EQ(frage("W" + std::string(1056, '5')), "F00");
+  EXPECT_EQ(frage("W" + std::string(1054, '5')), "F01");
+  EXPECT_EQ(frage("W" + std::string(1058, '5')), "F64");
+  EXPECT_EQ(frage("D000802000803"), "F00");
+  EXPECT_EQ(frage("WA1FF"), "F00");
+  EXPECT_EQ(frage("D000800000807"), "F00");
+  EXPECT_EQ(frage("R"), "5555A1FF55555555");
+  EXPECT_EQ(sim.speicher(0x802, 2), (Bytes{0xA1, 0xFF}));
+  EXPECT_EQ(sim.speicher(0xC00, 1), Bytes{0});
+
+  Draht terminal(sim.pty_name());  // the same master behind the other line
+  EXPECT_EQ(terminal.fragen("R"), "5555A1FF55555555");
+}
+
+TEST_F(Zavmaster, NimmtParameterbloeckeUndUhrNurInIhrerLaenge) {
+  auto& frage = *this;
+  for (const auto& [befehl, bytes] :
+       {std::pair{"A", 128}, {"Q", 256}, {"T", 96}, {"P", 256}, {"H", 128}, {"M", 6}, {"LS", 1}}) {
+    const std::string ziffern(static_cast<std::size_t>(2 * bytes), '0');
+    EXPECT_EQ(frage(befehl + ziffern), "F00");
+    EXPECT_EQ(frage(befehl + ziffern.substr(2)), "F01");
+    EXPECT_EQ(sim.block(befehl), ziffern);
+  }
+  EXPECT_EQ(frage("A" + std::string(1058, '0')), "F65");
+  EXPECT_EQ(frage("LS05"), "F00");
+  EXPECT_EQ(sim.nachhol_flags(), 5U);
+
+  EXPECT_EQ(frage("U5958231631122600"), "F00");
+  for (const auto* falsch :
+       {"U6000000001012600", "U0060000001012600", "U0000240001012600", "U0000002001012600",
+        "U0000000701012600", "U0000000000012600", "U0000000001132600", "U0000000001012601"})
+    EXPECT_EQ(frage(falsch), "F06") << falsch;
+  EXPECT_EQ(frage("U000000000101260A"), "F05");
+  EXPECT_EQ(sim.uhr(), "5958231631122600");
+}
+
+TEST_F(Zavmaster, MeldetDenNeustartEinmal) {
+  auto& frage = *this;
+  EXPECT_EQ(frage("LD01"), "F00");
+  EXPECT_TRUE(sim.gesperrt());
+  draht.roh("*");
+  EXPECT_EQ(draht.bis("\r"), rahmen("F00"));
+  EXPECT_FALSE(sim.gesperrt());
+  draht.roh("i");  // bare
+  EXPECT_EQ(draht.bis("\r"), rahmen("F99"));
+  EXPECT_EQ(frage("V"), "REV 09.04 ");
+  draht.roh("*");
+  draht.bis("\r");
+  EXPECT_EQ(frage("i"), "F99");
+  EXPECT_EQ(frage("i"), "F00");
+  EXPECT_EQ(sim.neustarts(), 2);
+  EXPECT_EQ(sim.mitschrift(), (std::vector<std::string>{"LD01", "*", "i", "V", "*", "i", "i"}));
+}
+
+TEST_F(Zavmaster, LoeschtUndPrueftDenSpeicher) {
+  auto& frage = *this;
+  sim.speicher_setzen(0x8000, {1, 2, 3});
+  sim.flash_defekt();
+  for (const bool defekt : {true, false}) {
+    draht.roh(rahmen("EI"));
+    const std::string strom = draht.bis(rahmen("F00"));
+    EXPECT_EQ(std::ranges::count(strom, '\r'), 61);
+    EXPECT_EQ(strom.find_first_of("eE") != std::string::npos, defekt);
+    EXPECT_EQ(strom.find("F00"), strom.size() - 6);
+    EXPECT_EQ(sim.speicher(0x8000, 3), (Bytes{0, 0, 0}));
+    sim.flash_defekt(false);
+  }
+  EXPECT_EQ(frage("i"), "F00");
+}
+
+TEST_F(Zavmaster, ZeigtEreignisseBisZumStern) {
+  auto& frage = *this;
+  sim.ereignis({7, 2});  // nobody looks
+  EXPECT_EQ(frage("I"), "F00");
+  sim.ereignis({255, 4, Tastenaktion::loesen});
+  EXPECT_EQ(draht.bis("\r"), "K255 T4 -/-\r");
+  EXPECT_EQ(frage("Y04020201"), "F00");
+  EXPECT_EQ(draht.bis("-/-\r"), "K001 T1 ---\rK001 T1 -/-\r");
+  EXPECT_EQ(sim.ereignisse(), (std::vector<Ereignis>{{1, 1, Tastenaktion::kurz}}));
+  sim.teilnehmer_setzen({"K000 ZAVin"});
+  draht.roh("*");
+  EXPECT_EQ(draht.bis("mer\r"), "K000 ZAVin\r1 Teilnehmer\r");
+  sim.ereignis({1, 1});
+  EXPECT_TRUE(draht.stumm());
+  EXPECT_EQ(frage("i"), "F99");
+
+  struct {
+    std::string_view nachricht, antwort;
+  } falsch[] = {
+      {"Y040201", "F68"},   {"Y0402010100", "F68"}, {"Y04030101", "F80"}, {"Y06000101", "F80"},
+      {"Y04020301", "F06"}, {"Y04020100", "F06"},   {"Y04020105", "F06"}, {"Yabcd0101", "F05"},
+  };
+  for (const auto& f : falsch) EXPECT_EQ(frage(f.nachricht), f.antwort) << f.nachricht;
+
+  // The display ends with its user, on both lines.
+  Draht tcp(sim);
+  EXPECT_EQ(tcp.fragen("I"), "F00");
+  Draht neu(sim);
+  EXPECT_EQ(Draht(sim.pty_name()).fragen("I"), "F00");
+  Draht terminal(sim.pty_name());
+  EXPECT_EQ(terminal.fragen("Y04000101"), "F00");
+  EXPECT_TRUE(terminal.stumm());
+  EXPECT_TRUE(neu.stumm());
+}
+
+TEST_F(Zavmaster, NenntDasWetter) {
+  auto& frage = *this;
+  sim.wetter_setzen({.regen = true,
+                     .aussen = -17,
+                     .innen = 22,
+                     .sued = 95,
+                     .west = 1,
+                     .ost = 16,
+                     .licht = 999,
+                     .wind = 20.5});
+  EXPECT_EQ(frage("s"), "1180000A005F0110FF1600CD");
+  sim.wetter_setzen({.station = Station::ohne_daten});
+  EXPECT_EQ(frage("s").substr(0, 1), "8");
+  sim.wetter_setzen({.station = Station::fehlt});
+  EXPECT_EQ(frage("s"), std::string(24, '0'));
+}
+
+TEST_F(Zavmaster, ProgrammiertEinenFunkempfaenger) {
+  auto& frage = *this;
+  const auto x = [&](std::string_view laenge, std::string daten) {
+    daten.resize(16, '0');
+    EXPECT_EQ(frage("X011F" + std::string(laenge) + daten), "F00");
+  };
+  const auto seite_schreiben = [&](int seite) {
+    x("02", "4143");
+    for (int k = 0; k < 16; ++k) x("06", "4150FF000000");
+    x("05", "4154" + hex(seite * 64, 4) + "40");
+  };
+  const auto pruefsumme_holen = [&](int seite) {
+    x("05", "4174" + hex(seite * 64, 4) + "40");
+    EXPECT_EQ(frage("&"), "F00");
+    EXPECT_EQ(frage("x").substr(10, 4), "0000");
+    x("02", "4152");
+    const std::string antwort = frage("x");
+    EXPECT_EQ(antwort.substr(0, 6), "011F08");
+    return antwort.substr(10, 4);
+  };
+  sim.empfaengerseite_defekt(15, 2);
+  seite_schreiben(1);
+  seite_schreiben(2);
+  EXPECT_EQ(sim.empfaengertabelle(15)[64], 0);  // not taken up yet
+  x("02", "4149");
+  EXPECT_EQ(sim.empfaengertabelle(15)[64], 0xFF);
+  EXPECT_EQ(sim.empfaengertabelle(14)[64], 0);
+  EXPECT_EQ(pruefsumme_holen(0), "0000");
+  EXPECT_EQ(pruefsumme_holen(1), "0FF0");
+  EXPECT_EQ(pruefsumme_holen(2), "0EF1");
+
+  x("02", "4157");
+  EXPECT_EQ(frage("x").substr(10), "00000000FFFF000000");
+  sim.funk(15, 0xFEF71E04, 42);
+  x("02", "4157");
+  EXPECT_EQ(frage("x").substr(10), "FEF71E0400D2000000");
+  x("02", "4156");
+  EXPECT_EQ(frage("x").substr(10, 6), "01040F");  // eight senders a page, less the one that did not hold
+
+  struct {
+    std::string_view nachricht, antwort;
+  } falsch[] = {{"X0101024157", "F66"},
+                {"X010102415700000000000000", "F68"},
+                {"X0800024157000000000000", "F80"},
+                {"X0000024157000000000000", "F80"},
+                {"X0101094157000000000000", "F81"},
+                {"X01010241x7000000000000", "F05"}};
+  for (const auto& f : falsch) EXPECT_EQ(frage(f.nachricht), f.antwort) << f.nachricht;
+  EXPECT_EQ(sim.telegramme().back(), (Telegramm{0x11F, 2, {'A', 'V'}}));
+}
+
+TEST_F(Zavmaster, BautFehlerNachRegelEin) {
+  auto& frage = *this;
+  const auto antwort = [&](std::string_view nachricht) {
+    draht.roh(rahmen(nachricht));
+    return draht.bis("\r");
+  };
+  frage("D000800000800");
+  sim.fehler_setzen({"F07@W2x2", "kurz=2@V", "lang@i", "muell@R"});
+  std::string antworten;
+  for (const auto* w : {"W01", "W02", "W03", "W04"}) antworten += frage(w) + " ";
+  EXPECT_EQ(antworten, "F00 F07 F07 F00 ");
+  EXPECT_EQ(sim.speicher(0x800, 1), Bytes{4});
+  EXPECT_EQ(antwort("R"), "###" + rahmen("04"));
+  draht.roh(rahmen("i"));
+  EXPECT_EQ(draht.bis("Z"), rahmen("F00") + "Z");
+  draht.roh(rahmen("V"));
+  EXPECT_EQ(draht.bis("2"), "REV 09.04 2");
+  EXPECT_TRUE(draht.stumm());
+
+  sim.fehler_setzen({"stumm@1", "verloren@2", "trenn@LD"});
+  draht.roh(rahmen("W05") + rahmen("W06") + rahmen("R"));
+  EXPECT_EQ(draht.bis("\r"), rahmen("06"));
+  EXPECT_EQ(antwort("LD01"), "<zu>");
+  EXPECT_FALSE(sim.gesperrt());
+  EXPECT_EQ(Draht(sim).fragen("i"), "F00");
+
+  // A terminal that is torn off comes back under the name that pty_name() tells.
+  sim.fehler_setzen({"trenn@1"});
+  Draht terminal(sim.pty_name());
+  terminal.roh(rahmen("i"));
+  EXPECT_EQ(terminal.bis("\r"), "<zu>");
+  EXPECT_EQ(Draht(sim.pty_name()).fragen("i"), "F00");
+}
+
+TEST(Fehlerregel, LiestIhreGrammatikUndLehntAllesAndereAb) {
+  const auto r = Fehlerregel_lesen("kurz=4@LD12x9");
+  EXPECT_EQ(r, (Fehlerregel{Fehlerart::kurz, "", 4, "LD", 12, 9}));
+  EXPECT_EQ(Fehlerregel_lesen("stumm@x3").befehl, "x");
+  EXPECT_EQ(Fehlerregel_lesen("stumm@Wx2").mal, 2);
+  EXPECT_EQ(Fehlerregel_lesen("F60").code, "F60");
+  for (const auto* falsch :
+       {"", "F00", "F7", "f07", "laut", "stumm=1", "kurz=0", "kurz=", "kurz=2x", "F07@", "F07@K3", "F07@W0",
+        "F07@Wx0", "F07@W3x", "F07@99999999", "F07@3W", "muell=5000"})
+    EXPECT_THROW(Fehlerregel_lesen(falsch), std::invalid_argument) << falsch;
+}
+
+TEST_F(Zavmaster, VerliertBeimSchnellenNeuverbindenNichts) {
+  for (int n = 1; n <= 200; ++n) {
+    Draht(sim).roh(rahmen("D00080000080" + hex(n % 8, 1)));  // gone before the reply
+    EXPECT_EQ(Draht(sim).fragen("R").size(), 2U * (n % 8 + 1));
+  }
+}
+
+}  // namespace
+}  // namespace zav::simulator
