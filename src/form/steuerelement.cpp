@@ -84,14 +84,12 @@ void Auswahl::faerben(int i, Farbe f) {
   if (std::exchange(aendern(i).farbe, f) != f) geaendert();
 }
 
-void Auswahl::beschriften(int i, std::string text) {
-  aendern(i).text = std::move(text);
-  geaendert();
+void Auswahl::beschriften(int i, const std::string& text) {
+  if (std::exchange(aendern(i).text, text) != text) geaendert();
 }
 
-void Auswahl::hinweisen(int i, std::string hinweis) {
-  aendern(i).hinweis = std::move(hinweis);
-  geaendert();
+void Auswahl::hinweisen(int i, const std::string& hinweis) {
+  if (std::exchange(aendern(i).hinweis, hinweis) != hinweis) geaendert();
 }
 
 void Auswahl::freigeben(int i, bool frei_jetzt) {

@@ -160,8 +160,8 @@ class Auswahl final : public Steuerelement {
   void waehlen(std::string_view text);  // the first entry of that text
 
   void faerben(int i, Farbe f);
-  void beschriften(int i, std::string text);
-  void hinweisen(int i, std::string hinweis);
+  void beschriften(int i, const std::string& text);
+  void hinweisen(int i, const std::string& hinweis);
   void freigeben(int i, bool frei);
 
  private:

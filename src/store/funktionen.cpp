@@ -102,7 +102,7 @@ std::vector<std::string> Sperrenliste() { return Liste(sperren); }
 std::string Relais_in_worten(Ereignisart art, int code, int ausgang) {
   const auto funktionen = Relaisfunktionen(art);
   if (code < 0 || code >= std::ssize(funktionen)) return "Code " + std::to_string(code);
-  const Relaisfunktion& f = funktionen[static_cast<std::size_t>(code)];
+  const Relaisfunktion& f = funktionen[code];
   return ausgang % 2 == 0 ? f.gerade : f.ungerade;
 }
 

@@ -1,0 +1,53 @@
+// How long a choice in the function editor takes until everything it shows is right again, in a project where every
+// output of the event is in use.
+#include "editor/actmask.h"
+
+#include <benchmark/benchmark.h>
+
+#include <algorithm>
+
+
+namespace zav {
+namespace {
+
+void Alles_belegen() {
+  Projekt_reset();
+  std::ranges::fill(projekt.Ein_relais.alle(), i16{1});
+  std::ranges::fill(projekt.Ein_dimmer.alle(), i16{1});
+  std::ranges::fill(projekt.Ein_timer.alle(), 1);
+}
+
+void Reiter(benchmark::State& state) {
+  Alles_belegen();
+  Actmask m(1023, "");
+  for (auto _ : state) benchmark::DoNotOptimize(m.Reiter_auffrischen());
+}
+BENCHMARK(Reiter);
+
+void Funktion_waehlen(benchmark::State& state) {
+  Alles_belegen();
+  Actmask m(1023, "");
+  int code = 0;
+  for (auto _ : state) m.Combo1[0].waehlen(1 + (code++ & 1));
+}
+BENCHMARK(Funktion_waehlen);
+
+void Gruppe_waehlen(benchmark::State& state) {
+  Alles_belegen();
+  Actmask m(1023, "");
+  int gruppe = 0;
+  for (auto _ : state) m.Baugruppe.waehlen(++gruppe % relaisgruppen);
+}
+BENCHMARK(Gruppe_waehlen);
+
+void Oeffnen_und_OK(benchmark::State& state) {
+  Alles_belegen();
+  for (auto _ : state) {
+    Actmask m(1023, "");
+    m.Command5.druecken();
+  }
+}
+BENCHMARK(Oeffnen_und_OK)->Unit(benchmark::kMicrosecond);
+
+}  // namespace
+}  // namespace zav
