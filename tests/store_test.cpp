@@ -1,0 +1,471 @@
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+
+#include <filesystem>
+#include <functional>
+#include <random>
+#include <string>
+#include <type_traits>
+#include <vector>
+
+#include "basis/windows1252.h"
+#include "hilfen.h"
+#include "platform/einstellungen.h"
+#include "store/felder.h"
+#include "store/kamera.h"
+#include "store/letzte_dateien.h"
+#include "store/projekt.h"
+#include "store/projektdatei.h"
+#include "store/sitzung.h"
+
+using namespace zav;
+
+namespace {
+
+constexpr std::size_t zeilen_910 = 11281;  // of an empty project
+constexpr std::size_t zeile_app = 11181;   // the one line of all app records
+
+Projekt Neues_projekt(const char* version = "910") {
+  Projekt p;
+  p.Projekt_name = "Namenlos";
+  p.Datei_version = version;
+  p.Projekt_kennung = "0123456701234567";
+  return p;
+}
+
+// The lines of a file, split at CR LF alone; entry 0 is line 1.
+std::vector<std::string> Zeilen(const std::string& bytes) {
+  std::vector<std::string> zeilen;
+  std::size_t von = 0;
+  for (std::size_t n; (n = bytes.find("\r\n", von)) != std::string::npos; von = n + 2) {
+    zeilen.push_back(bytes.substr(von, n - von));
+  }
+  EXPECT_EQ(von, bytes.size()) << "the last line is not closed";
+  return zeilen;
+}
+
+std::string Verbinden(const std::vector<std::string>& zeilen) {
+  std::string bytes;
+  for (const auto& z : zeilen) bytes += z + "\r\n";
+  return bytes;
+}
+
+// Every value of a project different from its neighbours, and texts of all bytes that a line can hold.
+Projekt Volles_projekt(const char* version) {
+  Projekt p = Neues_projekt(version);
+  std::mt19937 zufall(7);
+  std::string alle_bytes;
+  for (int b = 0; b < 256; ++b) alle_bytes += static_cast<char>(b);
+  Felder_besuchen(p, [&]<class T>(std::string_view name, T& feld) {
+    if constexpr (requires { feld.alle(); }) {
+      for (auto& e : feld.alle()) {
+        if constexpr (std::is_same_v<std::remove_reference_t<decltype(e)>, str>) {
+          e = std::to_string(zufall() % 1000);
+        } else if constexpr (sizeof e == 1) {
+          e = zufall() % 4 == 0;
+        } else {
+          e = static_cast<i16>(zufall() % 3 == 0 ? zufall() : zufall() % 2);
+        }
+      }
+    } else if constexpr (std::is_same_v<T, i16>) {
+      feld = name.starts_with("Seq_") ? 1 : static_cast<i16>(zufall());
+    }
+  });
+  p.Notizen = "Zeile eins\r\nZeile zwei: Öl & Straße\r\n";
+  p.Ein_text[7] = Aus_1252(alle_bytes);
+  p.Komb_text[3] = "";
+  for (auto& z : p.Kamera_text.alle()) z = "X";
+  Kamera_zusammensetzen(p);
+  return p;
+}
+
+TEST(Projektdatei, NewProjectHasTheLinesOfItsGeneration) {
+  const auto zeilen = Zeilen(Projekt_schreiben(Neues_projekt()));
+  ASSERT_EQ(zeilen.size(), zeilen_910);
+  const std::vector<std::string> kopf{"ZAVlink-Version 9.102", "910", "ETB", "",  "",  "", "",
+                                      "0123456701234567",      "1",   "1",   "1", "1", "", "1"};
+  EXPECT_EQ(std::vector(zeilen.begin(), zeilen.begin() + 14), kopf);
+  EXPECT_EQ(std::count(zeilen[zeile_app - 1].begin(), zeilen[zeile_app - 1].end(), '\r'), 22528);
+  EXPECT_EQ(zeilen[zeile_app - 1].substr(0, 31), "0\r0\r0\r0\r0\r0\r0\r\r0\r0\r\r640\r0\r\r\r\r\r\r");
+  for (std::size_t n = zeile_app; n < zeilen_910; ++n) EXPECT_EQ(zeilen[n], "X");
+
+  EXPECT_EQ(Zeilen(Projekt_schreiben(Neues_projekt("900"))).size(), zeilen_910 - 11);
+  const auto alt = Zeilen(Projekt_schreiben(Neues_projekt("800")));
+  EXPECT_EQ(alt.size(), zeilen_910 - 11 - 48);
+  EXPECT_EQ(alt[1], "800");
+  EXPECT_EQ(alt[2], "ETB");
+  // A project that was read from an older file goes out in the lines of 800 under its old name.
+  const auto noch_aelter = Zeilen(Projekt_schreiben(Neues_projekt("600")));
+  EXPECT_EQ(noch_aelter.size(), alt.size());
+  EXPECT_EQ(noch_aelter[1], "600");
+}
+
+TEST(Projektdatei, EveryValueStandsInItsLine) {
+  struct {
+    std::size_t zeile;
+    std::function<void(Projekt&)> setzen;
+    std::string text;
+  } const faelle[] = {
+      {7, [](Projekt& p) { p.Notizen = "a\r\nö"; }, "a\xFD\xFA\xF6"},
+      {11, [](Projekt& p) { p.Sowi_modus[2] = -32768; }, "-32768"},
+      {243, [](Projekt& p) { p.Wetter_start[7] = 1; }, "1"},
+      {215, [](Projekt& p) { p.Wetter_aktiv[7] = "€"; }, "\x80"},
+      {755, [](Projekt& p) { p.Grp_led[255] = 0; }, "0"},
+      {1779, [](Projekt& p) { p.Ein_funktext[1023] = 255; }, "255"},
+      {2100, [](Projekt& p) { p.Uhr_tabelle_geaendert = 1; }, "1"},
+      {3380, [](Projekt& p) { p.Ein_text[1023] = "Küche"; },
+       "K\xFC"
+       "che"},
+      {4404, [](Projekt& p) { p.Uhr_f7[255] = 1; }, "1"},
+      {5684, [](Projekt& p) { p.Uhr_f5[255] = "00.10.00"; }, "00.10.00"},
+      {5690, [](Projekt& p) { p.Seq_flag[5] = 1; }, "1"},
+      {7546, [](Projekt& p) { p.Relais_text[511] = " r "; }, " r "},
+      {8192, [](Projekt& p) { p.Seq_datum[5] = "01.02.2026"; }, "01.02.2026"},
+      {8256, [](Projekt& p) { p.Timer_zeit[47] = "17.59.59"; }, "17.59.59"},
+      {8257, [](Projekt&) {}, ""},
+      {9280, [](Projekt& p) { p.Relais_neustart_a[511] = 2; }, "2"},
+      {10304, [](Projekt&) {}, ""},
+      {10304, [](Projekt& p) { p.Ein_led[1023] = 0; }, "0"},
+      {10305, [](Projekt&) {}, "1"},
+      {10306, [](Projekt&) {}, ""},
+      {10712, [](Projekt& p) { p.Grp_thermo[255] = 9; }, "9"},
+      {10858, [](Projekt&) {}, "0"},
+      {11114, [](Projekt&) {}, "5"},
+      {11117, [](Projekt& p) { p.Seq_neustart = 1; }, "1"},
+      {11118, [](Projekt&) {}, "120"},
+      {11122, [](Projekt&) {}, "6"},
+      {11125, [](Projekt& p) { p.Enocean_empf_ort[0] = "Keller"; }, "Keller"},
+      {11171, [](Projekt& p) { p.App_allgemein[0] = "Haus"; }, "Haus"},
+      {11281, [](Projekt& p) { p.Kamera_text[99] = ""; }, ""},
+      // A Kombination in use adds its 307 lines behind the texts, and 128 lines of radio.
+      {500 + 1, [](Projekt& p) { p.Komb_text[9] = "EG", p.Komb_text2[9] = "Bad"; }, "Bad"},
+      {500 + 3 + 45, [](Projekt& p) { p.Komb_text[9] = "EG", p.App_typ[9 * 16 + 15] = 33; }, "33"},
+      {500 + 306, [](Projekt& p) { p.Komb_text[9] = "EG", p.Dev_adr[9 * 128 + 127] = 12; }, "12"},
+      {11123 + 307 + 127, [](Projekt& p) { p.Komb_text[9] = "EG", p.App_enocean_res2[9 * 16 + 15] = 8; },
+       "8"},
+      // An event in use adds its rows: 512 relays, 512 dimmer parameters, 16 timers.
+      {8193 + 511, [](Projekt& p) { p.Ein_leer[5] = 1, p.Ein_relais(5, 511) = 20; }, "20"},
+      {8193 + 512 + 7, [](Projekt& p) { p.Ein_leer[5] = 1, p.Ein_dimmer(5, 1, 3) = 100; }, "100"},
+      {8193 + 1024 + 15, [](Projekt& p) { p.Ein_leer[5] = 1, p.Ein_timer(5, 15) = 3; }, "3"},
+      {8193 + 15, [](Projekt& p) { p.Uhr_leer[5] = 1, p.Uhr_timer(5, 15) = 4; }, "4"},
+      {8257 + 512 + 511, [](Projekt& p) { p.Tev_leer[63] = 1, p.Tev_dimmer(63, 127, 3) = 7; }, "7"},
+      {10713 + 16 + 511, [](Projekt& p) { p.Uhr_leer[5] = 1, p.Uhr_relais(5, 511) = 20; }, "20"},
+      // A flag other than 1 has no rows.
+      {8193, [](Projekt& p) { p.Ein_leer[5] = 2, p.Timer_text[0] = "Timer"; }, "Timer"},
+  };
+  for (const auto& fall : faelle) {
+    Projekt p = Neues_projekt();
+    fall.setzen(p);
+    EXPECT_EQ(Zeilen(Projekt_schreiben(p)).at(fall.zeile - 1), fall.text) << "line " << fall.zeile;
+  }
+}
+
+TEST(Projektdatei, RoundTripIsExact) {
+  for (const char* version : {"910", "900", "800"}) {
+    const Projekt p = Volles_projekt(version);
+    const std::string bytes = Projekt_schreiben(p);
+    Projekt gelesen;
+    ASSERT_TRUE(Projekt_lesen(bytes, gelesen));
+    EXPECT_TRUE(Projekt_schreiben(gelesen) == bytes) << version;
+    EXPECT_EQ(gelesen.App_text[3 * 16], "") << "devices of an unused slot are not kept";
+    EXPECT_EQ(gelesen.App_text[4 * 16], p.App_text[4 * 16]);
+  }
+  // The largest project: everything is in use, so everything comes back.
+  Projekt p = Volles_projekt("910");
+  p.Komb_text[3] = "Dach";
+  for (auto flaggen : {p.Ein_leer.alle(), p.Uhr_leer.alle(), p.Tev_leer.alle()}) {
+    std::fill(flaggen.begin(), flaggen.end(), u8{1});
+  }
+  Projekt gelesen;
+  gelesen.Projekt_name = p.Projekt_name;
+  ASSERT_TRUE(Projekt_lesen(Projekt_schreiben(p), gelesen));
+  Felder_besuchen(gelesen, [&]<class T>(std::string_view name, const T& feld) {
+    Felder_besuchen(p, [&]<class U>(std::string_view n, const U& soll) {
+      if constexpr (std::is_same_v<T, U>) {
+        EXPECT_TRUE(n != name || feld == soll) << name;
+      }
+    });
+  });
+}
+
+TEST(Projektdatei, EachFieldConvertsByItsRule) {
+  Projekt benutzt = Neues_projekt();
+  benutzt.Ein_leer[0] = 1;
+  const auto grund = Zeilen(Projekt_schreiben(benutzt));
+  struct {
+    std::size_t zeile;
+    const char* text;
+    std::function<int(const Projekt&)> wert;
+    int soll;
+  } const faelle[] = {
+      {9, "", [](const Projekt& p) { return p.Sowi_modus[0]; }, 1},
+      {9, "2", [](const Projekt& p) { return p.Sowi_modus[0]; }, 2},
+      {9, " 2", [](const Projekt& p) { return p.Sowi_modus[0]; }, 1},
+      {9, "+2", [](const Projekt& p) { return p.Sowi_modus[0]; }, 1},
+      {9, "2.0", [](const Projekt& p) { return p.Sowi_modus[0]; }, 1},
+      {9, "-7", [](const Projekt& p) { return p.Sowi_modus[0]; }, -7},
+      {9, "0032767", [](const Projekt& p) { return p.Sowi_modus[0]; }, 32767},
+      {9, "32768", [](const Projekt& p) { return p.Sowi_modus[0]; }, 1},
+      {9, "99999999999999999999", [](const Projekt& p) { return p.Sowi_modus[0]; }, 1},
+      {756, "255", [](const Projekt& p) { return p.Ein_funktext[0]; }, 255},
+      {756, "256", [](const Projekt& p) { return p.Ein_funktext[0]; }, 0},
+      {756, "-1", [](const Projekt& p) { return p.Ein_funktext[0]; }, 0},
+      {8193, "", [](const Projekt& p) { return p.Ein_relais(0, 0); }, 0},
+      {8193, "-3", [](const Projekt& p) { return p.Ein_relais(0, 0); }, -3},
+      {8193 + 1024, "32767", [](const Projekt& p) { return p.Ein_timer(0, 0); }, 32767},
+      {8193 + 1024, "32768", [](const Projekt& p) { return p.Ein_timer(0, 0); }, 0},
+      {1040 + 9281, "", [](const Projekt& p) { return p.Ein_led[0]; }, 640},
+      {1040 + 9281, "0", [](const Projekt& p) { return p.Ein_led[0]; }, 0},
+      {1040 + 9281, "x", [](const Projekt& p) { return p.Ein_led[0]; }, 640},
+      {1040 + 10305, "", [](const Projekt& p) { return p.Ein_param(0, 0); }, 0},
+      {1040 + 10305, "x", [](const Projekt& p) { return p.Ein_param(0, 0); }, 1},
+      {1040 + 10859, "", [](const Projekt& p) { return p.Grp_typ[0]; }, 0},
+      {1040 + 10859, "x", [](const Projekt& p) { return p.Grp_typ[0]; }, 5},
+      {1040 + 11115, "1", [](const Projekt& p) { return p.Seq_manuell; }, 1},
+      {1040 + 11115, "01", [](const Projekt& p) { return p.Seq_manuell; }, 0},
+      {1040 + 11118, "", [](const Projekt& p) { return p.Store_p1; }, 120},
+      {1040 + 11118, "90", [](const Projekt& p) { return p.Store_p1; }, 90},
+  };
+  for (const auto& fall : faelle) {
+    auto zeilen = grund;
+    zeilen.at(fall.zeile - 1) = fall.text;
+    Projekt p;
+    ASSERT_TRUE(Projekt_lesen(Verbinden(zeilen), p));
+    EXPECT_EQ(fall.wert(p), fall.soll) << "line " << fall.zeile << " '" << fall.text << "'";
+    EXPECT_EQ(p.Kamera_text[99], "X");
+  }
+
+  auto zeilen = grund;
+  zeilen[0] = "irgendein Programm";
+  zeilen[1040 + zeile_app - 1] = "3\r2\r";
+  Projekt p;
+  ASSERT_TRUE(Projekt_lesen(Verbinden(zeilen), p));
+  EXPECT_EQ(p.App_eigenschaften(0, +App_bereich), "2");
+  EXPECT_EQ(p.App_eigenschaften(0, +App_rueckmeldung), "640");
+}
+
+TEST(Projektdatei, AnyCutAndAnyGarbageOpens) {
+  Projekt voll = Volles_projekt("910");
+  for (int i = 4; i < eingangsereignisse; ++i) voll.Ein_leer[i] = 0;
+  for (int i = 4; i < uhrereignisse; ++i) voll.Uhr_leer[i] = 0;
+  const std::string bytes = Projekt_schreiben(voll);
+  const std::size_t zeile3 = bytes.find("ETB");
+  for (std::size_t n = zeile3; n < bytes.size(); n += 12007) {
+    Projekt p;
+    ASSERT_TRUE(Projekt_lesen(std::string_view(bytes).substr(0, n), p)) << n;
+  }
+  // A last line that is not closed counts; what follows keeps its reset value.
+  const std::size_t kennung = bytes.find("0123456701234567");
+  Projekt p;
+  ASSERT_TRUE(Projekt_lesen(std::string_view(bytes).substr(0, kennung + 4), p));
+  EXPECT_EQ(p.Projekt_kennung, "0123");
+  EXPECT_EQ(p.Notizen, voll.Notizen);
+  EXPECT_EQ(p.Sowi_modus[0], 1);
+  EXPECT_EQ(p.Grp_typ[0], 5);
+  EXPECT_EQ(p.Kamera_text[0], "X");
+
+  std::mt19937 zufall(3);
+  for (int lauf = 0; lauf < 21; ++lauf) {
+    static constexpr const char* versionen[] = {"910", "900", "800", "710", "700", "600", "500"};
+    std::string muell = std::string("\r\n") + versionen[lauf % 7] + "\r\n";
+    static constexpr std::string_view zeichen = "01\r\n\n\r-9@#X\xFD\xFF\0";
+    for (int i = 0; i < 20000; ++i) {
+      muell += lauf % 3 == 0 ? static_cast<char>(zufall()) : zeichen[zufall() % zeichen.size()];
+      if (lauf % 3 == 2) muell += "\r\n";
+    }
+    Projekt q;
+    ASSERT_TRUE(Projekt_lesen(muell, q));
+    Projekt_schreiben(q);
+  }
+  for (const std::string_view kurz : {"", "\r\n", "910", "910\r\n", "\n910\n", "x\r\n910 \r\n"}) {
+    Projekt q = Neues_projekt();
+    EXPECT_FALSE(Projekt_lesen(kurz, q));
+  }
+}
+
+TEST(Kamera, LineIsCutAtItsMarkersAndBuiltBack) {
+  Projekt p = Neues_projekt();
+  p.Kamera_text[1] = "Tor@01#Nord@02#10.0.0.1@03#ohne Port@05#@09#";
+  p.Kamera_text[4] = "Rest@01#";
+  Kamera_zerlegen(p);
+  EXPECT_EQ(p.Kamera_titel[1], "Tor");
+  EXPECT_EQ(p.Kamera_ip[1], "10.0.0.1");
+  EXPECT_EQ(p.Kamera_port[1], "") << "marker missing: reset value";
+  EXPECT_EQ(p.Kamera_controlport[1], "ohne Port");
+  EXPECT_EQ(p.Kamera_aktiv[1], "");
+  EXPECT_EQ(p.Kamera_usecase[1], "0");
+  EXPECT_EQ(p.Kamera_titel[0], "");
+  p.Kamera_titel[2] = "Hof";
+  Kamera_zusammensetzen(p);
+  EXPECT_EQ(p.Kamera_text[0], "X");
+  EXPECT_EQ(p.Kamera_text[1],
+            "Tor@01#Nord@02#10.0.0.1@03#@04#ohne Port@05#@06#@07#@08#@09#0@10#0@11#0@12#0@13#0@14#");
+  EXPECT_EQ(p.Kamera_text[2], "Hof@01#@02#@03#@04#@05#@06#@07#@08#0@09#0@10#0@11#0@12#0@13#0@14#");
+  EXPECT_EQ(p.Kamera_text[4], "Rest@01#");
+}
+
+// ---- the commands on the open project
+// -----------------------------------------------------------------------------
+
+class Befehle : public testing::Test {
+ protected:
+  Befehle() {
+    projekt = Projekt{};
+    sitzung = Sitzung{};
+    einstellungen = Einstellungen{};
+  }
+  Laden Oeffnen(const std::string& name) {
+    projekt.Projekt_name = ordner / name;
+    return Projekt_laden();
+  }
+  std::string Pfad_ohne_endung() const { return ordner / "haus"; }
+
+  Testordner ordner;
+  Meldungsskript skript;
+};
+
+TEST_F(Befehle, SavesAndLoadsUnderOneName) {
+  projekt = Volles_projekt("910");
+  projekt.Projekt_name = Pfad_ohne_endung();
+  ASSERT_EQ(Projekt_speichern(), Speichern::gespeichert);
+  EXPECT_TRUE(Dateibytes(ordner / "haus.zav") == Projekt_schreiben(projekt));
+  EXPECT_EQ(einstellungen.last_file[0], Pfad_ohne_endung());
+
+  const str kennung = projekt.Projekt_kennung;
+  einstellungen = Einstellungen{};
+  projekt.Notizen = "ungespeichert";
+  sitzung.Projekt_geaendert = 1;
+  sitzung.Master_neu_pruefen = 0;
+  ASSERT_EQ(Oeffnen("haus.zav"), Laden::geladen);
+  EXPECT_EQ(projekt.Projekt_name, Pfad_ohne_endung());
+  EXPECT_EQ(projekt.Projekt_kennung, kennung);
+  EXPECT_EQ(projekt.Notizen, Volles_projekt("910").Notizen);
+  EXPECT_EQ(sitzung.Projekt_geaendert, 0);
+  EXPECT_EQ(sitzung.Master_neu_pruefen, 1);
+  EXPECT_EQ(sitzung.Marke, "ETB");
+  EXPECT_EQ(einstellungen.last_file[0], Pfad_ohne_endung());
+  EXPECT_EQ(skript.zeiger(), Zeiger::normal);
+}
+
+TEST_F(Befehle, SavingTellsWhatItMust) {
+  projekt = Neues_projekt();
+  skript.erwarte(
+      {.text = "Der Speicherort ist unvollständig. Speichern Sie diese Datei bitte mit 'Projekt speichern "
+               "unter...'.",
+       .titel = "Unvollständige Dateiinformation",
+       .symbol = Symbol::Information});
+  EXPECT_EQ(Projekt_speichern(), Speichern::ohne_namen);
+  EXPECT_EQ(sitzung.Speicherfehler, 1);
+
+  projekt.Projekt_name = ordner / "kein/haus";
+  skript.erwarte(
+      {.text = "Datei oder Ordner nicht gefunden. Die Datei mit diesem Namen ist möglicherweise "
+               "schreibgeschützt. Speichern Sie sie mit 'Projekt speichern unter...' mit einem anderen "
+               "Namen oder in einen anderen Ordner.",
+       .titel = "ZAVlink: Fehler 2",
+       .symbol = Symbol::Stopp});
+  EXPECT_EQ(Projekt_speichern(), Speichern::nicht_angelegt);
+  EXPECT_EQ(projekt.Projekt_name, "Namenlos");
+  EXPECT_EQ(skript.pieptoene(), 1);
+
+  // A disk that is full while writing: no box, but the caller learns it.
+  std::filesystem::create_symlink("/dev/full", ordner / "voll.zav");
+  projekt.Projekt_name = ordner / "voll";
+  EXPECT_EQ(Projekt_speichern(), Speichern::nicht_geschrieben);
+  EXPECT_EQ(sitzung.Dateifehler, ENOSPC);
+  EXPECT_EQ(projekt.Projekt_name, ordner / "voll");
+}
+
+TEST_F(Befehle, LoadingTellsWhatItMust) {
+  const Meldung unbekannt{
+      .text =
+          "Öffnen nicht möglich: diese Datei wurde evtl. mit einer neueren Version von ZAVlink erstellt und "
+          "gespeichert.\r\n\r\n",
+      .titel = "Info",
+      .symbol = Symbol::Information};
+  projekt.Datei_version = "910";
+  Datei_anlegen(ordner / "kurz.zav", "nur eine Zeile\r\n");
+  skript.erwarte(unbekannt);
+  EXPECT_EQ(Oeffnen("kurz.zav"), Laden::unbekannt);
+  EXPECT_EQ(projekt.Datei_version, "910");
+  EXPECT_EQ(projekt.Projekt_name, "Namenlos");
+
+  Datei_anlegen(ordner / "neuer.zav", "x\r\n92\xFC\r\n");
+  Meldung mit_version = unbekannt;
+  mit_version.text += "Die Dateiversion ist: 92ü";
+  skript.erwarte(mit_version);
+  projekt.Notizen = "von vorher";
+  EXPECT_EQ(Oeffnen("neuer.zav"), Laden::unbekannt);
+  EXPECT_EQ(projekt.Datei_version, "92ü");
+  EXPECT_EQ(projekt.Notizen, "");
+
+  Datei_anlegen(ordner / "lang.zav", "x\r\n9100\r\n");
+  skript.erwarte(unbekannt);
+  EXPECT_EQ(Oeffnen("lang.zav"), Laden::unbekannt);
+
+  skript.erwarte(
+      {.text = "Datei oder Ordner nicht gefunden", .titel = "ZAVlink: Fehler 2", .symbol = Symbol::Stopp});
+  EXPECT_EQ(Oeffnen("fehlt.zav"), Laden::nicht_geoeffnet);
+  EXPECT_EQ(projekt.Projekt_name, "Namenlos");
+  EXPECT_EQ(skript.pieptoene(), 4);
+  EXPECT_EQ(einstellungen.last_file[0], "---");
+
+  // The dialog was cancelled: the project stays.
+  projekt.Notizen = "bleibt";
+  projekt.Projekt_name = "";
+  sitzung.Projekt_name_vorher = "/vorher";
+  EXPECT_EQ(Projekt_laden(), Laden::abgebrochen);
+  EXPECT_EQ(projekt.Projekt_name, "/vorher");
+  EXPECT_EQ(projekt.Notizen, "bleibt");
+}
+
+TEST_F(Befehle, Generation800IsAnnouncedAndItsDimmersCorrectedWithoutTheMarker) {
+  Projekt p = Neues_projekt("800");
+  p.Ein_leer[2] = 1;
+  static constexpr i16 paare[][3] = {{1, 1, 1}, {1, 0, 1},   {17, 17, 17}, {17, 3, 4},
+                                     {0, 2, 1}, {0, 18, 17}, {5, 7, 7}};
+  for (int j = 0; j < 7; ++j) p.Ein_dimmer(2, j, 0) = paare[j][0], p.Ein_dimmer(2, j, 1) = paare[j][1];
+  auto zeilen = Zeilen(Projekt_schreiben(p));
+  Datei_anlegen(ordner / "haus.zav", Verbinden(zeilen));
+  zeilen[2] = "";
+  Datei_anlegen(ordner / "alt.zav", Verbinden(zeilen));
+  const Meldung hinweis{.text =
+                            "Diese Datei wurde mit ZAVlink 8 erstellt und wird weiterhin so gespeichert. "
+                            "Wenn Sie die neuen Funktionen "
+                            "von ZAVlink-Version 9.102 nutzen möchten, wählen Sie 'Speichern unter' und den "
+                            "Dateityp 9. Achtung: Das "
+                            "Betriebssystem des ZAVmasters muss auf die Version 9 aufgerüstet werden.",
+                        .titel = "Öffnen mit der neuen Version von ZAVlink",
+                        .symbol = Symbol::Information};
+
+  skript.erwarte(hinweis);
+  ASSERT_EQ(Oeffnen("haus.zav"), Laden::geladen);
+  EXPECT_EQ(projekt.Ein_dimmer(2, 1, 1), 0);
+  EXPECT_EQ(projekt.Ein_funktext[2], 0);
+  skript.erwarte(hinweis);
+  ASSERT_EQ(Oeffnen("alt.zav"), Laden::geladen);
+  for (int j = 0; j < 7; ++j) EXPECT_EQ(projekt.Ein_dimmer(2, j, 1), paare[j][2]) << j;
+  EXPECT_EQ(projekt.Ein_funktext[2], 1);
+  EXPECT_EQ(sitzung.Marke, "");
+}
+
+TEST_F(Befehle, LastFilesKeepTheNewestFirst) {
+  const auto eintragen = [](const char* name) {
+    projekt.Projekt_name = name;
+    Letzte_dateien_eintragen();
+    std::string liste;
+    for (const str& e : einstellungen.last_file.alle()) liste += e + " ";
+    return liste;
+  };
+  EXPECT_EQ(eintragen("a"), "a --- --- --- ");
+  EXPECT_EQ(eintragen("b"), "b a --- --- ");
+  EXPECT_EQ(eintragen("c"), "c b a --- ");
+  EXPECT_EQ(eintragen("a"), "a c b --- ");
+  EXPECT_EQ(eintragen("a"), "a c b --- ");
+  eintragen("d");
+  EXPECT_EQ(eintragen("b"), "b d a c ");
+  EXPECT_EQ(eintragen("e"), "e b d a ");
+  EXPECT_EQ(eintragen("b"), "b e d a ");
+}
+
+}  // namespace
