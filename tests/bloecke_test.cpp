@@ -339,7 +339,7 @@ TEST(Plan, BloeckeFensterUndFortschritt) {
   p.Projekt_name = "Test";
   p.Projekt_kennung = "00000000000000AA";
   Einstellungen e;
-  const auto zeilen = [&](const Auswahl& a) {
+  const auto zeilen = [&](const Umfang& a) {
     std::vector<std::string> z;
     std::istringstream s(Abbild(p, e, a));
     for (std::string zeile; std::getline(s, zeile);) z.push_back(zeile);

@@ -239,14 +239,14 @@ std::optional<Fortschritt> Fortschritt_bei(const Abschnitt& a, int zeile) {
   return std::nullopt;
 }
 
-bool Plan_gehen(const Quelle& q, const Auswahl& auswahl, Plangaenger& gaenger) {
+bool Plan_gehen(const Quelle& q, const Umfang& umfang, Plangaenger& gaenger) {
   Block b;
   for (const Abschnitt& a : plan) {
-    if (a.nur_gesperrt && !auswahl.sperren) continue;
+    if (a.nur_gesperrt && !umfang.sperren) continue;
     gaenger.Abschnitt_beginnt(a);
     int gesendet = 0;
     for (int zeile = 0; zeile < a.zeilen; ++zeile) {
-      const bool faellig = !auswahl.nur_geaenderte || a.faellig == nullptr || a.faellig(q.projekt, zeile);
+      const bool faellig = !umfang.nur_geaenderte || a.faellig == nullptr || a.faellig(q.projekt, zeile);
       if (faellig) {
         b.leeren();
         a.packen(q, zeile, b);
@@ -269,10 +269,10 @@ Uhr_tafel Uhr_tafel_heute(const Projekt& p) {
   return Tageszeiten_berechnen(p, Sonnen_tabellen_fuellen(Heute().jahr), Zufall);
 }
 
-std::string Abbild(const Projekt& p, const Einstellungen& e, const Auswahl& auswahl) {
+std::string Abbild(const Projekt& p, const Einstellungen& e, const Umfang& umfang) {
   const Uhr_tafel Uhr_work = Uhr_tafel_heute(p);
   Abbildschreiber schreiber;
-  Plan_gehen({p, e, Uhr_work}, auswahl, schreiber);
+  Plan_gehen({p, e, Uhr_work}, umfang, schreiber);
   return std::move(schreiber.text);
 }
 

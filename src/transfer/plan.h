@@ -57,7 +57,8 @@ std::span<const Abschnitt> Plan();
 // Where the progress stands when the section is at that row.
 std::optional<Fortschritt> Fortschritt_bei(const Abschnitt& a, int zeile);
 
-struct Auswahl {
+// How much of the plan goes.
+struct Umfang {
   bool nur_geaenderte = true;  // else every row, flagged or not
   bool sperren = false;
 };
@@ -77,7 +78,7 @@ class Plangaenger {
 
 // Walks the whole plan. A block that a value cut short shows its box before it is handed out. False when the
 // walker, or a value too wide where that ends the run, has ended it.
-bool Plan_gehen(const Quelle& q, const Auswahl& auswahl, Plangaenger& gaenger);
+bool Plan_gehen(const Quelle& q, const Umfang& umfang, Plangaenger& gaenger);
 
 // Switching times of today's year with fresh random shifts, as a transfer needs them.
 Uhr_tafel Uhr_tafel_heute(const Projekt& p);
@@ -86,6 +87,6 @@ Uhr_tafel Uhr_tafel_heute(const Projekt& p);
 //   A <hex>                direct commands alike
 //   W <von> <bis> <hex>    through a window: first and last address, six digits each
 // Shows the boxes that a transfer would show for values too wide.
-std::string Abbild(const Projekt& p, const Einstellungen& e, const Auswahl& auswahl);
+std::string Abbild(const Projekt& p, const Einstellungen& e, const Umfang& umfang);
 
 }  // namespace zav
