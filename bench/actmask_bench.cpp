@@ -5,6 +5,9 @@
 #include <benchmark/benchmark.h>
 
 #include <algorithm>
+#include <string>
+
+#include "editor/ereignissuche.h"
 
 
 namespace zav {
@@ -48,6 +51,20 @@ void Oeffnen_und_OK(benchmark::State& state) {
   }
 }
 BENCHMARK(Oeffnen_und_OK)->Unit(benchmark::kMicrosecond);
+
+// Every event acts on the output: 1024 keys on 256 devices, 256 switching times, 64 timer steps.
+void Suchen(benchmark::State& state) {
+  Alles_belegen();
+  std::ranges::fill(projekt.Uhr_relais.alle(), i16{1});
+  std::ranges::fill(projekt.Tev_relais.alle(), i16{1});
+  for (int a = 0; a < adressen; ++a) {
+    projekt.App_typ[a] = 14;
+    projekt.App_text[a] = std::to_string(a);
+    projekt.App_text2[a] = "1";
+  }
+  for (auto _ : state) benchmark::DoNotOptimize(Ereignisse_suchen({Ziel::Art::Relais, 511}));
+}
+BENCHMARK(Suchen)->Unit(benchmark::kMicrosecond);
 
 }  // namespace
 }  // namespace zav

@@ -1,0 +1,265 @@
+// The smaller editors of the installation: timers, restart states, dimmer modes, event search, touchpanel reference.
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <set>
+#include <string>
+#include <vector>
+
+#include "editor/actmask.h"
+#include "editor/actmask_init.h"
+#include "editor/actmask_timer.h"
+#include "editor/actmask_uhr.h"
+#include "editor/backref.h"
+#include "editor/dimmermode.h"
+#include "editor/ereignissuche.h"
+#include "editor/timer_trepp.h"
+#include "editor/touchpanel_referenz.h"
+#include "form/drehbuch.h"
+#include "store/sitzung.h"
+
+namespace zav {
+namespace {
+
+class Kleine_editoren : public testing::Test {
+ protected:
+  void SetUp() override {
+    Projekt_reset();
+    sitzung.Projekt_geaendert = 0;
+  }
+  void TearDown() override {
+    EXPECT_EQ(d.maengel(), "");
+    Projekt_reset();
+  }
+  // A Kombination with one device at its place 0.
+  void Apparat_setzen(int k, const std::string& stock, const std::string& raum, int typ, int adresse, int anzahl) {
+    projekt.Komb_typ[k] = 1;
+    projekt.Komb_text[k] = stock;
+    projekt.Komb_text2[k] = raum;
+    projekt.App_typ[16 * k] = static_cast<i16>(typ);
+    projekt.App_text[16 * k] = std::to_string(adresse);
+    projekt.App_text2[16 * k] = std::to_string(anzahl);
+  }
+  Drehbuch d;
+};
+
+template <class F, class... A>
+void Platzierung_pruefen(A... argumente) {
+  F form(argumente...);
+  const auto platziert = Platzierte(form.anordnung());
+  EXPECT_EQ(platziert.size(), form.elemente().size()) << form.name();
+  EXPECT_EQ(std::multiset<const Steuerelement*>(platziert.begin(), platziert.end()),
+            std::multiset<const Steuerelement*>(form.elemente().begin(), form.elemente().end()))
+      << form.name();
+}
+
+TEST_F(Kleine_editoren, EveryControlIsPlacedOnce) {
+  Platzierung_pruefen<Actmask>(0, "");
+  Platzierung_pruefen<Actmask_uhr>(0, "");
+  Platzierung_pruefen<Actmask_timer>(0, "");
+  Platzierung_pruefen<Timer_trepp>();
+  Platzierung_pruefen<Actmask_init>();
+  Platzierung_pruefen<Dimmermode>();
+  Platzierung_pruefen<Backref>();
+  Platzierung_pruefen<Touchpanel_Referenz>();
+}
+
+TEST_F(Kleine_editoren, TimerTimesAreCheckedOnLeavingTheField) {
+  const std::string form = "Eingabe im Format HH.MM.SS oder HH.MM, Maximalwert 17.59.59";
+  struct Fall {
+    const char* eingabe;
+    const char* steht_dann;
+    std::string meldung;
+  };
+  Timer_trepp m;
+  for (const Fall& f : {Fall{"17.59.59", "17.59.59", ""}, {"05.30", "05.30.00", ""}, {"", "HH.MM.SS", ""},
+                        {"HH.MM.SS", "HH.MM.SS", ""}, {"18.00.00", "HH.MM.SS", "Stunde zu gross"},
+                        {"18.00", "HH.MM.SS", "Stunde zu gross"}, {"00.60.00", "HH.MM.SS", "Minute zu gross"},
+                        {"00.00.60", "HH.MM.SS", "Sekunde zu gross"}, {"0.30", "HH.MM.SS", form},
+                        {"12:30", "HH.MM.SS", form}, {"12.30:00", "HH.MM.SS", form}, {"ab.cd.ef", "HH.MM.SS", form},
+                        {"-1.00.00", "HH.MM.SS", form}, {"00.00.1ü", "HH.MM.SS", form}}) {
+    SCOPED_TRACE(f.eingabe);
+    if (!f.meldung.empty()) d.erwarte({.text = f.meldung});
+    m.Ttime[47].ausfuellen(f.eingabe);
+    EXPECT_EQ(m.Ttime[47].text(), f.steht_dann);
+    EXPECT_EQ(d.maengel(), "");
+  }
+}
+
+TEST_F(Kleine_editoren, TimersAreNamedTimedAndGivenFunctions) {
+  projekt.Timer_zeit[3] = "00.05.00";
+  projekt.Tev_leer[60] = 1;  // marked in use, but without a function
+  Timer_trepp m;
+  EXPECT_EQ(m.titel(), "Timer Manager");
+  EXPECT_EQ(m.Ttime[3].text(), "00.05.00");
+  EXPECT_EQ(m.Tevent[60].farbe, Farbe::belegt);
+  m.Txtbox_timerbez[1].eingeben("Treppenhaus");
+  EXPECT_EQ(m.Tnr[1].farbe, Farbe::belegt);
+  d.erwarte_dialog<Actmask_timer>([](Actmask_timer& a) {
+    EXPECT_EQ(a.titel(), "Funktionen für Timer-Ereignis: Treppenhaus");
+    a.Check2[0].haken(true);
+    a.Slider1[0].schieben(30);
+    a.Command5.druecken();
+  });
+  m.Tevent[7].druecken();
+  EXPECT_EQ(m.Tevent[7].farbe, Farbe::belegt);
+  EXPECT_EQ(projekt.Tev_dimmer(7, 0, 2), 30);
+
+  m.Ttime[3].eingeben("");
+  m.Ttime[4].eingeben("1.00.00");
+  d.erwarte({.text = "Eingabe im Format HH.MM.SS oder HH.MM, Maximalwert 17.59.59"});
+  m.OK.druecken();
+  EXPECT_TRUE(m.offen()) << "Enter does not get past a wrong time";
+  EXPECT_EQ(projekt.Timer_text[1], "");
+  m.Ttime[5].eingeben("01.30");
+  m.schliessen_wuenschen();
+  EXPECT_FALSE(m.offen());
+  EXPECT_EQ(projekt.Timer_text[1], "Treppenhaus");
+  EXPECT_EQ(projekt.Timer_zeit[3], "");
+  EXPECT_EQ(projekt.Timer_zeit[5], "01.30.00");
+  EXPECT_EQ(projekt.Tev_leer[7], 1);
+  EXPECT_EQ(projekt.Tev_leer[60], 0);
+  EXPECT_EQ(sitzung.Projekt_geaendert, 1);
+}
+
+TEST_F(Kleine_editoren, RestartStates) {
+  projekt.Dimmer_neustart[5] = 60;
+  projekt.Relais_neustart_a[9] = 2;
+  Actmask_init m;
+  EXPECT_EQ(m.Baugruppe.position(), 0);
+  EXPECT_EQ(m.Dimmbaugruppe.eintrag(1).farbe, Farbe::belegt);
+  EXPECT_EQ(m.Intens[0].text(), "Zustand wie vorher");
+  m.Slider1[0].schieben(2);
+  EXPECT_EQ(m.Intens[0].text(), "2");
+  m.Command1[0].druecken();
+  EXPECT_EQ(m.Intens[0].text(), "Aus");
+  m.Alle_512[1].druecken();
+  m.Baugruppe.waehlen(63);
+  EXPECT_EQ(m.Combo1[7].text(), "Einschalten");
+  m.Alle_8[0].druecken();
+  m.Combo1[7].waehlen("Zustand wie vorher");
+  m.Text1[7].eingeben("Pumpe");
+  EXPECT_EQ(m.Baugruppe.eintrag(63).farbe, Farbe::belegt);
+  m.Command5.druecken();
+  EXPECT_EQ(projekt.Relais_neustart[0], 1);
+  EXPECT_EQ(projekt.Relais_neustart[510], 0);
+  EXPECT_EQ(projekt.Relais_neustart[511], 2);
+  EXPECT_EQ(projekt.Relais_text[511], "Pumpe");
+  EXPECT_EQ(projekt.Dimmer_neustart[0], 1);
+  EXPECT_EQ(projekt.Dimmer_neustart[5], 60);
+  EXPECT_EQ(projekt.Relais_neustart_a[9], 2);
+
+  const Projekt vorher = projekt;
+  Actmask_init abbruch;
+  abbruch.Alle_512[0].druecken();
+  abbruch.Text2[0].eingeben("x");
+  abbruch.Command6.druecken();
+  EXPECT_TRUE(projekt == vorher);
+}
+
+TEST_F(Kleine_editoren, ADimmerHasExactlyOneMode) {
+  projekt.Dimmer_text[127] = "Spots";
+  projekt.Dimmer_modus[0] = 1;
+  Dimmermode m;
+  EXPECT_TRUE(!m.Check1[0].an() && m.Check2[0].an());
+  m.Check2[0].haken(false);
+  EXPECT_TRUE(m.Check2[0].an()) << "only the other one takes it away";
+  m.Check1[0].haken(true);
+  EXPECT_FALSE(m.Check2[0].an());
+  m.TabStrip1.waehlen(7);
+  EXPECT_EQ(m.Lnr[15].titel, "D31-3");
+  EXPECT_EQ(m.Text1[15].text(), "Spots");
+  m.Check2[15].haken(true);
+  EXPECT_EQ(projekt.Dimmer_modus[0], 1) << "nothing before OK";
+  m.OK.druecken();
+  EXPECT_EQ(projekt.Dimmer_modus[0], 0);
+  EXPECT_EQ(projekt.Dimmer_modus[127], 1);
+}
+
+TEST_F(Kleine_editoren, TheSearchFindsEveryEventOfAnOutput) {
+  Apparat_setzen(0, "EG", "Küche", 14, 12, 1);
+  projekt.Dev_text[3] = "Licht";
+  projekt.Ein_relais(4 * 12 + 3, 29) = 4;
+  Apparat_setzen(1, "EG", "Gang", 45, 20, 2);  // edges: offsets 2 and 3 are key 1
+  projekt.Dev_text[128 + 1] = "Melder";
+  projekt.Ein_relais(4 * 20 + 2, 29) = 2;
+  projekt.Ein_relais(4 * 20 + 3, 29) = 1;
+  Apparat_setzen(2, "Dach", "Wetter", 75, 252, 4);
+  projekt.Ein_relais(4 * 252, 29) = 5;
+  projekt.Ein_relais(4 * 252 + 15, 29) = 5;
+  projekt.Ein_relais(0, 29) = 1;  // no device there
+  projekt.Uhr_relais(128 + 7 * 16 + 15, 29) = 2;
+  projekt.Uhr_text[255] = "Abend";
+  projekt.Uhr_zeit[255] = "18.00.00";
+  projekt.Uhr_relais(6 * 16, 29) = 2;
+  projekt.Tev_relais(63, 29) = 1;
+  projekt.Timer_text[15] = "Treppe";
+  const std::string erwartet =
+      "i12 - EG - Küche: Licht\r\n"
+      "i20 - EG - Gang: Melder\r\n"
+      "i20 - EG - Gang: Melder\r\n"
+      "i252 - Dach - Wetter:  Wetterfunktion 0 - Prüfbedingung erfüllt\r\n"
+      "i252 - Dach - Wetter:  Wetterfunktion 7 - Prüfbedingung nicht erfüllt\r\n"
+      "Uhr 1, Sonntag, Zeit 0:  - \r\n"
+      "Uhr 2, Täglich, Zeit 15: Abend - 18.00.00\r\n"
+      "T15-3: Treppe\r\n";
+  EXPECT_EQ(Ereignisse_suchen({Ziel::Art::Relais, 29}), erwartet);
+
+  projekt.Ein_dimmer(4 * 12, 29, 3) = 1;
+  projekt.Ein_timer(4 * 12 + 1, 5) = 2;
+  projekt.Uhr_timer(0, 5) = 1;
+  EXPECT_EQ(Ereignisse_suchen({Ziel::Art::Dimmer, 29}), "i12 - EG - Küche: \r\n");
+  EXPECT_EQ(Ereignisse_suchen({Ziel::Art::Timer, 5}), "i12 - EG - Küche: \r\nUhr 1, Montag, Zeit 0:  - \r\n");
+  projekt.App_text2[0] = "999999999999";  // what a damaged file may hold
+  projekt.App_text[16] = "abc";
+  EXPECT_NO_THROW(Ereignisse_suchen({Ziel::Art::Relais, 29}));
+  projekt.App_text2[0] = "1";
+
+  projekt.Timer_text[5] = "Lüfter";
+  Backref b;
+  EXPECT_EQ(b.Text2.text(), "Anzeige des Suchergebnisses...");
+  EXPECT_EQ(b.Combo1.eintrag(29).text, "O3-5: ");
+  b.Command1[2].druecken();
+  b.Combo1.waehlen("T5: Lüfter");
+  b.Command2.druecken();
+  EXPECT_EQ(b.Text2.text(), Ereignisse_suchen({Ziel::Art::Timer, 5}));
+  b.Command1[1].druecken();
+  EXPECT_EQ(b.Combo1.anzahl(), 128);
+  b.Combo1.waehlen(29);
+  b.Command2.druecken();
+  EXPECT_EQ(b.Text2.text(), "i12 - EG - Küche: \r\n") << "a search replaces the text";
+}
+
+TEST_F(Kleine_editoren, TouchpanelReference) {
+  Apparat_setzen(0, "EG", "Küche", 14, 31, 1);
+  projekt.Dev_text[1] = "Licht";
+  projekt.Dev_text[8 * 2] = "Reserve";  // a place without a device
+  Apparat_setzen(1, "EG", "Wohnen", 65, 200, 6);
+  projekt.Dev_text[128 + 23] = "Taste 24";  // on the places behind the sender
+  projekt.Relais_text[29] = "Decke";
+  projekt.Dimmer_text[127] = "Spots";
+  const std::string text = Touchpanel_text();
+  EXPECT_EQ(text.substr(0, text.find("Rückmeldungen SWITCH")),
+            "================================\r\n"
+            "TASTEN UND EINGAENGE\r\n"
+            "================================\r\n"
+            "EG - Küche\r\n"
+            "   Licht ---> GR  1F\r\n"
+            "   Reserve\r\n"
+            "- - - - - - - - - - - - - - - -\r\n"
+            "EG - Wohnen\r\n"
+            "   Taste 24 ---> GR  C8\r\n"
+            "- - - - - - - - - - - - - - - -\r\n");
+  EXPECT_NE(text.find("\r\nO3-5: Decke ---> GR  1D\r\n"), std::string::npos);
+  EXPECT_NE(text.find("Rückmeldungen DIMMER\r\n"), std::string::npos);
+  EXPECT_NE(text.find("\r\nD31-3: Spots ---> GR  27F\r\n"), std::string::npos);
+
+  Touchpanel_Referenz m;
+  m.Command1.druecken();
+  EXPECT_EQ(d.zwischenablage(), text);
+  m.Command2.druecken();
+  EXPECT_FALSE(m.offen());
+}
+
+}  // namespace
+}  // namespace zav
