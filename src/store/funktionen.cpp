@@ -197,6 +197,20 @@ bool Hat_funktionen(Ereignisart art, int ereignis) {
   return benutzt(z.relais) || benutzt(z.dimmer) || benutzt(z.timer);
 }
 
+std::string Funktionszeichen(Ereignisart art, int ereignis) {
+  const auto benutzt = [](auto wert) { return wert != 0; };
+  const Ereigniszeilen z = Zeilen_von(art, ereignis);
+  bool dimmt = false;
+  for (std::size_t d = 0; d < z.dimmer.size() && !dimmt; d += dimmerparameter) {
+    dimmt = z.dimmer[d + dimmer_auf] >= 1 || z.dimmer[d + dimmer_ab] >= 1 || z.dimmer[d + dimmer_helligkeit] >= 1;
+  }
+  std::string zeichen;
+  if (std::any_of(z.relais.begin(), z.relais.end(), benutzt)) zeichen += "O";
+  if (dimmt) zeichen += "D";
+  if (std::any_of(z.timer.begin(), z.timer.end(), benutzt)) zeichen += "T";
+  return zeichen;
+}
+
 void Leer_berechnen(Ereignisart art, int ereignis) {
   Zeilen_von(art, ereignis).leer = Hat_funktionen(art, ereignis) ? 1 : 0;
 }
