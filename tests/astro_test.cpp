@@ -1,0 +1,227 @@
+// The time rule of a switching time and the sun information, as a person uses them. Sun times were worked out
+// with a desk calculator from the formula; the day is 29 March 2026, the first of summer time, unless a test
+// says otherwise.
+#include <gtest/gtest.h>
+
+#include "form/drehbuch.h"
+#include "platform/uhrwerk.h"
+#include "store/projekt.h"
+#include "store/sitzung.h"
+#include "time/sonneninfo.h"
+#include "time/uhr_astro.h"
+#include "time/uhr_astro_rechner.h"
+
+namespace zav {
+namespace {
+
+using Rolle = Tagesbild::Rolle;
+using Marke = Tagesbild::Marke;
+using Band = Tagesbild::Band;
+
+constexpr int e = 200;
+const Datum tag{2026, 3, 29};  // sunrise 07.18.23, sunset 19.58.34
+constexpr int aufgang = 7 * 3600 + 18 * 60 + 23;
+constexpr int untergang = 19 * 3600 + 58 * 60 + 34;
+
+double Ort(int sekunden) { return sekunden / 9.0 + 500; }
+
+class Astro : public ::testing::Test {
+ protected:
+  Astro() {
+    Projekt_reset();
+    sitzung = {};
+    Heute_setzen(tag);
+  }
+  ~Astro() override { EXPECT_EQ(d.maengel(), ""); }
+  Drehbuch d;
+};
+
+TEST_F(Astro, FixedTimeWithRandomShiftGoesIntoTheProjectOnlyWithOk) {
+  Uhr_Astro f(e, "Licht", "");
+  EXPECT_EQ(f.titel(), "Beeinflussung der Schaltzeit: Licht");
+  EXPECT_EQ(f.Label3.titel, "<--- Bitte Zeit eingeben, Format HH.MM.SS");
+  f.beim_oeffnen();
+  EXPECT_FALSE(f.bild()) << "nothing to show for a row without a time";
+  EXPECT_TRUE(!f.Frame3.sichtbar && !f.Frame6.sichtbar && !f.Frame8.sichtbar && !f.Slider1.frei);
+
+  f.Text14.eingeben("12.00.00");
+  f.Combo_Astro.waehlen("Normal + Zufall");
+  EXPECT_TRUE(f.Frame6.sichtbar);
+  d.erwarte({.text = "Bitte Eingabe korrigieren"});
+  f.Check4.haken(true);
+  EXPECT_EQ(f.Text19.text(), "Richtig: hh.mm.ss");
+  f.Text19.eingeben("00.31.00");
+  d.erwarte({.text = "Maximalwert eingesetzt"});
+  f.Command7.druecken();
+  ASSERT_TRUE(f.bild());
+  EXPECT_EQ(f.bild()->marken, (std::vector<Marke>{{Rolle::schaltzeit, 5300, "12.00.00"}}));
+  EXPECT_EQ(f.bild()->band, (Band{5300, 5500, "12.00.00", "12.30.00"}));
+  EXPECT_EQ(projekt.Uhr_astro[e], 0);
+  f.Command1.druecken();
+  EXPECT_EQ(f.zeit_neu, "12.00.00 mit Zufall");
+  EXPECT_EQ(projekt.Uhr_astro[e], 1);
+  EXPECT_EQ(projekt.Uhr_f5[e], "00.30.00");
+  EXPECT_EQ(projekt.Uhr_funktext[e], 0) << "the functions are what they were";
+  EXPECT_EQ(projekt.Uhr_tabelle_geaendert, 1);
+  EXPECT_EQ(sitzung.Projekt_geaendert, 1);
+
+  Uhr_Astro wieder(e, "", "12.00.00 mit Zufall");
+  EXPECT_EQ(wieder.Text14.text(), "12.00.00");
+  EXPECT_TRUE(wieder.Check4.an() && wieder.Text19.frei && !wieder.Check3.an() && !wieder.Text18.frei);
+  wieder.Combo_Astro.waehlen("Normal");
+  EXPECT_EQ(wieder.Text19.text(), "");
+  wieder.schliessen_wuenschen();
+  EXPECT_FALSE(wieder.zeit_neu);
+  EXPECT_EQ(projekt.Uhr_f5[e], "00.30.00");
+}
+
+TEST_F(Astro, ModesShowTheirFramesAndKeepTheTypedTime) {
+  Uhr_Astro f(e, "", "06.30.00");
+  struct Fall {
+    int modus;
+    const char *text, *frame;
+    bool sonne, zufall;
+  };
+  for (const Fall& fall :
+       std::vector<Fall>{{2, "Aufgang", "Schaltzeit bei Sonnenaufgang", true, false},
+                         {3, "Aufgang + Zufall", "Schaltzeit bei Sonnenaufgang", true, true},
+                         {4, "Untergang", "Schaltzeit bei Sonnenuntergang", true, false},
+                         {5, "Untergang + Zufall", "Schaltzeit bei Sonnenuntergang", true, true},
+                         {1, "06.30.00", "", false, true},
+                         {0, "06.30.00", "", false, false}}) {
+    f.Combo_Astro.waehlen(fall.modus);
+    EXPECT_EQ(f.Text14.text(), fall.text);
+    EXPECT_EQ(f.Text14.nur_lesen, fall.sonne);
+    if (fall.sonne) {
+      EXPECT_EQ(f.Frame3.titel, fall.frame);
+    }
+    EXPECT_TRUE(f.Frame3.sichtbar == fall.sonne && f.Frame8.sichtbar == fall.sonne &&
+                f.Slider1.frei == fall.sonne);
+    EXPECT_EQ(f.Frame6.sichtbar, fall.zufall);
+  }
+}
+
+TEST_F(Astro, CheckStopsAtABadTimeAndGoesOnAfterABound) {
+  projekt.Uhr_astro[e] = 5;
+  projekt.Uhr_tag[e] = 1;
+  projekt.Uhr_f1[e] = "02.00.01";
+  projekt.Uhr_f2[e] = "12.59.59";
+  projekt.Uhr_f3[e] = "23.00.01";
+  projekt.Uhr_f4[e] = "00.60.00";
+  Uhr_Astro f(e, "", "Untergang + Zufall");
+  d.erwarte({.text = "Bitte Eingabe korrigieren"});
+  f.Command1.druecken();
+  EXPECT_TRUE(f.offen());
+  EXPECT_EQ(f.Text18.text(), "Minute zu gross");
+  EXPECT_EQ(f.fokus(), &f.Text18);
+  EXPECT_EQ(f.Text15.text(), "02.00.01") << "not reached";
+  f.Text18.eingeben("00.10.00");
+  d.erwarte_text("Maximalwert eingesetzt");
+  d.erwarte_text("Minimalwert eingesetzt");
+  d.erwarte_text("Maximalwert eingesetzt");
+  f.Command1.druecken();
+  EXPECT_FALSE(f.offen());
+  EXPECT_EQ(projekt.Uhr_f1[e], "02.00.00");
+  EXPECT_EQ(projekt.Uhr_f2[e], "13.00.00");
+  EXPECT_EQ(projekt.Uhr_f3[e], "23.00.00");
+  EXPECT_EQ(f.zeit_neu, "Untergang + Zufall");
+
+  // The same limits belong to the other half of the day.
+  Uhr_Astro morgens(e, "", "Untergang + Zufall");
+  d.erwarte_text("Maximalwert eingesetzt");
+  morgens.Combo_Astro.waehlen("Sonnenaufgang");
+  EXPECT_EQ(morgens.Text17.text(), "11.00.00");
+  morgens.Option3.waehlen(0);
+  EXPECT_EQ(morgens.Text15.text() + morgens.Text16.text() + morgens.Text17.text(), "");
+  EXPECT_FALSE(morgens.Check1.an() || morgens.Check2.an() || morgens.Option4.frei || morgens.Option5.frei);
+  morgens.Command4.druecken();
+}
+
+TEST_F(Astro, PictureOfASunRuleFollowsTheDay) {
+  projekt.Uhr_astro[e] = 3;
+  projekt.Uhr_tag[e] = 2;
+  projekt.Uhr_f1[e] = "00.30.00";
+  projekt.Uhr_f2[e] = "07.00.00";
+  projekt.Uhr_f3[e] = "08.00.00";
+  projekt.Uhr_f4[e] = "00.10.00";
+  projekt.Uhr_f5[e] = "00.05.00";
+  projekt.Uhr_f7[e] = 1;
+  Uhr_Astro f(e, "", "Aufgang + Zufall");
+  f.beim_oeffnen();
+  EXPECT_EQ(f.Slider1.wert(), 88);
+  EXPECT_EQ(f.Label2.titel, "Datum: Sonntag 29.03.2026");
+  EXPECT_EQ(f.Label4.titel, "Sommerzeit");
+  ASSERT_TRUE(f.bild());
+  EXPECT_EQ(f.bild()->marken, (std::vector<Marke>{{Rolle::aufgang, Ort(aufgang), "07.18.23"},
+                                                  {Rolle::untergang, Ort(untergang), "19.58.34"},
+                                                  {Rolle::untere_limite, Ort(7 * 3600), "07.00.00"},
+                                                  {Rolle::obere_limite, Ort(8 * 3600), "08.00.00"},
+                                                  {Rolle::schaltzeit, Ort(aufgang + 1800), "07.48.23"}}));
+  EXPECT_EQ(f.bild()->band, (Band{Ort(aufgang + 1200), Ort(aufgang + 2100), "07.38.23", "07.53.23"}));
+  EXPECT_EQ(f.Label10.titel, "Schaltzeit ok");
+  EXPECT_EQ(f.Label11.titel, "Schaltzeit 07.38.23 bis 07.53.23");
+
+  f.Command2.druecken();  // the last day of winter time, sunrise 06.20.26: from 06.40.26 on
+  EXPECT_EQ(f.Label4.titel, "Winterzeit");
+  EXPECT_EQ(f.bild()->marken[0].text, "06.20.26");
+  EXPECT_EQ(f.Label10.titel, "Schaltzeit bei Limite");
+  f.Option4.waehlen(1);
+  EXPECT_EQ(f.Label10.titel, "Schaltzeit unterdrückt");
+  f.Slider1.schieben(1);  // 08.21.43, band to 08.56.43
+  EXPECT_EQ(f.Label2.titel, "Datum: Donnerstag 01.01.2026");
+  EXPECT_EQ(f.Label10.titel, "Schaltzeit unterdrückt");
+  f.Option5.waehlen(0);
+  EXPECT_EQ(f.Label10.titel, "Schaltzeit bei Limite");
+  f.Command2.druecken();
+  EXPECT_EQ(f.Slider1.wert(), 1) << "stays in the year";
+  f.Command6.druecken();
+  EXPECT_EQ(f.Slider1.wert(), 88);
+}
+
+TEST_F(Astro, StatusCountsOnlyTimesBeyondALimit) {
+  const Schaltregel regel{.astro = 2, .f2 = "07.18.23", .f3 = "07.18.23"};
+  EXPECT_EQ(Tagesbild_von(regel, "", tag).status, "Schaltzeit ok");
+  const Schaltregel frueh{
+      .astro = 2, .tag = 1, .f1 = "02.00.00", .f2 = "07.18.23", .f3 = "05.00.00", .f6 = 1};
+  EXPECT_EQ(Tagesbild_von(frueh, "", tag).status, "Schaltzeit unterdrückt") << "the lower limit speaks last";
+  EXPECT_EQ(Skala_ort(0), 500);
+  EXPECT_EQ(Skala_ort(86400), 10100);
+  // Near midnight the band ends with the day.
+  const auto bild = Tagesbild_von({.astro = 1, .f4 = "00.30.00"}, "00.10.00", tag);
+  EXPECT_EQ(bild.band->von, 500);
+  EXPECT_EQ(bild.status, "");
+}
+
+TEST_F(Astro, SunInformationOfADayAndAYear) {
+  Uhr_Astro astro(e, "", "");
+  d.erwarte_dialog<Uhr_Astro_Rechner>([this](Uhr_Astro_Rechner& f) {
+    EXPECT_EQ(f.Text1.text(), "29.03.2026");
+    EXPECT_EQ(f.Text4.text() + " " + f.Text5.text() + " " + f.Text8.text(), "07.18.23 19.58.34 Sommerzeit");
+    EXPECT_EQ(f.Text6.text() + " " + f.Text7.text(), "29.03.2026 25.10.2026");
+    EXPECT_TRUE(f.Text9.text().starts_with("Listet alle Schaltzeiten des ausgewählten Jahres auf"));
+    EXPECT_FALSE(f.Kalender.sichtbar);
+    f.Command2.druecken();
+    f.Kalender.waehlen({2024, 2, 29});
+    EXPECT_FALSE(f.Kalender.sichtbar);
+    EXPECT_EQ(f.Text4.text() + " " + f.Text5.text() + " " + f.Text8.text(), "07.14.53 18.17.37 Winterzeit");
+    EXPECT_EQ(f.Text6.text(), "31.03.2024") << "a last of March that is a Sunday itself";
+    f.Command3.druecken();
+    const std::string& liste = f.Text9.text();
+    EXPECT_TRUE(liste.starts_with("Sonnenauf- und -untergang\nJanuar 2024\n01.01.2024   A: "));
+    EXPECT_NE(liste.find("\nFebruar 2024\n"), std::string::npos);
+    EXPECT_NE(liste.find("29.02.2024   A: 07:14:53   U: 18:17:37\nMärz 2024\n"), std::string::npos);
+    EXPECT_EQ(std::count(liste.begin(), liste.end(), '\n'), 1 + 12 + 366);
+
+    d.erwarte_text("Bitte ein Datum im Format TT.MM.JJJJ eingeben");
+    f.Text1.ausfuellen("29.02.2026");
+    EXPECT_EQ(f.Text1.text(), "29.02.2024");
+    f.Text1.ausfuellen("25.10.26");
+    EXPECT_EQ(f.Text4.text() + " " + f.Text8.text(), "07.13.42 Winterzeit");
+    f.Command1.druecken();
+  });
+  astro.Command5.druecken();
+  EXPECT_EQ(Sonnenliste(2026).find("29.02.2026"), std::string::npos);
+}
+
+}  // namespace
+}  // namespace zav

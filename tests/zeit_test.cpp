@@ -1,0 +1,406 @@
+// The switching clocks, the sequencer and the clock page, as a person uses them.
+#include <gtest/gtest.h>
+
+#include "editor/actmask_uhr.h"
+#include "form/drehbuch.h"
+#include "link/leitung.h"
+#include "platform/uhrwerk.h"
+#include "simulator/simulator.h"
+#include "store/projekt.h"
+#include "store/sitzung.h"
+#include "time/form_setup_uhr.h"
+#include "time/schaltzeile.h"
+#include "time/uhr.h"
+#include "time/uhr_astro.h"
+#include "time/uhr_astro_rechner.h"
+#include "time/uhrseite.h"
+
+namespace zav {
+namespace {
+
+class Zeit : public ::testing::Test {
+ protected:
+  Zeit() {
+    Projekt_reset();
+    sitzung = {};
+    einstellungen = {};
+    Heute_setzen({2026, 3, 29});
+  }
+  ~Zeit() override { EXPECT_EQ(d.maengel(), ""); }
+
+  void Schliessen(Uhr& f) {
+    d.erwarte({.text = "Bitte wenn nötig den Schaltuhr-Sequenzer anpassen"});
+    f.OK.druecken();
+    EXPECT_FALSE(f.offen());
+  }
+  // Texts of the first rows of the page, separated by "|".
+  static std::string Zeilen(const Uhr& f, std::size_t n) {
+    std::string text;
+    for (std::size_t r = 0; r < n; ++r)
+      text += f.Schaltzweck_txt[r].text() + "=" + f.Schaltzeit_txt[r].text() + "|";
+    return text;
+  }
+  static int Markiert() { return static_cast<int>(std::ranges::count(projekt.Uhr_funktext.alle(), 1)); }
+
+  Drehbuch d;
+};
+
+// ---- Uhr
+// -----------------------------------------------------------------------------------------------------------
+
+TEST_F(Zeit, RowGetsTimeAndFunctionsAndTheTextsComeAtClose) {
+  Uhr f;
+  EXPECT_EQ(f.titel(), "Schaltuhr 1");
+  f.Uhr_auswahl.waehlen(1);
+  f.TabStrip1.waehlen("Täglich");
+  EXPECT_EQ(f.Frame1.titel, "Schaltuhr 2");
+  EXPECT_EQ(f.Uhr_auswahl.eintrag(1).farbe, Farbe::uhr2);
+  f.Schaltzweck_txt[3].eingeben("Storen im Wohnzimmer öffnen");
+  EXPECT_EQ(f.Schaltzweck_txt[3].text(), "Storen im Wohnzimmer öffn") << "25 characters";
+  EXPECT_EQ(f.Label1[3].farbe, Farbe::uhr2);
+
+  d.erwarte_dialog<Uhr_Astro>([](Uhr_Astro& a) {
+    EXPECT_EQ(a.titel(), "Beeinflussung der Schaltzeit: Storen im Wohnzimmer öffn");
+    a.Combo_Astro.waehlen("Sonnenaufgang");
+    a.Command1.druecken();
+  });
+  f.Zeitsetz[3].druecken();
+  EXPECT_EQ(f.Schaltzeit_txt[3].text(), "Aufgang");
+  d.erwarte_dialog<Actmask_uhr>([](Actmask_uhr& a) {
+    EXPECT_EQ(a.titel(), "Funktionen für Schaltzeit: Storen im Wohnzimmer öffn - Aufgang");
+    a.Check1[5].haken(true);
+    a.Combo1[5].waehlen(2);
+    a.Command5.druecken();
+  });
+  f.Funktion[3].druecken();
+  EXPECT_EQ(f.Funktion[3].titel, "O");
+  const int e = 243;
+  EXPECT_EQ(projekt.Uhr_astro[e], 2);
+  EXPECT_EQ(projekt.Uhr_relais(e, 5), 2);
+  EXPECT_EQ(projekt.Uhr_zeit[e], "");
+  // A cancelled rule leaves the row; another row takes the tint, this one shows that it is in use.
+  d.erwarte_dialog<Uhr_Astro>([](Uhr_Astro& a) { a.Command4.druecken(); });
+  f.Zeitsetz[4].druecken();
+  EXPECT_EQ(f.Schaltzeit_txt[4].text(), "");
+  EXPECT_EQ(f.Label1[3].farbe, Farbe::belegt);
+  projekt.Uhr_relais(7, 0) = 1;  // Monday, clock 1: was in the file without its flag
+  projekt.Uhr_leer[9] = 1;
+  projekt.Uhr_dimmer(9, 3, 1) = -1;
+  projekt.Uhr_dimmer(9, 3, 3) = 5;
+  Schliessen(f);
+  EXPECT_EQ(projekt.Uhr_zeit[e], "Aufgang");
+  EXPECT_EQ(projekt.Uhr_text[e], "Storen im Wohnzimmer öffn");
+  EXPECT_TRUE(projekt.Uhr_leer[e] == 1 && projekt.Uhr_leer[7] == 1);
+  EXPECT_EQ(projekt.Uhr_leer[9], 0) << "a negative parameter or the tempo alone is no function";
+  EXPECT_EQ(sitzung.Projekt_geaendert, 1);
+}
+
+TEST_F(Zeit, CutAndPasteMoveARowWithItsRule) {
+  projekt.Uhr_text[0] = "Licht";
+  projekt.Uhr_zeit[0] = "Untergang";
+  projekt.Uhr_astro[0] = 4;
+  projekt.Uhr_tag[0] = 2;
+  projekt.Uhr_f1[0] = "00.15.00";
+  projekt.Uhr_f7[0] = 1;
+  projekt.Uhr_leer[0] = 1;
+  projekt.Uhr_relais(0, 511) = 20;
+  projekt.Uhr_timer(0, 15) = 3;
+  for (int p = 0; p < 4; ++p) projekt.Uhr_dimmer(0, 127, p) = static_cast<i16>(p + 1);
+  Uhr f;
+  EXPECT_EQ(f.Funktion[0].titel, "ODT");
+  f.Cut.druecken();
+  EXPECT_EQ(f.Funktion[0].titel, "");
+  EXPECT_EQ(f.fokus(), &f.Schaltzweck_txt[0]);
+  EXPECT_EQ(projekt.Uhr_f1[0], "");
+  EXPECT_EQ(projekt.Uhr_dimmer(0, 127, 3), 4) << "the tempo stays where it is";
+  EXPECT_EQ(projekt.Uhr_leer[0], 1) << "until the editor closes";
+  f.TabStrip1.waehlen(1);
+  f.Schaltzweck_txt[5].betreten();
+  f.Paste.druecken();
+  EXPECT_EQ(f.Schaltzeit_txt[5].text(), "Untergang");
+  EXPECT_EQ(projekt.Uhr_astro[21], 4);
+  EXPECT_EQ(projekt.Uhr_tag[21], 2);
+  EXPECT_EQ(projekt.Uhr_f1[21], "00.15.00");
+  EXPECT_EQ(projekt.Uhr_f7[21], 1);
+  EXPECT_EQ(projekt.Uhr_relais(21, 511), 20);
+  EXPECT_EQ(projekt.Uhr_timer(21, 15), 3);
+  EXPECT_EQ(projekt.Uhr_dimmer(21, 127, 2), 3);
+  EXPECT_EQ(projekt.Uhr_dimmer(21, 127, 3), 0);
+  EXPECT_EQ(Markiert(), 2);
+  Schliessen(f);
+  EXPECT_TRUE(projekt.Uhr_leer[0] == 0 && projekt.Uhr_leer[21] == 1);
+  EXPECT_EQ(projekt.Uhr_text[0] + projekt.Uhr_text[21], "Licht");
+}
+
+TEST_F(Zeit, DayClipboardSharesItsFirstRowWithTheRowClipboard) {
+  for (int r = 0; r < 3; ++r) projekt.Uhr_text[r] = std::string(1, static_cast<char>('a' + r));
+  Uhr f;
+  f.Copy_day.druecken();
+  f.TabStrip1.waehlen(2);
+  f.Schaltzweck_txt[8].betreten();
+  f.Paste.druecken();
+  EXPECT_EQ(f.Schaltzweck_txt[8].text(), "a");
+  f.Schaltzweck_txt[9].eingeben("z");
+  f.Copy.druecken();
+  const Meldung frage{
+      .text = "Mit 'Einfügen' werden alle bestehenden Einträge dieses Tages unwiderruflich überschrieben!",
+      .titel = "Info",
+      .knoepfe = Knoepfe::OK_Abbrechen,
+      .symbol = Symbol::Information};
+  d.erwarte(frage, Antwort::Abbrechen);
+  f.Paste_day.druecken();
+  EXPECT_EQ(f.Schaltzweck_txt[9].text(), "z");
+  d.erwarte(frage, Antwort::OK);
+  f.Paste_day.druecken();
+  EXPECT_EQ(Zeilen(f, 4), "z=|b=|c=|=|");
+  EXPECT_EQ(f.Schaltzweck_txt[8].text() + f.Schaltzweck_txt[9].text(), "");
+  EXPECT_EQ(Markiert(), 16);
+}
+
+TEST_F(Zeit, DeleteAsksAndMarksTheTableWhateverTheAnswer) {
+  projekt.Uhr_zeit[0] = "06.00.00";
+  projekt.Uhr_relais(0, 1) = 2;
+  Uhr f;
+  const Meldung frage{
+      .text =
+          "Alle Schalt-, Dimm- und Sperrfunktionen dieses Ereignisses werden unwiderruflich gelöscht.\n\n"
+          "Möchten Sie das?",
+      .titel = "Warnung vor dem Löschen",
+      .knoepfe = Knoepfe::Ja_Nein_Abbrechen,
+      .symbol = Symbol::Stopp,
+      .standard = 2};
+  d.erwarte(frage, Antwort::Nein);
+  f.Delete.druecken();
+  EXPECT_EQ(projekt.Uhr_relais(0, 1), 2);
+  EXPECT_EQ(projekt.Uhr_tabelle_geaendert, 1);
+  EXPECT_EQ(Markiert(), 0);
+  d.erwarte(frage, Antwort::Ja);
+  f.Delete.druecken();
+  EXPECT_EQ(projekt.Uhr_relais(0, 1), 0);
+  EXPECT_EQ(f.Schaltzeit_txt[0].text(), "");
+  EXPECT_EQ(Markiert(), 1);
+  f.Paste.druecken();  // nothing was copied: an empty row
+  EXPECT_EQ(f.Funktion[0].titel, "");
+}
+
+TEST_F(Zeit, SortOrdersByTheTextOfTheTime) {
+  const std::array<const char*, 9> zeiten{
+      "Untergang", "", "Aufgang + Zufall", "23.00.00", "06.00.00 mit Zufall",
+      "06.00.00",  "", "Aufgang",          "06.00.00"};
+  const int seite = Uhrereignis(0, 7, 0);
+  for (int r = 0; r < 9; ++r) {
+    projekt.Uhr_text[seite + r] = std::to_string(r);
+    projekt.Uhr_zeit[seite + r] = zeiten[static_cast<std::size_t>(r)];
+    projekt.Uhr_relais(seite + r, 0) = static_cast<i16>(r + 1);
+  }
+  Uhr f;
+  f.TabStrip1.waehlen(7);
+  f.Command1.druecken();
+  EXPECT_EQ(Zeilen(f, 9),
+            "5=06.00.00|8=06.00.00|4=06.00.00 mit Zufall|3=23.00.00|7=Aufgang|2=Aufgang + "
+            "Zufall|0=Untergang|1=|6=|");
+  EXPECT_EQ(projekt.Uhr_relais(seite, 0), 6);
+  EXPECT_EQ(projekt.Uhr_relais(seite + 6, 0), 1);
+  EXPECT_EQ(Markiert(), 16);
+  EXPECT_EQ(projekt.Uhr_tabelle_geaendert, 1);
+}
+
+// ---- Form_Setup_uhr
+// ------------------------------------------------------------------------------------------------
+
+TEST_F(Zeit, SequencerSortsChecksAndCommitsOnOkOnly) {
+  Form_Setup_uhr f;
+  f.Text_dat[0].ausfuellen("01.12.2026");
+  f.Combo1[0].waehlen("Schaltuhr 2");
+  f.Text_dat[2].ausfuellen("01.02.26");
+  EXPECT_EQ(f.Text_dat[2].text(), "01.02.2026");
+  f.Check1[2].haken(true);
+  f.Text_dat[4].betreten();
+  f.Kalender.waehlen({2026, 2, 1});
+  f.Combo1[4].waehlen("Schaltuhr 1");
+  f.Combo1[5].waehlen("Schaltuhr 1");
+  f.Text_dat[3].ausfuellen("30.02.2026");
+  EXPECT_EQ(f.Text_dat[3].farbe, Farbe::belegt);
+  for (Taste* t : {&f.SortButton, &f.ok_button}) {
+    d.erwarte_text("'30.02.2026' ist kein Datum. Bitte das Datum im Format TT.MM.JJJJ eingeben.");
+    t->druecken();
+    EXPECT_EQ(f.Text_dat[3].text(), "30.02.2026");
+    EXPECT_EQ(f.fokus(), &f.Text_dat[3]);
+  }
+  f.Text_dat[3].ausfuellen("15.01.2027");
+  f.SortButton.druecken();
+  const std::array<const char*, 6> daten{"01.02.2026", "01.02.2026", "01.12.2026", "15.01.2027", "", ""};
+  for (std::size_t i = 0; i < 6; ++i) EXPECT_EQ(f.Text_dat[i].text(), daten[i]);
+  EXPECT_TRUE(f.Check1[0].an() && f.Combo1[1].position() == 1) << "equal dates in their order";
+  EXPECT_EQ(f.Combo1[5].position(), 1) << "a row without a date is behind, not lost";
+
+  const Meldung frage{
+      .text =
+          "Die Schaltuhr wird aus der Sequenz gelöscht. Alle programmieren Zeiten und Funktionen bleiben "
+          "aber in der Schaltuhr selber erhalten.Möchten Sie die Schaltuhr aus der Sequenz löschen?",
+      .titel = "Warnung vor dem Löschen",
+      .knoepfe = Knoepfe::Ja_Nein,
+      .symbol = Symbol::Warnung,
+      .standard = 2};
+  d.erwarte(frage, Antwort::Nein);
+  f.Command1[0].druecken();
+  EXPECT_TRUE(f.Check1[0].an());
+  d.erwarte(frage, Antwort::Ja);
+  f.Command1[0].druecken();
+  EXPECT_TRUE(f.Text_dat[0].text().empty() && !f.Check1[0].an());
+
+  f.Check4.haken(true);
+  f.Option2.waehlen(1);
+  f.Check5[2].haken(false);
+  EXPECT_EQ(projekt.Seq_datum[1], "");
+  f.ok_button.druecken();
+  EXPECT_EQ(projekt.Seq_datum[1], "01.02.2026");
+  EXPECT_EQ(projekt.Seq_uhr[2], 2);
+  EXPECT_TRUE(projekt.Seq_manuell == 1 && projekt.Seq_mitternacht == 0 && projekt.Seq_neustart == 1);
+  EXPECT_TRUE(projekt.Sowi_modus[0] == 1 && projekt.Sowi_modus[1] == 1 && projekt.Sowi_modus[2] == 0);
+  EXPECT_EQ(projekt.Uhr_tabelle_geaendert, 1);
+
+  const Projekt vorher = projekt;
+  Form_Setup_uhr verworfen;
+  verworfen.Text_dat[1].ausfuellen("");
+  verworfen.Check4.haken(false);
+  verworfen.schliessen_wuenschen();
+  EXPECT_TRUE(projekt == vorher);
+}
+
+// ---- Uhrseite
+// ------------------------------------------------------------------------------------------------------
+
+TEST_F(Zeit, ClockPageTakesGoodTimesAndRefusesOthers) {
+  Uhrseite f;
+  EXPECT_EQ(f.Dat[0].text() + f.Wotag[0].titel.operator*(), "29.03.2026Sonntag");
+  f.Akt_zeit.ausfuellen("12.30");
+  EXPECT_EQ(f.Akt_zeit.text(), "12.30.00");
+  for (const char* falsch :
+       {"12:30", "12.30:00", "24.00.00", "12.60.00", "12.00.60", "1.30.00", "ab.cd.ef"}) {
+    d.erwarte({.text = "Eingabe in Stunden, Minuten und Sekunden im Format HH.MM.SS oder HH.MM",
+               .titel = "Info",
+               .symbol = Symbol::Information});
+    f.Akt_zeit.ausfuellen(falsch);
+    EXPECT_EQ(f.Akt_zeit.text(), "00.00.00") << falsch;
+    EXPECT_EQ(f.fokus(), &f.Akt_zeit);
+  }
+  EXPECT_EQ(d.pieptoene(), 7);
+  f.Akt_zeit.ausfuellen("");
+  f.Command2.druecken();
+  EXPECT_EQ(f.Akt_zeit.text().size(), 8U);
+}
+
+TEST_F(Zeit, ChangeOverDatesAreComputedOrTypedByHand) {
+  einstellungen.Richt_modus = 2;
+  Uhrseite f;
+  EXPECT_EQ(f.Dat[20].text(), "02.02.2002");
+  EXPECT_EQ(f.Wotag[20].titel, "Samstag");
+  EXPECT_FALSE(f.Dat[1].frei || f.Command8.frei || f.Label1[0].frei);
+  f.Option1.waehlen("Automatische Zeitumstellung");
+  EXPECT_EQ(einstellungen.Richt_modus, 1);
+  const Meldung frage{.text = "Für die nächsten 10 Jahre die Daten für die Zeitumstellung berechnen?",
+                      .titel = "Sommer-/Winterzeit",
+                      .knoepfe = Knoepfe::Ja_Nein_Abbrechen,
+                      .symbol = Symbol::Frage,
+                      .standard = 3};
+  d.erwarte(frage, Antwort::Nein);
+  f.Command8.druecken();
+  EXPECT_EQ(einstellungen.Sowi_datum[0], "02.02.2002");
+  d.erwarte(frage, Antwort::Ja);
+  f.Command8.druecken();
+  EXPECT_EQ(einstellungen.Sowi_datum[0] + einstellungen.Sowi_datum[1], "29.03.202625.10.2026");
+  EXPECT_EQ(f.Dat[11].text(), "30.03.2031");
+  EXPECT_EQ(f.Dat[20].text(), "28.10.2035");
+  EXPECT_EQ(f.Wotag[20].titel, "Sonntag");
+
+  f.Dat[3].betreten();
+  EXPECT_TRUE(f.MonthView1.sichtbar);
+  EXPECT_EQ(f.MonthView1.datum(), (Datum{2027, 3, 28}));
+  f.MonthView1.waehlen({2027, 3, 29});
+  EXPECT_FALSE(f.MonthView1.sichtbar);
+  EXPECT_EQ(einstellungen.Sowi_datum[2], "29.03.2027");
+  EXPECT_EQ(f.Wotag[3].titel, "Montag");
+  f.Dat[4].eingeben("31.02.2027");
+  EXPECT_EQ(f.Dat[4].farbe, Farbe::belegt);
+  d.erwarte_text("'31.02.2027' ist kein Datum. Bitte das Datum im Format TT.MM.JJJJ eingeben.");
+  f.Command3.druecken();
+  EXPECT_EQ(f.fokus(), &f.Dat[4]);
+}
+
+class Zeit_am_master : public Zeit {
+ protected:
+  Zeit_am_master() {
+    sim.start();
+    einstellungen.Com_art = 1;
+    einstellungen.Host_ip = "127.0.0.1";
+    einstellungen.Host_port = sim.tcp_port();
+    Com_art_setzen();
+    Zeitraffer_setzen(100);
+  }
+  ~Zeit_am_master() override { Zeitraffer_setzen(1); }
+
+  Meldung neustartfrage{.text = "Im ZAVmaster einen Neustart durchführen (nur so werden Änderungen wirksam)?",
+                        .titel = "Neustart ZAVmaster?",
+                        .knoepfe = Knoepfe::Ja_Nein_Abbrechen,
+                        .symbol = Symbol::Frage};
+  simulator::Simulator sim;
+};
+
+TEST_F(Zeit_am_master, ClockPageSetsTheClockAndTheDates) {
+  einstellungen.Richt_modus = 1;
+  einstellungen.Sowi_datum[0] = "29.03.2026";  // 26 x 372 + 2 x 31 + 28 = 9762 = 2622 hex
+  einstellungen.Sowi_datum[1] = "";
+  Uhrseite f;
+  f.Akt_zeit.ausfuellen("12.30.05");
+  d.erwarte_text("Eingabe in Stunden, Minuten und Sekunden im Format HH.MM.SS oder HH.MM");
+  f.Akt_zeit.ausfuellen("24.00.00");
+  d.erwarte(neustartfrage, Antwort::Nein);
+  f.Command3.druecken();
+  EXPECT_EQ(sim.uhr(), "0530121629032600") << "the last good time, a Sunday in summer time";
+  const auto tafel = sim.speicher(3547136, 5);
+  EXPECT_EQ((std::vector<int>{tafel.begin(), tafel.end()}), (std::vector<int>{0x01, 0x26, 0x22, 0xFF, 0xFF}));
+  EXPECT_EQ(sim.neustarts(), 0);
+
+  // A change-over date from the calendar changes the weekday that is sent, and Enter sends what is being
+  // typed.
+  f.Dat[2].betreten();
+  f.MonthView1.waehlen({2026, 10, 26});
+  f.Akt_zeit.eingeben("07.00");
+  d.erwarte(neustartfrage, Antwort::Ja);
+  d.erwarte_text("F99: Neustart im ZAVmaster war erfolgreich");
+  f.Command3.druecken();
+  EXPECT_EQ(sim.uhr(), "0000071029032600");
+  EXPECT_EQ(sim.neustarts(), 1);
+}
+
+TEST_F(Zeit_am_master, ARefusalEndsTheSendingWithoutAQuestion) {
+  sim.fehler_setzen({"F05@U"});
+  Uhrseite f;
+  f.Command3.druecken();
+  EXPECT_EQ(d.meldungen().size(), 1U);
+  EXPECT_TRUE(d.meldungen().front().starts_with("F05")) << d.meldungen().front();
+  d.maengel();
+  EXPECT_EQ(sim.anzahl("W"), 0U);
+  EXPECT_TRUE(f.offen());
+}
+
+TEST_F(Zeit, LayoutsPlaceEveryControlOnce) {
+  const auto pruefen = [](Formular& f) {
+    std::vector<Steuerelement*> platziert = Platzierte(f.anordnung());
+    std::vector<Steuerelement*> alle = f.elemente();
+    std::ranges::sort(platziert);
+    std::ranges::sort(alle);
+    EXPECT_TRUE(platziert == alle) << f.name();
+  };
+  Uhr uhr;
+  Form_Setup_uhr sequenzer;
+  Uhr_Astro astro(0, "", "");
+  Uhr_Astro_Rechner rechner;
+  Uhrseite seite;
+  for (Formular* f : std::initializer_list<Formular*>{&uhr, &sequenzer, &astro, &rechner, &seite})
+    pruefen(*f);
+}
+
+}  // namespace
+}  // namespace zav
