@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <cerrno>
 #include <cstring>
+#include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <memory>
@@ -72,11 +73,14 @@ void Bestand::loeschen() {
 }
 
 void Bestand_laden(const std::string& datei, Bestand& b) {
+  if (!std::filesystem::exists(datei)) return;
+  if (!std::filesystem::is_regular_file(datei))
+    throw std::runtime_error("Speicherdatei \"" + datei + "\" ist keine gewöhnliche Datei");
   errno = 0;
   std::ifstream ein(datei, std::ios::binary);
-  if (!ein && errno == ENOENT) return;
-  const std::string text{std::istreambuf_iterator<char>(ein), {}};
-  if (!ein || ein.bad() || (text.empty() && errno != 0)) fehlgeschlagen(datei, "gelesen");
+  std::string text;
+  if (ein) text.assign(std::istreambuf_iterator<char>(ein), {});
+  if (!ein) fehlgeschlagen(datei, "gelesen");
   if (text.empty()) return;
 
   const auto beschaedigt = [&](const std::string& wo) {

@@ -44,8 +44,8 @@ class Anschluss {
       ein_ab = 0;
     }
   }
-  // From now on bytes pass at once: the sender has gone, its bytes have not.
-  void eilen() { eilig = true; }
+  // Bytes pass at once: the sender has gone, its bytes have not.
+  void eilen(bool so) { eilig = so; }
 
   // Puts bytes on the line from time ab on. Lines for people are dropped when nobody reads (verzichtbar).
   void senden(std::string_view bytes, double ab, double jetzt, bool verzichtbar = false);

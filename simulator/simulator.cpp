@@ -176,14 +176,14 @@ void Simulator::Kern::runde(const std::array<pollfd, 5>& p) {
 
 void Simulator::Kern::lesen(Anschluss& a) {
   const bool da = a.lesen(jetzt()) >= 0;
-  if (!da) a.eilen();
+  if (!da) a.eilen(true);
   bedienen(a);
   if (!da) auflegen(a);
 }
 
 // The user has gone; what was sent counts all the same.
 void Simulator::Kern::auslaufen(Anschluss& a) {
-  a.eilen();
+  a.eilen(true);
   while (a.offen() && a.lesen(jetzt()) > 0) bedienen(a);
   bedienen(a);
 }
@@ -231,8 +231,12 @@ void Simulator::Kern::annehmen() {
   }
 }
 
+// What the last user of the terminal sent counts; what he has not read is gone.
 void Simulator::Kern::wechsel() {
   if (!terminal.benutzer_gewechselt()) return;
+  pty.eilen(true);
+  bedienen(pty);
+  pty.eilen(false);
   pty.zustand = {};
   pty.ausgang_leeren();
 }
@@ -263,7 +267,11 @@ void Simulator::Kern::speichern() {
 
 Simulator::Simulator(Optionen optionen) : kern(std::make_unique<Kern>(std::move(optionen))) {
   Master& m = kern->geraet.master;
-  if (!kern->optionen.speicher.empty()) Bestand_laden(kern->optionen.speicher, m.bestand);
+  if (const auto& datei = kern->optionen.speicher; !datei.empty()) {
+    Bestand_laden(datei, m.bestand);
+    Bestand_speichern(datei,
+                      m.bestand);  // a place that cannot be written shows now, not when data are at stake
+  }
   m.fehler.setzen(kern->optionen.fehler);
   m.mitschreiben = kern->optionen.mitschreiben;
   kern->wecker = Fd(::eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK));

@@ -6,7 +6,6 @@
 #include <gtest/gtest.h>
 #include <netinet/in.h>
 #include <poll.h>
-#include <sys/resource.h>
 #include <sys/socket.h>
 #include <unistd.h>
 
@@ -349,6 +348,141 @@ TEST_F(Zavmaster, VerliertBeimSchnellenNeuverbindenNichts) {
     Draht(sim).roh(rahmen("D00080000080" + hex(n % 8, 1)));  // gone before the reply
     EXPECT_EQ(Draht(sim).fragen("R").size(), 2U * (n % 8 + 1));
   }
+}
+
+TEST_F(Zavmaster, LaedtDasBetriebssystemNurAusGutenSaetzen) {
+  const std::string aufforderung = "*: Quit Bootloader and start ZAVmaster-1024\r\n";
+  const std::string_view datei =
+      "S00600004844521B\r\nS1130000285F245F2212226A000424290008237C2A\r\nS20501000A559A\r\nS9030000FC\r\n";
+  sim.startladen();
+  EXPECT_TRUE(draht.bis(aufforderung).ends_with(aufforderung));
+  draht.roh("a");
+  EXPECT_TRUE(draht.bis(aufforderung).starts_with("Erasing"));
+  draht.roh("*");
+  EXPECT_TRUE(draht.bis(aufforderung).starts_with("No operating system"));
+
+  std::string verdorben(datei);
+  verdorben[30] ^= 1;
+  for (const auto& [text, falsche] : {std::pair{verdorben, 1U}, {std::string(datei), 0U}}) {
+    draht.roh("b");
+    draht.bis("receive\r\n");
+    draht.roh(text);
+    EXPECT_TRUE(draht.bis(aufforderung).starts_with(falsche ? ".?.." : "....")) << text;
+    EXPECT_EQ(sim.firmware().falsche, falsche);
+    EXPECT_EQ(sim.firmware().gueltig, falsche == 0);
+  }
+  EXPECT_EQ(sim.firmware().bytes, 17U);
+  draht.roh("*");
+  EXPECT_EQ((*this)("i"), "F99");
+}
+
+TEST(Ablage, BehaeltDenSpeicherUndLehntBeschaedigtesAb) {
+  const std::string ordner = ::testing::TempDir() + "zavmaster_ablage";
+  std::filesystem::remove_all(ordner);
+  std::filesystem::create_directory(ordner);
+  const std::string datei = ordner + "/speicher";
+  const auto aufsetzen = [&] { return std::make_unique<Simulator>(Optionen{.speicher = datei}); };
+  {
+    const auto sim = aufsetzen();
+    sim->start();
+    Draht draht(*sim);
+    for (const auto* nachricht : {"D3FFE0F3FFE0F", "WA5", "M010203040506"})
+      EXPECT_EQ(draht.fragen(nachricht), "F00");
+    sim->empfaengerseite_setzen(3, 1, {9});
+  }
+  EXPECT_EQ(aufsetzen()->speicher(0x3FFE0F, 1), Bytes{0xA5});
+  EXPECT_EQ(aufsetzen()->block("M"), "010203040506");
+  EXPECT_EQ(aufsetzen()->empfaengertabelle(3)[64], 9);
+
+  std::string gut;
+  std::getline(std::ifstream(datei), gut, '\0');
+  const auto ablegen = [&](const std::string& text) { std::ofstream(datei, std::ios::binary) << text; };
+  for (std::size_t k = 0; k < gut.size(); k += 37) {
+    ablegen(gut.substr(0, k + 1));
+    EXPECT_THROW(aufsetzen(), std::runtime_error) << k;
+    std::string anders = gut;
+    anders[k] ^= 4;
+    ablegen(anders);
+    EXPECT_THROW(aufsetzen(), std::runtime_error) << k;
+    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(ordner), {}), 1);
+  }
+  EXPECT_THROW(Simulator({.speicher = ordner + "/fehlt/speicher"}), std::runtime_error);
+  EXPECT_THROW(Simulator({.speicher = "/dev/full"}), std::runtime_error);
+}
+
+// A loaded machine may be later than the line, never earlier.
+TEST(Geschwindigkeit, HaeltBeideRichtungenBeiderLeitungen) {
+  constexpr long baud = 57600;
+  Simulator sim({.pty = true, .baud = baud});
+  sim.start();
+  Draht tcp(sim), terminal(sim.pty_name());
+  for (Draht* draht : {&tcp, &terminal}) {
+    const auto beginn = std::chrono::steady_clock::now();
+    EXPECT_EQ(draht->fragen("D00800000820F"), "F00");
+    EXPECT_EQ(draht->fragen("W" + std::string(1056, '7')), "F00");
+    EXPECT_EQ(draht->fragen("R"), std::string(1056, '7'));
+    constexpr int bytes = 16 + 6 + 1060 + 6 + 4 + 1059;
+    EXPECT_GE(std::chrono::steady_clock::now() - beginn,
+              std::chrono::duration<double>(bytes * 10.0 / baud * 0.999));
+  }
+  // Sent and gone: what was sent arrives all the same.
+  Draht(sim).roh(rahmen("LD01"));
+  EXPECT_TRUE(sim.warten([&] { return sim.gesperrt(); }));
+  Draht(sim.pty_name()).roh(rahmen("LD00"));
+  EXPECT_TRUE(sim.warten([&] { return !sim.gesperrt(); }));
+}
+
+TEST(Aufruf, SagtWasFalschIst) {
+  const auto lesen = [](std::vector<std::string> a) { return Aufruf_lesen(a); };
+  const auto gut = lesen({"--pty", "--baud", "115200", "--fehler", "F07@W3", "stumm@20", "--tcp", "4001",
+                          "--version", "REV 08.01"});
+  ASSERT_TRUE(gut.optionen);
+  EXPECT_EQ(gut.optionen->tcp, 4001);
+  EXPECT_EQ(gut.optionen->fehler.size(), 2U);
+  EXPECT_FALSE(lesen({"--pty"}).optionen->tcp);
+  EXPECT_EQ(lesen({"--hilfe"}).status, 0);
+  EXPECT_FALSE(lesen({"--hilfe"}).optionen);
+  for (const std::vector<std::string>& falsch :
+       std::vector<std::vector<std::string>>{{"--tcp"},
+                                             {"--tcp", "65536"},
+                                             {"--tcp", "1x"},
+                                             {"--baud", "0"},
+                                             {"--laut"},
+                                             {"zuviel"},
+                                             {"--speicher", ""},
+                                             {"--version", "12345678901"},
+                                             {"--fehler", "F07@K"},
+                                             {"--fehler"}}) {
+    const auto a = lesen(falsch);
+    EXPECT_EQ(a.status, 2) << falsch[0];
+    EXPECT_NE(a.text.find(falsch[0] == "--fehler" ? "" : falsch[0]), std::string::npos);
+  }
+}
+
+// Anything at all may come over the line, to the master as to its bootloader.
+TEST(Geraet, UeberstehtJedeEingabe) {
+  Geraet geraet("REV 09.04");
+  Zustand zustand;
+  std::uint32_t zufall = 1;
+  const std::string_view haeufig = "iVDWRAQTPHMLSUIXYxs&E0123456789ABCDEF\r\r%*ab";
+  for (int n = 0; n < 400'000; ++n) {
+    zufall = zufall * 1664525 + 1013904223;
+    const auto wurf = zufall >> 16;
+    if (wurf % 5000 == 0) {
+      geraet.lader.firmware = {};
+      geraet.einschalten(n % 2 == 0, n);
+    }
+    std::string bytes(1, wurf % 8 == 0 ? static_cast<char>(wurf >> 3) : haeufig[wurf % haeufig.size()]);
+    if (wurf % 16 == 1 && !zustand.zeile.empty())
+      bytes = pruefsumme(zustand.zeile) + '\r';  // now and then a good one
+    Ausgabe aus;
+    for (const char c : bytes) geraet.empfangen(zustand, c, n, aus);
+    geraet.zeit(n);
+    geraet.an_alle.clear();
+    geraet.master.anzeigezeilen.clear();
+    ASSERT_LT(aus.bytes.size(), 4096U);
+  }
+  EXPECT_GT(geraet.master.zaehler["i"], 100U);
 }
 
 }  // namespace
