@@ -99,26 +99,38 @@ class Schreiber {
   std::string bytes() && { return std::move(bytes_); }
 
  private:
-  static constexpr std::size_t laengste_zahl = 13;  // "-2147483648" and the end of the line
+  // Bytes of the widest number of a type and the end of its line.
+  template <class T>
+  static constexpr std::size_t laengste_zahl = sizeof(T) == 4 ? 13 : 8;
+
+  // The lines of the numbers 0 to 99: nearly every number of a project is one of them.
+  static constexpr auto kurze_zahlen = [] {
+    std::array<std::array<char, 4>, 100> tafel{};
+    for (std::size_t n = 0; n < tafel.size(); ++n) {
+      const auto zehner = static_cast<char>('0' + n / 10);
+      const auto einer = static_cast<char>('0' + n % 10);
+      tafel[n] = n < 10 ? std::array{einer, '\r', '\n', '\0'} : std::array{zehner, einer, '\r', '\n'};
+    }
+    return tafel;
+  }();
 
   static void Je_element(const auto& feld, auto tun) {
     for (const auto& e : Elemente(feld)) tun(e);
   }
 
   static char* Zahl(char* ziel, std::int32_t wert) {
-    if (wert >= 0 && wert <= 9) {
-      *ziel++ = static_cast<char>('0' + wert);
-    } else {
-      ziel = std::to_chars(ziel, ziel + laengste_zahl, wert).ptr;
+    if (wert >= 0 && std::cmp_less(wert, kurze_zahlen.size())) {
+      std::memcpy(ziel, kurze_zahlen[static_cast<std::size_t>(wert)].data(), 4);
+      return ziel + (wert < 10 ? 3 : 4);
     }
-    return std::copy(zeilenende.begin(), zeilenende.end(), ziel);
+    return std::copy(zeilenende.begin(), zeilenende.end(), std::to_chars(ziel, ziel + laengste_zahl<i32>, wert).ptr);
   }
 
   // One line for each number, an empty one where it equals `leer`.
   template <class T, std::size_t N>
   void Zahlen(std::span<const T, N> zahlen, std::optional<i16> leer = {}) {
     const std::size_t anfang = bytes_.size();
-    bytes_.resize(anfang + zahlen.size() * laengste_zahl);
+    bytes_.resize(anfang + zahlen.size() * laengste_zahl<T>);
     char* ziel = bytes_.data() + anfang;
     const T* z = zahlen.data();
     const T* const ende = z + zahlen.size();
