@@ -1,4 +1,5 @@
-// Loading and saving the largest legal project, each beside the least that any program could do with the same bytes.
+// Loading and saving the largest legal project, each beside the least that any program could do with the same
+// bytes.
 #include <benchmark/benchmark.h>
 #include <fcntl.h>
 #include <spawn.h>
@@ -72,7 +73,8 @@ double Mittlerer(std::vector<double>& werte) {
 }
 
 // Runs both sides in turn; the counters are the medians in ms and their ratio.
-void Vergleichen(benchmark::State& state, const std::function<void()>& wir, const std::function<void()>& schranke) {
+void Vergleichen(benchmark::State& state, const std::function<void()>& wir,
+                 const std::function<void()>& schranke) {
   std::vector<double> zeiten, schranken;
   for (auto _ : state) {
     schranken.push_back(Sekunden(schranke));
@@ -151,7 +153,12 @@ void Schreiben_allein(benchmark::State& state) {
 }
 
 BENCHMARK(Laden_gegen_wc)->ArgName("dicht")->Arg(0)->Arg(1)->UseManualTime()->Unit(benchmark::kMillisecond);
-BENCHMARK(Speichern_gegen_fsync)->ArgName("dicht")->Arg(0)->Arg(1)->UseManualTime()->Unit(benchmark::kMillisecond);
+BENCHMARK(Speichern_gegen_fsync)
+    ->ArgName("dicht")
+    ->Arg(0)
+    ->Arg(1)
+    ->UseManualTime()
+    ->Unit(benchmark::kMillisecond);
 BENCHMARK(Lesen_allein)->ArgName("dicht")->Arg(0)->Arg(1)->Unit(benchmark::kMillisecond);
 BENCHMARK(Schreiben_allein)->ArgName("dicht")->Arg(0)->Arg(1)->Unit(benchmark::kMillisecond);
 

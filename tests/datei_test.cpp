@@ -25,6 +25,7 @@ class Kranke_platte : public Dateisystem {
   ~Kranke_platte() override { Dateisystem_setzen(vorher_); }
 
   bool kein_zweiter_name = false;  // the folder takes no new file
+  bool ohne_rechte = false;        // permissions cannot be set, files of others not be replaced
   bool nur_haeppchen = false;      // writes take seven bytes at a time
   int aufrufe = 0;
 
@@ -39,13 +40,17 @@ class Kranke_platte : public Dateisystem {
     return -ENOSPC;
   }
   int Kuerzen(int d, std::size_t n) override { return krank() ? -EIO : Dateisystem::Kuerzen(d, n); }
-  int Rechte_setzen(int d, mode_t r) override { return krank() ? -EIO : Dateisystem::Rechte_setzen(d, r); }
+  int Rechte_setzen(int d, mode_t r) override {
+    if (ohne_rechte) return -EPERM;
+    return krank() ? -EIO : Dateisystem::Rechte_setzen(d, r);
+  }
   int Festschreiben(int d) override { return krank() ? -EIO : Dateisystem::Festschreiben(d); }
   int Schliessen(int d) override {
     const int r = Dateisystem::Schliessen(d);
     return krank() ? -EIO : r;
   }
   int Umbenennen(const std::string& von, const std::string& nach) override {
+    if (ohne_rechte) return -EPERM;
     return krank() ? -EIO : Dateisystem::Umbenennen(von, nach);
   }
 
@@ -133,6 +138,14 @@ TEST(Datei, KeepsPermissionsFollowsLinksAndRespectsWriteProtection) {
   ASSERT_TRUE(Datei_schreiben(o / "neu", "2"));
   EXPECT_EQ(Rechte(o / "neu"), 0606u);
 
+  {
+    Kranke_platte platte;
+    platte.ohne_rechte = true;
+    ASSERT_TRUE(Datei_schreiben(o / "neu", "3"));
+  }
+  EXPECT_EQ(Dateibytes(o / "neu"), "3");
+  EXPECT_EQ(o.eintraege(), 1u);
+
   std::filesystem::create_directory(o / "tief");
   std::filesystem::create_symlink("tief/ziel", o / "link");
   std::filesystem::create_symlink("link", o / "link2");
@@ -176,9 +189,10 @@ TEST(Datei, TellsOpeningFromALaterFailure) {
   EXPECT_EQ(voll.fehler, ENOSPC);
   EXPECT_EQ(Systemfehler_text(ENOSPC), "Kein Speicherplatz mehr frei");
 
-  // A pipe nobody reads must not hang; one that is read takes the bytes.
+  // A pipe without its other end must not hang.
   ASSERT_EQ(::mkfifo((o / "rohr").c_str(), 0600), 0);
   EXPECT_EQ(Datei_schreiben(o / "rohr", "x").fehler, ENXIO);
+  EXPECT_TRUE(Datei_lesen(o / "rohr", bytes));
 }
 
 }  // namespace

@@ -70,13 +70,22 @@ mode_t Rechte_maske() {
   return maske;
 }
 
+// True where it is the folder or the file system that forbids, not a fault of the disk.
+bool Verboten(int r) { return r == -EACCES || r == -EPERM || r == -EROFS; }
+
+// A file system without permissions of its own (a memory stick) refuses to set them; that is no failure.
+int Rechte_setzen(int d, mode_t rechte) {
+  const int r = dateisystem().Rechte_setzen(d, rechte);
+  return r == -EPERM || r == -ENOTSUP || r == -ENOSYS ? 0 : r;
+}
+
 // Owner first: a change of owner may take permissions away. That not everyone may give files away is no
 // failure.
 int Wie_vorher(int d, const struct stat& alt) {
   Dateisystem& fs = dateisystem();
   if (fs.Besitzer_setzen(d, alt.st_uid, alt.st_gid) < 0)
     fs.Besitzer_setzen(d, static_cast<uid_t>(-1), alt.st_gid);
-  return fs.Rechte_setzen(d, alt.st_mode & 07777);
+  return Rechte_setzen(d, alt.st_mode & 07777);
 }
 
 // Steps of a write that end with the first failure.
@@ -167,21 +176,19 @@ Dateiergebnis Datei_schreiben(const std::string& pfad, std::string_view bytes, u
   std::string nachbar = Ordner_von(ziel) + ".zav-";
   Offen neu(fs.Privat_anlegen(nachbar));
   if (!neu) {
-    const int f = neu.fehler();
-    const bool ordner_gesperrt = f == EACCES || f == EPERM || f == EROFS;
-    return alt && ordner_gesperrt ? An_ort_schreiben(ziel, alt, true, bytes) : Nicht_geoeffnet(f);
+    return alt && Verboten(-neu.fehler()) ? An_ort_schreiben(ziel, alt, true, bytes)
+                                          : Nicht_geoeffnet(neu.fehler());
   }
 
-  const int r = Nacheinander([&] { return Alles_schreiben(neu.nr(), bytes); },
-                             [&] {
-                               return alt ? Wie_vorher(neu.nr(), stand)
-                                          : fs.Rechte_setzen(neu.nr(), rechte & ~Rechte_maske());
-                             },
-                             [&] { return fs.Festschreiben(neu.nr()); }, [&] { return neu.Schliessen(); },
-                             [&] { return fs.Umbenennen(nachbar, ziel); });
-  if (r < 0) {
+  const int r = Nacheinander(
+      [&] { return Alles_schreiben(neu.nr(), bytes); },
+      [&] { return alt ? Wie_vorher(neu.nr(), stand) : Rechte_setzen(neu.nr(), rechte & ~Rechte_maske()); },
+      [&] { return fs.Festschreiben(neu.nr()); }, [&] { return neu.Schliessen(); });
+  const int u = r < 0 ? r : fs.Umbenennen(nachbar, ziel);
+  if (u < 0) {
     fs.Entfernen(nachbar);
-    return Abgebrochen(r);
+    // In a shared folder the old file may be written but not replaced.
+    return r >= 0 && alt && Verboten(u) ? An_ort_schreiben(ziel, alt, true, bytes) : Abgebrochen(u);
   }
   const int o = Ordner_festschreiben(Ordner_von(ziel));
   return o < 0 ? Abgebrochen(o) : Dateiergebnis{};

@@ -28,11 +28,9 @@ Dateisystem* aktuelles_dateisystem = nullptr;
 }  // namespace
 
 int Dateisystem::Oeffnen(const std::string& pfad, int art) {
-  const bool nur_schreiben = (art & O_ACCMODE) == O_WRONLY;
-  const int d =
-      Rufen([&] { return ::open(pfad.c_str(), art | O_CLOEXEC | (nur_schreiben ? O_NONBLOCK : 0)); });
+  const int d = Rufen([&] { return ::open(pfad.c_str(), art | O_CLOEXEC | O_NONBLOCK); });
   // Not waiting holds for the opening alone.
-  if (d >= 0 && nur_schreiben) ::fcntl(d, F_SETFL, ::fcntl(d, F_GETFL) & ~O_NONBLOCK);
+  if (d >= 0) ::fcntl(d, F_SETFL, ::fcntl(d, F_GETFL) & ~O_NONBLOCK);
   return d;
 }
 

@@ -15,8 +15,8 @@ class Dateisystem {
  public:
   virtual ~Dateisystem() = default;
 
-  // Descriptor of a file, opened with the flags of open(2), never inherited by children and never waiting for
-  // the other end of a pipe that is opened for writing.
+  // Descriptor of a file, opened with the flags of open(2), never inherited by children and without waiting
+  // for the other end of a pipe.
   virtual int Oeffnen(const std::string& pfad, int art);
   // Creates a new private file (mode 0600) whose name begins with `anfang`; the name made comes back in it.
   virtual int Privat_anlegen(std::string& anfang);

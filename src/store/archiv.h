@@ -123,7 +123,8 @@ class Schreiber {
       std::memcpy(ziel, kurze_zahlen[static_cast<std::size_t>(wert)].data(), 4);
       return ziel + (wert < 10 ? 3 : 4);
     }
-    return std::copy(zeilenende.begin(), zeilenende.end(), std::to_chars(ziel, ziel + laengste_zahl<i32>, wert).ptr);
+    return std::copy(zeilenende.begin(), zeilenende.end(),
+                     std::to_chars(ziel, ziel + laengste_zahl<i32>, wert).ptr);
   }
 
   // One line for each number, an empty one where it equals `leer`.
