@@ -1,30 +1,21 @@
 #include "transfer/block.h"
 
-#include <array>
-#include <cstring>
-
 namespace zav {
 
 namespace {
 
-using Ziffernpaar = std::array<char, 2>;
-
-constexpr std::array<Ziffernpaar, 256> ziffernpaare = [] {
-  constexpr char ziffern[] = "0123456789ABCDEF";
-  std::array<Ziffernpaar, 256> tafel{};
-  for (std::size_t i = 0; i < tafel.size(); ++i) tafel[i] = {ziffern[i >> 4], ziffern[i & 15]};
-  return tafel;
-}();
+constexpr char Ziffer(unsigned n) { return static_cast<char>('0' + n + (n > 9) * ('A' - '0' - 10)); }
 
 }  // namespace
 
+// Plain arithmetic without a table: the compiler turns the loop into vector code.
 void Hex_anfuegen(std::span<const u8> bytes, std::string& ziel) {
   const std::size_t anfang = ziel.size();
   ziel.resize(anfang + 2 * bytes.size());
-  char* p = ziel.data() + anfang;
-  for (const u8 b : bytes) {
-    std::memcpy(p, ziffernpaare[b].data(), 2);
-    p += 2;
+  char* const ziffern = ziel.data() + anfang;
+  for (std::size_t i = 0; i < bytes.size(); ++i) {
+    ziffern[2 * i] = Ziffer(bytes[i] >> 4U);
+    ziffern[2 * i + 1] = Ziffer(bytes[i] & 0xFU);
   }
 }
 
