@@ -94,6 +94,7 @@ bool Uebertragung::Initialisieren() {
     return false;
   }
   beobachter_.Protokoll_leeren();
+  beobachter_.Fortschritt_zeigen({});
   Transfer_status = Transferstand::bereit;
   beobachter_.Befehle_freigeben(false);
   beobachter_.Protokoll("Speicher im ZAVmaster löschen und prüfen\r\n");

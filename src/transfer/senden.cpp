@@ -198,6 +198,7 @@ Sendeergebnis Uebertragung::Sitzung_fuehren() {
 
 Sendeergebnis Uebertragung::Senden_starten() {
   beobachter_.Protokoll_leeren();
+  beobachter_.Fortschritt_zeigen({});
   beobachter_.Befehle_freigeben(false);
   if (projekt.Projekt_name == "Namenlos") {
     melder().Piep();

@@ -1,0 +1,422 @@
+// Whole transfers to the simulated master, over a real socket and a real pseudo-terminal.
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <sstream>
+
+#include "basis/zahl.h"
+#include "hilfen.h"
+#include "link/leitung.h"
+#include "platform/einstellungen.h"
+#include "platform/uhrwerk.h"
+#include "simulator/simulator.h"
+#include "store/sitzung.h"
+#include "transfer/uebertragung.h"
+#include "transfer/uhr_stellen.h"
+
+namespace zav {
+namespace {
+
+class Mitschrift : public Beobachter {
+ public:
+  void Protokoll_leeren() override { protokoll.clear(); }
+  void Protokoll(std::string_view text) override { protokoll += text; }
+  void Fortschritt_zeigen(const Fortschritt& f) override {
+    EXPECT_TRUE(f == Fortschritt{} || f.gesamt >= stand.gesamt) << f.gesamt << " after " << stand.gesamt;
+    stand = f;
+  }
+  void Korrigiert_zeigen(int anzahl) override { korrigiert = anzahl; }
+  void Version_zeigen(std::string_view v) override { version = v; }
+  void Befehle_freigeben(bool f) override { frei = f; }
+
+  std::string protokoll;
+  Fortschritt stand;
+  int korrigiert = -1;
+  std::string version;
+  bool frei = true;
+};
+
+const Meldung neustartfrage{
+    .text = "Im ZAVmaster einen Neustart durchführen? 'Ja', wenn Schaltzeiten und Timer aktualisiert werden sollen. "
+            "'Nein', wenn nur Ausgangsverknüpfungen geändert wurden.",
+    .titel = "Neustart ZAVmaster?",
+    .knoepfe = Knoepfe::Ja_Nein_Abbrechen,
+    .symbol = Symbol::Frage};
+const Meldung loeschfrage{
+    .text = "Der ZAVmaster enthält anschliessend keine Daten mehr! Möchten Sie fortfahren?",
+    .titel = "ZAVlink",
+    .knoepfe = Knoepfe::Ja_Nein,
+    .symbol = Symbol::Warnung,
+    .standard = 2};
+Meldung Fehlerbox(const std::string& text) { return {.text = text, .titel = "Fehler", .symbol = Symbol::Stopp}; }
+
+class Transfer : public ::testing::Test {
+ protected:
+  Transfer() {
+    sim.start();
+    Tcp();
+    Heute_setzen({2026, 5, 4});
+    Zeitraffer_setzen(40);
+    sitzung = {};
+    projekt = {};
+    projekt.Projekt_name = "C:\\Projekte/Einfamilienhaus am See, Neubau";
+    projekt.Projekt_kennung = "00112233AABBCCDD";
+    projekt.Datei_version = "910";
+    for (int n = 0; n < 20; ++n) {
+      projekt.Ein_relais(50 * n, 25 * n) = static_cast<i16>(1 + n % 7);
+      projekt.Ein_dimmer(50 * n, n, 2) = static_cast<i16>(5 * n);
+      projekt.Ein_leer[50 * n] = projekt.Ein_funktext[50 * n] = 1;
+    }
+    projekt.Uhr_relais(130, 7) = 8;
+    projekt.Uhr_timer(130, 3) = 1;
+    projekt.Uhr_leer[130] = projekt.Uhr_funktext[130] = 1;
+    projekt.Uhr_zeit[130] = "Untergang + Zufall";
+    projekt.Uhr_astro[130] = Zeit_untergang_zufall;
+    projekt.Uhr_f5[130] = "00.10.00";
+    projekt.Tev_dimmer(63, 127, 2) = 1;
+    projekt.Tev_leer[63] = projekt.Tev_funktext[63] = 1;
+    projekt.Ein_led[0] = 17;
+    projekt.Grp_led = decltype(projekt.Grp_led)(i16{0});
+    projekt.Grp_led[0] = projekt.Grp_led[77] = 1;
+  }
+  ~Transfer() override {
+    Zeitraffer_setzen(1);
+    projekt = {};
+    einstellungen = {};
+    leitung = {};
+  }
+
+  void Tcp() {
+    einstellungen.Com_art = 1;
+    einstellungen.Host_ip = "127.0.0.1";
+    einstellungen.Host_port = sim.tcp_port();
+    Com_art_setzen();
+  }
+  void Seriell() {
+    einstellungen.Com_art = 0;
+    einstellungen.Com_geraet = sim.pty_name();
+    Com_art_setzen();
+  }
+  // The master knows this project already.
+  void Synchron() { sim.speicher_setzen(0x800, {0x00, 0x11, 0x22, 0x33, 0xAA, 0xBB, 0xCC, 0xDD}); }
+
+  Sendeergebnis Senden() {
+    Zufall_saeen(7);
+    return u.Senden_starten();
+  }
+  void Sendet_alles() {
+    skript.erwarte(neustartfrage, Antwort::Nein);
+    EXPECT_EQ(Senden(), Sendeergebnis::gesendet);
+  }
+
+  static std::vector<std::string> Abbildzeilen(bool nur_geaenderte) {
+    Zufall_saeen(7);
+    std::istringstream text(Abbild(projekt, einstellungen, {.nur_geaenderte = nur_geaenderte}));
+    std::vector<std::string> zeilen;
+    for (std::string zeile; std::getline(text, zeile);) zeilen.push_back(zeile);
+    return zeilen;
+  }
+  // The master holds what the line of the image says.
+  bool Angekommen(const std::string& zeile) const {
+    std::istringstream worte(zeile);
+    std::string befehl;
+    std::string von;
+    std::string bis;
+    std::string ziffern;
+    worte >> befehl;
+    if (befehl != "W") return worte >> ziffern && sim.block(befehl) == ziffern;
+    worte >> von >> bis >> ziffern;
+    std::string ist;
+    for (const auto b : sim.speicher(*Hex_zahl(von), ziffern.size() / 2)) ist += Hex_text(0x100 + b).substr(1);
+    return ist == ziffern;
+  }
+  void Speicher_ist_abbild(const std::vector<std::string>& zeilen) const {
+    for (const std::string& zeile : zeilen) EXPECT_TRUE(Angekommen(zeile)) << zeile.substr(0, 60);
+  }
+  static bool Nichts_vorgemerkt() {
+    const auto leer = [](const auto& feld) { return std::ranges::all_of(feld.alle(), [](auto w) { return w == 0; }); };
+    return projekt.Uhr_tabelle_geaendert == 0 && leer(projekt.Ein_funktext) && leer(projekt.Uhr_funktext) &&
+           leer(projekt.Tev_funktext) && leer(projekt.Grp_led);
+  }
+
+  Testordner ordner;
+  Meldungsskript skript;
+  simulator::Simulator sim{{.pty = true}};
+  Mitschrift mitschrift;
+  Uebertragung u{mitschrift};
+};
+
+TEST_F(Transfer, ZuerstAllesDannNurWasSichAendert) {
+  for (const bool seriell : {false, true}) {
+    seriell ? Seriell() : Tcp();
+    Synchron();
+    projekt.Uhr_tabelle_geaendert = 1;
+    for (auto& f : projekt.Ein_funktext.alle()) f = 1;
+    for (auto& f : projekt.Uhr_funktext.alle()) f = 1;
+    for (auto& f : projekt.Tev_funktext.alle()) f = 1;
+    for (auto& f : projekt.Grp_led.alle()) f = 1;
+    const auto alles = Abbildzeilen(false);
+    Sendet_alles();
+    Speicher_ist_abbild(alles);
+    EXPECT_TRUE(Nichts_vorgemerkt());
+    EXPECT_EQ(mitschrift.stand.aktuell, 100);
+    EXPECT_NE(mitschrift.protokoll.find("Eingangsereignisse Dimmer: 1024\r\n"), std::string::npos);
+
+    sim.mitschrift_leeren();
+    Sendet_alles();
+    std::vector<std::string> befehle;
+    for (const auto& m : sim.mitschrift()) befehle.push_back(m.substr(0, m.starts_with("D") ? 7 : 1));
+    const std::vector<std::string> soll{"i", "V", "D000800", "R", "A", "Q",       "T", "P", "H", "M", "D006000",
+                                        "W", "D362000", "W", "L", "D000800", "W"};
+    if (seriell) {
+      EXPECT_EQ(befehle.front(), "%");
+      befehle.erase(befehle.begin());
+    }
+    EXPECT_EQ(befehle, soll);
+    sim.speicher_setzen(0x8000, simulator::Bytes(528));
+  }
+  EXPECT_EQ(mitschrift.protokoll,
+            "Code holen: 00112233AABBCCDD\r\r\n"
+            "A: Initialisierungswerte Aktoren\r\n"
+            "Q: Initialisierungswerte Dimmer\r\n"
+            "T: Zeitwerte der Timer\r\n"
+            "P: An-/Abschnittparameter der Dimmer\r\n"
+            "H: Normal-/Thermo-Parameter\r\n"
+            "M: Storen-Parameter\r\n"
+            "W: Wetter-Parameter\r\n"
+            "Sommer-/Winterzeit, Sequenzer\r\n"
+            "Schaltzeiten genau/Astro/Zufall\r\n"
+            "Eingangsereignisse Switch: 0\r\n"
+            "Eingangsereignisse Dimmer: 0\r\n"
+            "Uhr-Ereignisse Switch: 0\r\n"
+            "Uhr-Ereignisse Dimmer: 0\r\n"
+            "Timer-Ereignisse Switch: 0\r\n"
+            "Timer-Ereignisse Dimmer: 0\r\n"
+            "Tasten-LEDs: 0\r\n"
+            "Code senden: 1\r\n");
+  EXPECT_EQ(sitzung.Master_version, "REV 09.04 ");
+  EXPECT_EQ(sitzung.Projekt_gesendet, 1);
+  EXPECT_TRUE(mitschrift.frei);
+}
+
+TEST_F(Transfer, NachEinemFehlerGehtDerRest) {
+  struct Fall {
+    const char* regel;
+    const char* meldung;
+  };
+  const Fall faelle[] = {
+      {"stumm@i", "F98: Keine Antwort vom ZAVmaster"},
+      {"F99@i", "F99: Neustart im ZAVmaster wurde durchgeführt"},
+      {"F06@D1", "F06: Wertebereich der Buffer-/Pageadresse falsch oder Endadresse kleiner als Startadresse."},
+      {"kurz@R", "F98: Keine Antwort vom ZAVmaster"},
+      {"F02@A", "F02: Buffer Overrun im RAM"},
+      {"F07@Qx10", "F07: Prüfsumme im ZAVmaster falsch."},
+      {"trenn@M", "F98: Keine Antwort vom ZAVmaster"},
+      {"F44@LS", "Fxx: Undefinierbarer Fehler"},
+      {"muell@W4", "Fxx: Undefinierbarer Fehler"},
+      {"lang@D12", "Fxx: Undefinierbarer Fehler"},
+      {"verloren@W20", "F98: Keine Antwort vom ZAVmaster"},
+      {"trenn@W31", "F98: Keine Antwort vom ZAVmaster"},
+      {"F64@W46", "F64: Buffer ist grösser als 527."},
+      {"stumm@D48", "F98: Keine Antwort vom ZAVmaster"},
+  };
+  const Projekt vorher = projekt;
+  for (const Fall& fall : faelle) {
+    SCOPED_TRACE(fall.regel);
+    projekt = vorher;
+    sim.speicher_setzen(0, simulator::Bytes(0x400));
+    Synchron();
+    const auto alles = Abbildzeilen(true);
+    sim.fehler_setzen({fall.regel});
+    skript.erwarte(Fehlerbox(fall.meldung));
+    EXPECT_EQ(Senden(), Sendeergebnis::gescheitert);
+    EXPECT_TRUE(mitschrift.frei);
+    EXPECT_EQ(mitschrift.stand, Fortschritt{});
+    EXPECT_FALSE(Nichts_vorgemerkt());
+    // What is no longer flagged has arrived.
+    const auto rest = Abbildzeilen(true);
+    for (const auto& zeile : alles) {
+      EXPECT_TRUE(std::ranges::find(rest, zeile) != rest.end() || Angekommen(zeile)) << zeile.substr(0, 60);
+    }
+    sim.fehler_setzen({});
+    Sendet_alles();
+    Speicher_ist_abbild(alles);
+    EXPECT_TRUE(Nichts_vorgemerkt());
+  }
+}
+
+TEST_F(Transfer, SchaltzeitenGehenGanzOderNocheinmal) {
+  Synchron();
+  projekt.Uhr_tabelle_geaendert = 1;
+  sim.fehler_setzen({"F03@W374"});  // weather, dates, then page 372
+  skript.erwarte(Fehlerbox("F03: Overrun-, Noise- oder Frame-Fehler auf RS 232"));
+  EXPECT_EQ(Senden(), Sendeergebnis::gescheitert);
+  EXPECT_EQ(projekt.Uhr_tabelle_geaendert, 1);
+  EXPECT_EQ(projekt.Ein_funktext[0], 1);
+  sim.fehler_setzen({"F07@W3x2"});  // mended on the way
+  const auto alles = Abbildzeilen(true);
+  Sendet_alles();
+  Speicher_ist_abbild(alles);
+  EXPECT_EQ(mitschrift.korrigiert, 2);
+  EXPECT_TRUE(Nichts_vorgemerkt());
+}
+
+TEST_F(Transfer, WasVorDemErstenBlockEndet) {
+  const Projekt vorher = projekt;
+  projekt.Projekt_name = "Namenlos";
+  skript.erwarte({.text = "Sie sollten das aktuelle Projekt vorher speichern.",
+                  .titel = "Information",
+                  .symbol = Symbol::Information});
+  EXPECT_EQ(Senden(), Sendeergebnis::nicht_gespeichert);
+  EXPECT_TRUE(sim.zaehler().empty());
+  projekt = vorher;
+
+  struct Fall {
+    const char* datei_version;
+    const char* master;
+    bool passt;
+  };
+  for (const Fall& f : {Fall{"910", "REV 09.04", true}, {"900", "REV 09.0x", true}, {"800", "REV 08.01", true},
+                        {"800", "REV 09.04", false}, {"910", "REV 08.01", false}, {"910", "REV 09.10", false},
+                        {"710", "REV 09.04", false}, {"", "REV 09.04", false}}) {
+    SCOPED_TRACE(std::string(f.datei_version) + " " + f.master);
+    projekt.Datei_version = f.datei_version;
+    sim.version_setzen(f.master);
+    const bool leer = projekt.Datei_version.empty();
+    if (f.passt) {
+      skript.erwarte({.text = "PC und ZAVmaster sind nicht synchronisiert. Bitte zuerst Initialisieren."});
+    } else {
+      skript.erwarte(Fehlerbox(leer ? "Bitte die Konfiguration vorher speichern"
+                                    : "Version ZAVmaster ist nicht kompatibel zur PC-Software ZAVlink!"));
+    }
+    EXPECT_EQ(Senden(), f.passt ? Sendeergebnis::nicht_synchron : Sendeergebnis::falsche_version);
+    EXPECT_EQ(u.Transfer_status == Transferstand::falsche_version, !f.passt);
+    u.Transfer_status = Transferstand::bereit;
+  }
+  projekt = vorher;
+  sim.fehler_setzen({"stumm@V"});
+  EXPECT_EQ(Senden(), Sendeergebnis::keine_antwort);
+  EXPECT_EQ(u.Transfer_status, Transferstand::keine_antwort);
+  EXPECT_EQ(sim.anzahl("W"), 0U);
+  EXPECT_EQ(projekt, vorher);
+
+  sim.stop();
+  skript.erwarte({.text = "TCP-Fehler -111: Fehler beim Öffnen. 127.0.0.1 (Port " +
+                          std::to_string(einstellungen.Host_port) + ") nimmt keine Verbindung an."});
+  EXPECT_EQ(Senden(), Sendeergebnis::gescheitert);
+  EXPECT_TRUE(mitschrift.frei);
+  EXPECT_EQ(skript.zeiger(), Zeiger::normal);
+}
+
+TEST_F(Transfer, ZuBreiteWerte) {
+  Synchron();
+  projekt.Store_p1 = 656;
+  EXPECT_EQ(Senden(), Sendeergebnis::zu_breit);
+  EXPECT_EQ(sim.anzahl("H"), 1U);
+  EXPECT_EQ(sim.anzahl("M"), 0U);
+  projekt.Dimmer_neustart[1] = 300;
+  skript.erwarte({.text = "Ungültige Daten!", .titel = "Senden", .symbol = Symbol::Stopp});
+  skript.erwarte(Fehlerbox("F01: Unbekannter Befehl oder letztes Zeichen nicht <CR>"));
+  EXPECT_EQ(Senden(), Sendeergebnis::gescheitert);
+  EXPECT_EQ(sim.mitschrift().back(), "Q0000");
+}
+
+TEST_F(Transfer, SperrenUndNeustart) {
+  Synchron();
+  u.Check1 = true;
+  skript.erwarte(neustartfrage, Antwort::Ja);
+  skript.erwarte({.text = "F99: Neustart im ZAVmaster war erfolgreich", .titel = "Info", .symbol = Symbol::Information});
+  EXPECT_EQ(Senden(), Sendeergebnis::gesendet);
+  EXPECT_EQ(sim.neustarts(), 1);
+  EXPECT_FALSE(sim.gesperrt());
+  const auto m = sim.mitschrift();
+  const auto ld = std::ranges::find(m, "LD01");
+  ASSERT_TRUE(ld != m.end() && ld > m.begin());
+  EXPECT_TRUE((ld - 2)->starts_with("D362000"));
+  EXPECT_EQ(*(ld + 1), "LS07");
+  EXPECT_LT(std::ranges::find(m, "D00080000081F"), std::ranges::find(m, "LD00"));
+}
+
+TEST_F(Transfer, InitialisierenUndSenden) {
+  for (const bool seriell : {false, true}) {
+    seriell ? Seriell() : Tcp();
+    sim.speicher_setzen(0x8000, simulator::Bytes(100, 0xAB));
+    projekt.Ein_funktext[1] = 1;  // no function: need not go after an erase
+    skript.erwarte(loeschfrage, Antwort::Nein);
+    EXPECT_FALSE(u.Initialisieren());
+    EXPECT_EQ(sim.speicher(0x8000, 1)[0], 0xAB);
+
+    skript.erwarte(loeschfrage, Antwort::Ja);
+    skript.erwarte({.text = "Senden ist jetzt möglich", .titel = "Info", .symbol = Symbol::Information});
+    EXPECT_TRUE(u.Initialisieren());
+    EXPECT_EQ(sim.speicher(0x8000, 1)[0], 0);
+    EXPECT_EQ(mitschrift.stand.aktuell, 100);
+    EXPECT_EQ(mitschrift.version, "REV 09.04 ");
+    EXPECT_EQ(projekt.Ein_funktext[1], 0);
+    EXPECT_EQ(projekt.Ein_funktext[50], 1);
+    EXPECT_EQ(projekt.Uhr_tabelle_geaendert, 1);
+    EXPECT_EQ(projekt.Grp_led[200], 1);
+    EXPECT_EQ(sitzung.Master_neu_pruefen, 0);
+
+    const auto alles = Abbildzeilen(true);
+    Sendet_alles();
+    Speicher_ist_abbild(alles);
+    EXPECT_EQ(u.Nach_initialisierung, 0);
+    Sendet_alles();  // the stamp of the first one holds
+  }
+}
+
+TEST_F(Transfer, InitialisierenMitFehlern) {
+  sim.flash_defekt();
+  skript.erwarte(loeschfrage, Antwort::Ja);
+  skript.erwarte({.text = "Fehler im Flash, trotzdem senden?", .titel = "Info", .symbol = Symbol::Stopp});
+  EXPECT_TRUE(u.Initialisieren());
+  EXPECT_EQ(u.Transfer_status, Transferstand::flash_fehler);
+  EXPECT_EQ(u.Nach_initialisierung, 1);
+
+  const Meldung timeout{
+      .text = "Timeout, keine Verbindung mit ZAVmaster!", .titel = "Info", .symbol = Symbol::Stopp};
+  for (const char* regel : {"stumm@EI", "trenn@EI", "stumm@V"}) {
+    u.Nach_initialisierung = 0;
+    sim.fehler_setzen({regel});
+    skript.erwarte(loeschfrage, Antwort::Ja);
+    skript.erwarte(timeout);
+    EXPECT_FALSE(u.Initialisieren()) << regel;
+    EXPECT_EQ(u.Nach_initialisierung, 0);
+    EXPECT_TRUE(mitschrift.frei);
+  }
+  sim.fehler_setzen({});
+  sim.version_setzen("REV 08.01");
+  skript.erwarte(loeschfrage, Antwort::Ja);
+  skript.erwarte(
+      Fehlerbox("Version ZAVmaster (REV 08.01) ist nicht kompatibel zur PC-Software ZAVlink-Version 9.102"));
+  EXPECT_FALSE(u.Initialisieren());
+  EXPECT_EQ(u.Transfer_status, Transferstand::falsche_version);
+}
+
+TEST_F(Transfer, UhrStellen) {
+  const Meldung frage{.text = "Im ZAVmaster einen Neustart durchführen (nur so werden Änderungen wirksam)?",
+                      .titel = "Neustart ZAVmaster?",
+                      .knoepfe = Knoepfe::Ja_Nein_Abbrechen,
+                      .symbol = Symbol::Frage};
+  Uhrstellung uhr{.Akt_zeit_text = "08:15:30", .Akt_datum_text = "04.05.2026", .Akt_wochentag = 0, .Richt_modus = 1};
+  uhr.Sowi_datum = Sowi_daten_berechnen(2026);
+  uhr.Sowi_datum[19] = "";
+  for (const bool seriell : {false, true}) {
+    seriell ? Seriell() : Tcp();
+    sim.mitschrift_leeren();
+    skript.erwarte(frage, Antwort::Abbrechen);
+    EXPECT_TRUE(Uhr_stellen(uhr));
+    EXPECT_EQ(sim.mitschrift().front(), seriell ? "%" : "i");
+    EXPECT_EQ(sim.uhr(), "3015081004052600");
+    EXPECT_EQ(sim.speicher(0x362000, 3), (simulator::Bytes{1, 0x26, 0x22}));
+    EXPECT_EQ(sim.speicher(0x362000 + 39, 2), (simulator::Bytes{0xFF, 0xFF}));
+  }
+  sim.fehler_setzen({"stumm@U"});
+  skript.erwarte(Fehlerbox("F98: Keine Antwort vom ZAVmaster"));
+  EXPECT_FALSE(Uhr_stellen(uhr));
+  EXPECT_EQ(skript.zeiger(), Zeiger::normal);
+}
+
+}  // namespace
+}  // namespace zav
