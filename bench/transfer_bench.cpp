@@ -2,11 +2,27 @@
 // give the ratio.
 #include <benchmark/benchmark.h>
 
+#include <arpa/inet.h>
+#include <fcntl.h>
+#include <netinet/tcp.h>
+#include <poll.h>
+#include <sys/socket.h>
+#include <termios.h>
+#include <unistd.h>
+
+#include <algorithm>
 #include <chrono>
 #include <cstring>
+#include <ctime>
 #include <random>
 
+#include "link/leitung.h"
+#include "link/protokoll.h"
+#include "platform/einstellungen.h"
+#include "platform/uhrwerk.h"
+#include "simulator/simulator.h"
 #include "transfer/plan.h"
+#include "transfer/uebertragung.h"
 #include "transfer/zeitbloecke.h"
 
 namespace {
@@ -111,5 +127,140 @@ void Schaltzeiten_eines_jahres(benchmark::State& state) {
   for (auto _ : state) benchmark::DoNotOptimize(Uhr_tafel_heute(p));
 }
 BENCHMARK(Schaltzeiten_eines_jahres)->Unit(benchmark::kMillisecond);
+
+// ---- on the line ------------------------------------------------------------------------------------------------
+
+// Notes when the handshake, with its fixed wait, is over.
+class Stoppuhr : public Beobachter {
+ public:
+  void Version_zeigen(std::string_view) override { beginn = Uhr::now(); }
+  Uhr::time_point beginn;
+};
+
+void Verbindung_waehlen(const simulator::Simulator& sim, bool seriell) {
+  einstellungen.Com_art = seriell ? 0 : 1;
+  einstellungen.Com_geraet = sim.pty_name();
+  einstellungen.Host_ip = "127.0.0.1";
+  einstellungen.Host_port = sim.tcp_port();
+  Com_art_setzen();
+}
+
+void Vormerken(int ereignisse, bool alles) {
+  projekt.Uhr_tabelle_geaendert = alles ? 1 : 0;
+  for (int e = 0; e < ereignisse; ++e) projekt.Ein_funktext[e] = 1;
+  for (auto& f : projekt.Uhr_funktext.alle()) f = alles;
+  for (auto& f : projekt.Tev_funktext.alle()) f = alles;
+  for (auto& f : projekt.Grp_led.alle()) f = alles;
+}
+
+// Seconds from the master's version to the closed port; negative when the transfer failed.
+double Uebertragen() {
+  Stoppuhr uhr;
+  Uebertragung u(uhr);
+  u.Nach_initialisierung = 1;
+  const bool gut = u.Senden_starten() == Sendeergebnis::gesendet;
+  return gut ? std::chrono::duration<double>(Uhr::now() - uhr.beginn).count() : -1;
+}
+
+// What went over the line after the version was asked, ready to be sent again.
+std::vector<std::string> Meldungen(const simulator::Simulator& sim) {
+  std::vector<std::string> alle = sim.mitschrift();
+  alle.erase(alle.begin(), std::find(alle.begin(), alle.end(), "V") + 1);
+  for (auto& m : alle) m += Pruefsumme(m) + "\r";
+  return alle;
+}
+std::size_t Antwortlaenge(const std::string& meldung) { return meldung.front() == 'R' ? 19 : 6; }
+
+int Nackt_oeffnen(const simulator::Simulator& sim, bool seriell) {
+  if (seriell) {
+    const int fd = open(sim.pty_name().c_str(), O_RDWR | O_NOCTTY);
+    termios t{};
+    tcgetattr(fd, &t);
+    cfmakeraw(&t);
+    tcsetattr(fd, TCSANOW, &t);
+    return fd;
+  }
+  const int fd = socket(AF_INET, SOCK_STREAM, 0);
+  sockaddr_in ziel{};
+  ziel.sin_family = AF_INET;
+  ziel.sin_port = htons(static_cast<std::uint16_t>(sim.tcp_port()));
+  ziel.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+  connect(fd, reinterpret_cast<const sockaddr*>(&ziel), sizeof ziel);
+  const int ein = 1;
+  setsockopt(fd, IPPROTO_TCP, TCP_NODELAY, &ein, sizeof ein);
+  return fd;
+}
+
+// The least that plays these messages in stop-and-wait order: write, wait for the whole reply, next.
+void Nackt_spielen(const std::vector<std::string>& meldungen, int fd) {
+  char puffer[64];
+  for (const auto& m : meldungen) {
+    for (std::size_t n = 0; n < m.size();) n += static_cast<std::size_t>(write(fd, m.data() + n, m.size() - n));
+    for (std::size_t n = 0; n < Antwortlaenge(m);) {
+      pollfd p{fd, POLLIN, 0};
+      poll(&p, 1, -1);
+      n += static_cast<std::size_t>(read(fd, puffer, sizeof puffer));
+    }
+  }
+}
+
+// A full transfer against the bare loop, the best of each: what else runs on the computer falls on either side.
+void Transfer(benchmark::State& state, bool seriell) {
+  simulator::Simulator sim({.pty = true});
+  sim.start();
+  Verbindung_waehlen(sim, seriell);
+  projekt = Volles_projekt();
+  projekt.Projekt_name = "Messung";
+  projekt.Datei_version = "910";
+  double mit = 1e9;
+  double ohne = 1e9;
+  for (auto _ : state) {
+    Vormerken(eingangsereignisse, true);
+    sim.mitschrift_leeren();
+    const double dauer = Uebertragen();
+    if (dauer < 0) return state.SkipWithError("transfer failed");
+    mit = std::min(mit, dauer);
+    const auto meldungen = Meldungen(sim);
+    const int fd = Nackt_oeffnen(sim, seriell);
+    ohne = std::min(ohne, Sekunden([&] { Nackt_spielen(meldungen, fd); }));
+    close(fd);
+    state.counters["meldungen"] = static_cast<double>(meldungen.size());
+  }
+  state.counters["mal_nackt"] = mit / ohne;
+}
+void Transfer_tcp(benchmark::State& state) { Transfer(state, false); }
+BENCHMARK(Transfer_tcp)->Iterations(8)->Unit(benchmark::kMillisecond);
+void Transfer_pty(benchmark::State& state) { Transfer(state, true); }
+BENCHMARK(Transfer_pty)->Iterations(8)->Unit(benchmark::kMillisecond);
+
+// Forty rows over a line held to 115200 baud, against the time that the bytes alone take: ten bits each.
+void Transfer_115200(benchmark::State& state) {
+  constexpr long baud = 115200;
+  simulator::Simulator sim({.pty = true, .baud = baud});
+  sim.start();
+  Verbindung_waehlen(sim, true);
+  projekt = Haus();
+  projekt.Projekt_name = "Messung";
+  projekt.Datei_version = "910";
+  double gemessen = 0;
+  double boden = 0;
+  double cpu = 0;
+  for (auto _ : state) {
+    Vormerken(40, false);
+    sim.mitschrift_leeren();
+    timespec vorher{};
+    timespec nachher{};
+    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &vorher);
+    const double dauer = Uebertragen();
+    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &nachher);
+    if (dauer < 0) return state.SkipWithError("transfer failed");
+    gemessen += dauer;
+    cpu += static_cast<double>(nachher.tv_sec - vorher.tv_sec) + 1e-9 * static_cast<double>(nachher.tv_nsec - vorher.tv_nsec);
+    for (const auto& m : Meldungen(sim)) boden += 10.0 * static_cast<double>(m.size() + Antwortlaenge(m)) / baud;
+  }
+  state.counters["boden_zu_gemessen"] = boden / gemessen;
+  state.counters["cpu_anteil"] = cpu / gemessen;
+}
+BENCHMARK(Transfer_115200)->Iterations(1)->Unit(benchmark::kMillisecond);
 
 }  // namespace
