@@ -15,7 +15,8 @@ constexpr u8 flanken = gruppe_flanken;
 constexpr u8 flanken_lang = gruppe_flanken_lang;
 constexpr u8 funk = gruppe_funk;
 
-// Kind, picture caption, page title, addresses, key slots, LED slots, groups. Never renumber: files hold the kind.
+// Kind, picture caption, page title, addresses, key slots, LED slots, groups. Never renumber: files hold the
+// kind.
 // clang-format off
 constexpr std::array<Apparatart, apparat_arten> arten{{
     {1, "Einfachtaster ohne LED", "Feller: Einfachtaster ohne LED", 1, "2", ""},
@@ -136,7 +137,8 @@ constexpr std::array<Layout, 17> layouts{{
     {"Grösse 2-4 waagrecht", waagrecht, 4, 2},
     {"Grösse 3-4 waagrecht", waagrecht, 4, 3},
     {"Grösse 4-4 quadratisch (nicht Standard!)", quadratisch, 4, 4},
-    {"Fernbedienungen, Wettersensor, ZAVin-0800 usw.", "Diverse (Fernbedienungen, Wettersensor, ZAVin-0800 usw.", 1, 1},
+    {"Fernbedienungen, Wettersensor, ZAVin-0800 usw.",
+     "Diverse (Fernbedienungen, Wettersensor, ZAVin-0800 usw.", 1, 1},
 }};
 
 // The class of a radio sender by the last kind that has it.
@@ -162,7 +164,8 @@ const Apparatart* Apparat_art(int typ) {
 i16 Apparat_funkart(int typ) {
   const Apparatart* const art = Apparat_art(typ);
   if (art == nullptr || !art->ist(gruppe_funk)) return 0;
-  return std::find_if(funkarten.begin(), funkarten.end(), [&](const Funkart& f) { return typ <= f.bis_typ; })->art;
+  return std::find_if(funkarten.begin(), funkarten.end(), [&](const Funkart& f) { return typ <= f.bis_typ; })
+      ->art;
 }
 
 int Slot_von_versatz(int typ, int j) {
@@ -206,10 +209,17 @@ int Apparat_slot(const Projekt& p, int d, int n) {
   return eigener ? eintrag : -1;
 }
 
+int Apparat_textslot(const Projekt& p, int d, int n) {
+  const int slot = Apparat_slot(p, d, n);
+  return slot < 0 || n < tastenplaetze || p.App_typ[slot / tastenplaetze] == apparat_leer ? slot : -1;
+}
+
 std::span<const Layout> Layouts() { return layouts; }
 
 const Layout* Layout_von(int nummer) {
-  return nummer >= 0 && nummer < static_cast<int>(layouts.size()) ? &layouts.at(static_cast<std::size_t>(nummer)) : nullptr;
+  return nummer >= 0 && nummer < static_cast<int>(layouts.size())
+             ? &layouts.at(static_cast<std::size_t>(nummer))
+             : nullptr;
 }
 
 }  // namespace zav

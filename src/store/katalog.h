@@ -1,8 +1,8 @@
-// The catalogue of device kinds: what an Apparat is called, how many addresses it takes, which keys and LEDs it
-// shows, where it may stand - and where the keys and events of a placed device lie in the project.
+// The catalogue of device kinds: what an Apparat is called, how many addresses it takes, which keys and LEDs
+// it shows, where it may stand - and where the keys and events of a placed device lie in the project.
 //
-// An address is a group of four input events. Event offset j of a device counts from its first event, 4 x first
-// address. Key slot n of a device is entry 128 x Kombination + 8 x place + n of Dev_text and Dev_adr.
+// An address is a group of four input events. Event offset j of a device counts from its first event, 4 x
+// first address. Key slot n of a device is entry 128 x Kombination + 8 x place + n of Dev_text and Dev_adr.
 #pragma once
 
 #include <optional>
@@ -18,7 +18,8 @@ namespace zav {
 class Slots {
  public:
   consteval Slots(const char* ziffern) {  // NOLINT: a text is a set
-    for (; *ziffern != 0; ++ziffern) bits_ = static_cast<u8>(bits_ | 1U << static_cast<unsigned>(*ziffern - '0'));
+    for (; *ziffern != 0; ++ziffern)
+      bits_ = static_cast<u8>(bits_ | 1U << static_cast<unsigned>(*ziffern - '0'));
   }
   constexpr bool hat(int n) const { return n >= 0 && n < 8 && (bits_ >> n & 1U) != 0; }
   constexpr bool leer() const { return bits_ == 0; }
@@ -30,11 +31,11 @@ class Slots {
 // Groups of kinds with rules of their own, to be joined with |.
 enum Apparat_gruppe : u8 {
   gruppe_keine = 0,
-  gruppe_diverse = 1,      // only in a Kombination of layout 16, "Diverse"
-  gruppe_thermostat = 2,   // its LED lists carry fixed functions, and it polls
-  gruppe_flanken = 4,      // two events per key: offset 2n rising, 2n + 1 falling edge
-  gruppe_flanken_lang = 8, // eight inputs: offsets 0 to 15 as edges, 16 to 23 one event each
-  gruppe_funk = 16,        // radio sender
+  gruppe_diverse = 1,       // only in a Kombination of layout 16, "Diverse"
+  gruppe_thermostat = 2,    // its LED lists carry fixed functions, and it polls
+  gruppe_flanken = 4,       // two events per key: offset 2n rising, 2n + 1 falling edge
+  gruppe_flanken_lang = 8,  // eight inputs: offsets 0 to 15 as edges, 16 to 23 one event each
+  gruppe_funk = 16,         // radio sender
 };
 
 struct Apparatart {
@@ -57,8 +58,8 @@ std::span<const Apparatart> Apparatarten();
 // nullptr for a number that is no kind.
 const Apparatart* Apparat_art(int typ);
 
-// Class of a radio sender as App_enocean_art holds it: 1 two keys, 2 four keys, 3 hand sender, 4 magnet contact,
-// 5 motion sensor; 0 for every other kind.
+// Class of a radio sender as App_enocean_art holds it: 1 two keys, 2 four keys, 3 hand sender, 4 magnet
+// contact, 5 motion sensor; 0 for every other kind.
 i16 Apparat_funkart(int typ);
 
 // The key slot whose text and LED belong to event offset j of a kind; j 0 to 23.
@@ -68,14 +69,15 @@ int Versatz_von_slot(int typ, int n);
 
 // A thermostat leaves part of its run to other devices: is its address a + i one of those?
 bool Thermostat_adresse_frei(int typ, int i);
-// Offset of the address whose first input the master polls as a thermostat's, and whose four LED outputs carry
-// its fixed functions: 0 for kind 39, 2 for 40 and 78. Nothing for other kinds.
+// Offset of the address whose first input the master polls as a thermostat's, and whose four LED outputs
+// carry its fixed functions: 0 for kind 39, 2 for 40 and 78. Nothing for other kinds.
 std::optional<int> Thermostat_adresse(int typ);
 
-// ---- placed devices; d = 16 x Kombination + place ----------------------------------------------------------------
+// ---- placed devices; d = 16 x Kombination + place
+// ----------------------------------------------------------------
 
-// The run of addresses a device takes, from the texts App_text and App_text2. What a damaged file puts there is
-// cut to the addresses that exist; nothing without a first address.
+// The run of addresses a device takes, from the texts App_text and App_text2. What a damaged file puts there
+// is cut to the addresses that exist; nothing without a first address.
 struct Adresslauf {
   int von = 0;
   int anzahl = 0;
@@ -85,12 +87,16 @@ struct Adresslauf {
 };
 std::optional<Adresslauf> Apparat_adressen(const Projekt& p, int d);
 
-// Entry of Dev_text and Dev_adr for slot n of device d, n 0 to 23; -1 where the device has no such slot. Slots from
-// 8 up lie on the places behind it. They are its own while these places are empty and only as far as it has events
-// (4 x its addresses); the LED slots 8 to 11 of kinds 40 and 78 always. No slot leaves the Kombination.
+// Entry of Dev_text and Dev_adr for slot n of device d, n 0 to 23; -1 where the device has no such slot.
+// Slots from 8 up lie on the places behind it. They are its own while these places are empty and only as far
+// as it has events (4 x its addresses); the LED slots 8 to 11 of kinds 40 and 78 always. No slot leaves the
+// Kombination.
 int Apparat_slot(const Projekt& p, int d, int n);
+// Entry of Dev_text for the key text of slot n; -1 as above, and where the place behind has texts of its own.
+int Apparat_textslot(const Projekt& p, int d, int n);
 
-// ---- layouts of a Kombination --------------------------------------------------------------------------------------
+// ---- layouts of a Kombination
+// --------------------------------------------------------------------------------------
 
 struct Layout {
   std::string_view name;
