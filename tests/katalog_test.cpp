@@ -38,7 +38,8 @@ TEST(Katalog, KindsStandAtTheirNumbersWithTheirSlots) {
       {1, "Einfachtaster ohne LED", "Feller: Einfachtaster ohne LED", 1, "2", ""},
       {25, "Sechsfachtaster ohne LED", "Feller: Sechsfachtaster ohne LED", 2, "234567", ""},
       {40, "ZAVtherm-4-disp", "ZAVtherm Display-Thermostat", 4, "012", "0123"},
-      {41, "Bewegungsmelder \"alt\"", "Feller Bewegungsmelder mit ALTEM Buskoppler (bis Dezember 2008)", 1, "01", ""},
+      {41, "Bewegungsmelder \"alt\"", "Feller Bewegungsmelder mit ALTEM Buskoppler (bis Dezember 2008)", 1,
+       "01", ""},
       {48, "Levy-Taster 6-fach", "Levy: Sechsfachtaster mit LED", 2, "012367", "012367"},
       {58, "Alte Feller-Taster", "Feller (alt): Dreifachtaster mit LED", 1, "023", "023"},
       {73, "", "Universal-Eingang 4 mit LED", 1, "0123", "0123"},
@@ -88,9 +89,15 @@ TEST(Katalog, RunsOfAddressesEndWhereAddressesEnd) {
     const char *von, *anzahl;
     std::optional<Adresslauf> lauf;
   } const faelle[] = {
-      {"12", "2", Adresslauf{12, 2}}, {"250", "6", Adresslauf{250, 6}}, {"253", "6", Adresslauf{253, 3}},
-      {"7", "", Adresslauf{7, 0}},    {"7", "viele", Adresslauf{7, 0}}, {"", "1", {}},
-      {"256", "1", {}},               {"-1", "1", {}},                  {"i12", "1", {}},
+      {"12", "2", Adresslauf{12, 2}},
+      {"250", "6", Adresslauf{250, 6}},
+      {"253", "6", Adresslauf{253, 3}},
+      {"7", "", Adresslauf{7, 0}},
+      {"7", "viele", Adresslauf{7, 0}},
+      {"", "1", {}},
+      {"256", "1", {}},
+      {"-1", "1", {}},
+      {"i12", "1", {}},
   };
   for (const auto& f : faelle) {
     p.App_text[4095] = f.von;
@@ -120,10 +127,23 @@ TEST(Katalog, SlotsBehindTheirPlaceAreOnlyTakenWhileItIsEmpty) {
 }
 
 TEST(Layouts, ShowTheirPlaces) {
-  const std::vector<std::string> erwartet{
-      "0",       "0 4",   "0 4 8", "0 4 8 12", "0 1 4 5",     "0 1 4 5 8 9",     "0 1 4 5 8 9 12 13", "0 1 2 4 5 6 8 9 10",
-      "0 1 2 4 5 6 8 9 10 12 13 14", "0 1",    "0 1 2",       "0 1 2 3",         "0 1 2 4 5 6",       "0 1 2 3 4 5 6 7",
-      "0 1 2 3 4 5 6 7 8 9 10 11",   "0 1 2 3 4 5 6 7 8 9 10 11 12 13 14 15",    "0"};
+  const std::vector<std::string> erwartet{"0",
+                                          "0 4",
+                                          "0 4 8",
+                                          "0 4 8 12",
+                                          "0 1 4 5",
+                                          "0 1 4 5 8 9",
+                                          "0 1 4 5 8 9 12 13",
+                                          "0 1 2 4 5 6 8 9 10",
+                                          "0 1 2 4 5 6 8 9 10 12 13 14",
+                                          "0 1",
+                                          "0 1 2",
+                                          "0 1 2 3",
+                                          "0 1 2 4 5 6",
+                                          "0 1 2 3 4 5 6 7",
+                                          "0 1 2 3 4 5 6 7 8 9 10 11",
+                                          "0 1 2 3 4 5 6 7 8 9 10 11 12 13 14 15",
+                                          "0"};
   ASSERT_EQ(Layouts().size(), erwartet.size());
   for (std::size_t l = 0; l < erwartet.size(); ++l) {
     std::string gezeigt;

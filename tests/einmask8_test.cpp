@@ -1,0 +1,479 @@
+// The tree, the places and the device page of the installation editor, as a person goes through them.
+#include <algorithm>
+#include <set>
+#include <vector>
+
+#include "editor/actmask.h"
+#include "editor/apparatseite.h"
+#include "editor/auswahl_taster.h"
+#include "editor/import.h"
+#include "einmask8_hilfen.h"
+#include "link/leitung.h"
+#include "platform/einstellungen.h"
+#include "simulator/simulator.h"
+
+namespace zav {
+namespace {
+
+std::vector<std::string> Baumtexte(const Baum& b) {
+  std::vector<std::string> texte;
+  for (const Baum::Knoten& k : b.knoten()) {
+    texte.push_back((k.eltern < 0 ? "" : b.knoten()[static_cast<std::size_t>(k.eltern)].text + " > ") +
+                    k.text);
+  }
+  return texte;
+}
+
+TEST_F(Installation, TreeGathersRoomsUnderTheirStorey) {
+  {
+    const Einmask8 leer;
+    EXPECT_EQ(Baumtexte(leer.TreeView1), std::vector<std::string>{""});
+    EXPECT_EQ(leer.Text7.text(), "0");
+  }
+  kombination(0, "Erdgeschoss", "Küche", 0);
+  kombination(1, "Dach", "Wetter", 16);
+  kombination(2, "Erdgeschoss", "Wohnen", 15);
+  Einmask8 m;
+  EXPECT_EQ(Baumtexte(m.TreeView1),
+            (std::vector<std::string>{"Erdgeschoss", "Erdgeschoss > Dach", "Erdgeschoss > Küche",
+                                      "Dach > Wetter", "Erdgeschoss > Wohnen"}));
+  EXPECT_EQ(m.Text7.text(), "3");
+  m.TreeView1.waehlen("2key1547852");
+  EXPECT_EQ(m.kombination(), 2);
+  EXPECT_EQ(m.Frame1.titel, "Erdgeschoss - Wohnen");
+  EXPECT_EQ(m.Image3[15].sichtbar, true);
+  m.TreeView1.waehlen("Dach");
+  EXPECT_EQ(m.kombination(), 2) << "a storey does nothing";
+  m.Text_Suche.eingeben("WETTER");
+  EXPECT_EQ(m.kombination(), 1);
+  EXPECT_EQ(m.Image3[1].sichtbar, false);
+  EXPECT_EQ(Platzierte(m.anordnung()).size(), m.elemente().size());
+  EXPECT_EQ(sitzung.Projekt_geaendert, 0) << "looking changes nothing";
+}
+
+TEST_F(Installation, NewKombinationAsksForStoreyRoomAndLayout) {
+  Einmask8 m;
+  d.erwarte_dialog<Layoutwahl>([this](Layoutwahl& w) {
+    d.erwarte({.text = "Eingabe erforderlich"});
+    w.Text_Standort.eingeben("Keller");
+    w.Command1.druecken();
+    w.Text_Bezeichnung.eingeben("Bad");
+    w.Image6[7].druecken();
+    w.Command1.druecken();
+  });
+  m.Command9.druecken();
+  EXPECT_EQ(m.kombination(), 0);
+  EXPECT_EQ(projekt.Komb_layout[0], 7);
+  EXPECT_EQ(sitzung.Projekt_geaendert, 1);
+
+  apparat(0, 9, 14, -1);
+  const Projekt vorher = projekt;
+  d.erwarte_dialog<Layoutwahl>([this](Layoutwahl& w) {
+    d.erwarte(
+        {.text =
+             "Bitte zuerst Apparate löschen. Die gewünschte Kombination ist kleiner als die bestehende."});
+    w.Image6[4].druecken();
+    w.Command1.druecken();
+    w.Cancel.druecken();
+  });
+  m.Command_Layout.druecken();
+  EXPECT_EQ(projekt, vorher);
+  d.erwarte_dialog<Layoutwahl>([](Layoutwahl& w) {
+    w.Image6[16].druecken();
+    w.Command1.druecken();
+  });
+  m.Command_Layout.druecken();
+  EXPECT_EQ(projekt.Komb_layout[0], 16) << "Diverse is not checked";
+
+  for (int k = 0; k < kombinationen; ++k) kombination(k, "S", std::to_string(k), 0);
+  d.erwarte({.text = "Es sind bereits alle 256 Kombinationen belegt."});
+  m.Command9.druecken();
+}
+
+TEST_F(Installation, DeletingAKombinationClosesTheGap) {
+  const Meldung frage{.text = "Die Kombination wird endgültig gelöscht. Wollen Sie das?",
+                      .titel = "Löschen",
+                      .knoepfe = Knoepfe::Ja_Nein,
+                      .standard = 2};
+  for (int k = 0; k < kombinationen; ++k) kombination(k, "S", std::to_string(k), k % 16);
+  apparat(0, 0, 14, 3);
+  apparat(255, 15, 84, 9);
+  projekt.Dev_text[32767] = "letzte";
+  projekt.Dev_adr[32767] = 641;
+  projekt.App_enocean_id[4095] = "0123ABCD";
+  projekt.App_enocean_empf[4095] = 2;
+  Einmask8 m;
+  d.erwarte({.text = "Bitte löschen Sie vorher alle Apparate"});
+  m.Command13.druecken();
+  m.TreeView1.waehlen("1key1547852");
+  d.erwarte(frage, Antwort::Nein);
+  m.Command13.druecken();
+  EXPECT_EQ(projekt.Komb_text2[1], "1");
+  d.erwarte(frage, Antwort::Ja);
+  m.Command13.druecken();
+  EXPECT_EQ(m.Label1.titel, "Kombination gelöscht");
+  EXPECT_EQ(m.Frame1.titel, "Kombination");
+  EXPECT_EQ(m.Text7.text(), "255");
+  EXPECT_EQ(projekt.Komb_text2[1], "2");
+  EXPECT_EQ(projekt.App_text[0], "3");
+  EXPECT_EQ(projekt.Dev_text[254 * 128 + 127], "letzte");
+  EXPECT_EQ(projekt.Dev_adr[254 * 128 + 127], 641);
+  EXPECT_EQ(projekt.App_enocean_id[254 * 16 + 15], "0123ABCD");
+  EXPECT_EQ(projekt.App_enocean_empf[4095], 255);
+  EXPECT_EQ(projekt.App_typ[4095], 80);
+  EXPECT_EQ(projekt.Dev_adr[32767], 640);
+  EXPECT_EQ(projekt.Komb_text[255], "");
+  EXPECT_EQ(projekt.Komb_typ[255], 0);
+}
+
+TEST_F(Installation, PlacingRulesKeepAddressesTogether) {
+  const std::string andere =
+      "Bitte löschen Sie zuerst den alten Apparat, da der neue nicht gleich viele Adressen belegt.";
+  const std::string keine = "Bitte löschen Sie zuerst den alten Apparat, da der neue keine Adressen belegt.";
+  const std::string diverse = "Bitte wählen Sie für diesen Apparat die Kombination 'Diverse'";
+  const std::string wetter =
+      "Es ist bereits ein Wettersensor definiert. Pro ZAVmaster kann nur EIN Wettersensor definiert werden.";
+  kombination(0, "Dach", "Wetter", 16);
+  kombination(1, "EG", "Küche", 0);
+  kombination(2, "EG", "IR", 16);
+  struct {
+    int k, alt, adresse, neu;
+    std::string verweigert;
+  } const faelle[] = {
+      {1, 80, -1, 65, diverse}, {1, 80, -1, 77, diverse}, {1, 30, 10, 25, ""},     {1, 14, 10, 25, andere},
+      {1, 25, 10, 14, andere},  {1, 14, 10, 1, ""},       {1, 14, 10, 80, keine},  {1, 14, -1, 80, ""},
+      {1, 14, 10, 33, keine},   {1, 14, -1, 40, ""},      {1, 14, 10, 40, andere}, {1, 40, 10, 78, ""},
+      {2, 65, 10, 93, ""},      {2, 77, 10, 93, andere},  {2, 80, -1, 75, wetter}, {1, 80, -1, 75, diverse},
+      {1, 80, -1, 84, ""},      {1, 80, -1, 59, ""},
+  };
+  apparat(0, 0, 75, -1);
+  Einmask8 m;
+  for (const auto& f : faelle) {
+    apparat(f.k, 0, f.alt, f.adresse);
+    m.TreeView1.waehlen(std::to_string(f.k) + "key1547852");
+    sitzung.Projekt_geaendert = 0;
+    if (!f.verweigert.empty()) {
+      d.erwarte_dialog<Apparatwahl>([&](Apparatwahl& w) { w.Bilder.waehlen(std::to_string(f.neu)); });
+      d.erwarte({.text = f.verweigert});
+      const Projekt vorher = projekt;
+      m.mnuChoose.druecken();
+      EXPECT_EQ(projekt, vorher);
+    } else {
+      setzen(m, f.neu);
+      EXPECT_EQ(projekt.App_typ[16 * f.k], f.neu);
+      EXPECT_EQ(projekt.App_text2[16 * f.k], std::to_string(Apparat_art(f.neu)->adressen));
+      EXPECT_EQ(projekt.App_enocean_art[16 * f.k], f.neu == 84 ? 2 : 0);
+    }
+    EXPECT_EQ(sitzung.Projekt_geaendert, f.verweigert.empty() ? 1 : 0) << f.alt << " -> " << f.neu;
+    EXPECT_EQ(d.maengel(), "") << f.alt << " -> " << f.neu;
+  }
+}
+
+TEST_F(Installation, PicturePagesOfferTheirKinds) {
+  Apparatwahl feller("Feller", Apparate_feller());
+  EXPECT_EQ(feller.Bilder.anzahl(), 51 + 16 + 4);
+  EXPECT_EQ(feller.Bilder.eintrag(50).hinweis, "Alte Feller-Taster (Bild:51)");
+  EXPECT_EQ(feller.Bilder.eintrag(59).hinweis, " (Bild:73)");
+  Apparatwahl funk("Enocean", Apparate_enocean());
+  EXPECT_EQ(funk.Bilder.anzahl(), 16 + 9);
+  EXPECT_EQ(funk.Bilder.eintrag(16).hinweis, "Zweifachtaster EnOcean (Bild:81)");
+  Auswahl_Taster alt;
+  alt.Bilder.waehlen("26");
+  EXPECT_EQ(alt.gewaehlt(), 26);
+  EXPECT_EQ(Auswahl_Taster_2().Bilder.eintrag(0).hinweis, "Feller: Einfachtaster ohne LED");
+}
+
+// The page of a kind in short: text fields, LED lists and buttons that show, by number.
+std::string Seite(const Einmask8& m) {
+  std::string s;
+  const auto liste = [&](const auto& feld) {
+    for (std::size_t i = 0; i < feld.size(); ++i) {
+      if (feld[i].sichtbar) s += (s.empty() || s.back() == '|' ? "" : " ") + std::to_string(i);
+    }
+    s += "|";
+  };
+  liste(m.TTxt);
+  liste(m.Combo_LED);
+  liste(m.Command15);
+  return s;
+}
+
+TEST_F(Installation, EveryKindShowsItsPage) {
+  const std::string bis_7 = "0 1 2 3 4 5 6 7|";
+  const std::string alle = "0 1 2 3 4 5 6 7 8 9 10 11 12 13 14 15 16 17 18 19 20 21 22 23|";
+  struct {
+    int typ;
+    std::string seite, knopf, hinweis, name;
+    int j;
+  } const faelle[] = {
+      {1, "2||2|", "Funktionen...", "Funktionen dieser Taste bearbeiten", "", 2},
+      {26, "2 3 4 5 6 7|2 3 4 5 6 7|2 3 4 5 6 7|", "Funktionen...", "Funktionen dieser Taste bearbeiten", "",
+       7},
+      {33, "|||", "", "", "", 0},
+      {39, "0|0 1 2 3|0|", "Heizventil verknüpfen", "*", "", 0},
+      {40, "0 1 2|0 1 2 3|0 1 2 8|", "Heizventil verknüpfen", "*", "", 8},
+      {41, "0 1||0 1|", "Statische Funktion ", "Ereignis  solange Eingang aktiv",
+       "Präsenzmelder (ohne Dämmerung)", 1},
+      {45, "0 1||0 1 2 3|", "1 ---> 0", "Ereignis  bei negativer Flanke", "Präsenzmelder (ohne Dämmerung)",
+       1},
+      {69, "0 1 2 3|0 1 2 3|" + bis_7, "0 ---> 1", "Ereignis  bei positiver Flanke", "Taste 3", 2},
+      {72, bis_7 + "|" + alle, "1 ---> 0", "Ereignis  bei negativer Flanke", "In 8", 7},
+      {76, bis_7 + "|" + alle, "Funktionen...", "Verhalten wie bei Elektroniktaster", "", 16},
+      {77, "0 1 2 3||0 1 2 3|", "Funktionen...", "Verhalten wie bei Elektroniktaster", "In 3", 3},
+      {78, "|0 1 2 3|8|", "Heizventil verknüpfen", "*", "", 8},
+      {79, alle + "|" + alle, "GR 23", "*", "", 23},
+      {88, "0 1||0 1|", "Funktion beim Öffnen", "Ereignis beim Öffnen des Magnetkontakts",
+       "Magnetkontakt öffnet", 1},
+      {71, alle + "|" + alle, "Funktionen...", "*", "", 23},
+      {75, "|||", "", "", "", 0},
+      {0, "|||", "", "", "", 0},
+      {94, "|||", "", "", "", 0},
+  };
+  kombination(0, "EG", "Alles", 16);
+  Einmask8 m;
+  for (const auto& f : faelle) {
+    projekt.App_typ[0] = static_cast<i16>(f.typ);
+    projekt.App_text2[0] = "9";
+    m.Image3[0].druecken();
+    EXPECT_EQ(Seite(m), f.seite) << f.typ;
+    const auto j = static_cast<std::size_t>(f.j);
+    EXPECT_EQ(m.Command15[j].titel, f.knopf) << f.typ;
+    if (f.hinweis != "*") {
+      EXPECT_EQ(m.Command15[j].hinweis, f.hinweis) << f.typ;
+    }
+    if (!f.name.empty()) {
+      EXPECT_EQ(m.Label_Taste[j].titel, f.name) << f.typ;
+    }
+    const Apparatart* const art = Apparat_art(f.typ);
+    EXPECT_EQ(m.Frame2.titel, art == nullptr ? "" : std::string(art->titel));
+    EXPECT_EQ(projekt.App_text2[0], art == nullptr ? "9" : std::to_string(art->adressen)) << f.typ;
+    std::size_t knoepfe = 0;
+    for (const auto& z : m.Tastenzeilen()) knoepfe += z.ereignisse.size();
+    EXPECT_EQ(knoepfe, static_cast<std::size_t>(
+                           std::ranges::count_if(m.Command15, [](const Taste& t) { return *t.sichtbar; })));
+  }
+  projekt.App_typ[0] = 65;
+  m.Image3[0].druecken();
+  EXPECT_EQ(m.Label_Zeile[5].titel, "Mehrfachsender, Tasten D, E, F");
+  projekt.App_typ[0] = 78;
+  m.Image3[0].druecken();
+  EXPECT_EQ(m.Label_LED[1].titel, "Display: Aus = Aktiv, Ein = Dunkel");
+}
+
+TEST_F(Installation, TextsAndLedsGoToTheirSlotsAndReachTheMaster) {
+  for (int k = 0; k < kombinationen; ++k) kombination(k, "EG", "Raum", 15);
+  apparat(0, 0, 40, 10);  // its LED lists write the slots 8 to 11
+  apparat(0, 5, 69, 20);  // two events a key
+  apparat(0, 6, 39, 30);
+  apparat(255, 15, 30, 254);
+  projekt.Relais_text[29] = "Decke";
+  std::ranges::fill(projekt.Grp_led.alle(), i16{0});
+  projekt.Grp_thermo[99] = 1;
+  Einmask8 m;
+  EXPECT_EQ(m.Combo_LED[0].anzahl(), 642);
+  EXPECT_EQ(m.Combo_LED[0].eintrag(29).text, "O3-5: Decke");
+  EXPECT_EQ(m.Combo_LED[0].eintrag(639).text, "D31-3: ");
+  EXPECT_EQ(m.Combo_LED[0].eintrag(640).text, "LED dauernd aus");
+  m.Combo_LED[1].waehlen("LED dauernd ein");
+  m.Image3[5].druecken();
+  m.Combo_LED[2].waehlen(513);
+  m.Image3[6].druecken();
+  m.Combo_LED[3].waehlen(1);
+  m.TTxt[0].eingeben("Heizung");
+  m.TreeView1.waehlen("255key1547852");
+  m.Image3[15].druecken();
+  EXPECT_EQ(m.Label_Adresse.titel, "Adresse i254 - i255");
+  m.TTxt[7].eingeben("Licht");
+  m.Combo_LED[7].waehlen(29);
+  m.Cancel.druecken();
+
+  EXPECT_EQ(projekt.Dev_adr[9], 641);
+  EXPECT_EQ(projekt.Dev_adr[42], 513);
+  EXPECT_EQ(projekt.Dev_adr[51], 1);
+  EXPECT_EQ(projekt.Dev_text[48], "Heizung");
+  EXPECT_EQ(projekt.Dev_text[32767], "Licht");
+  EXPECT_EQ(projekt.Ein_led[4 * 12 + 1], 641) << "the thermostat's third address shows them";
+  EXPECT_EQ(projekt.Ein_led[4 * 20 + 4], 513);
+  EXPECT_EQ(projekt.Ein_led[4 * 20 + 5], 513);
+  EXPECT_EQ(projekt.Ein_led[1023], 29);
+  std::set<int> leds, thermo;
+  for (int a = 0; a < adressen; ++a) {
+    if (projekt.Grp_led[a] != 0) leds.insert(a);
+    if (projekt.Grp_thermo[a] != 0) thermo.insert(a);
+  }
+  EXPECT_EQ(leds, (std::set<int>{12, 21, 30, 255}));
+  EXPECT_EQ(thermo, (std::set<int>{12, 30}));
+
+  apparat(255, 15, 78, 200);
+  m.oeffnen();
+  m.Image3[15].druecken();
+  EXPECT_EQ(m.Combo_LED[0].frei, false) << "no place behind the last one";
+  m.Cancel.druecken();
+}
+
+TEST_F(Installation, EventsOpenByTheirOffset) {
+  kombination(0, "EG", "Küche", 16);
+  apparat(0, 0, 30, -1);
+  projekt.Dev_text[5] = "Licht";
+  Einmask8 m;
+  d.erwarte({.text = "Bitte Adresse definieren"});
+  m.Command15[5].druecken();
+  adresse_waehlen(12);
+  m.Command2.druecken();
+  d.erwarte_dialog<Actmask>([](Actmask& a) {
+    EXPECT_NE(a.titel().find("EG - Küche - Licht"), std::string::npos) << a.titel();
+    a.Check1[2].haken(true);
+    a.Combo1[2].waehlen(2);
+    a.Text1[2].ausfuellen("Decke");
+    a.Command5.druecken();
+  });
+  m.Command15[5].druecken();
+  EXPECT_EQ(projekt.Ein_relais(53, 2), 2);
+  EXPECT_EQ(projekt.Ein_leer[53], 1);
+  EXPECT_EQ(m.Command15[5].farbe, Farbe::belegt);
+  EXPECT_EQ(m.Command15[4].farbe, Farbe::normal);
+  EXPECT_TRUE(m.Taste_belegt(0, 5));
+  EXPECT_EQ(m.Combo_LED[0].eintrag(2).text, "O0-2: Decke") << "lists follow new texts";
+
+  // An edge input: the falling edge of key 2 has offset 5. A remote control: 24 events.
+  projekt.App_typ[0] = 69;
+  projekt.Dev_text[2] = "Tor";
+  m.Image3[0].druecken();
+  EXPECT_EQ(m.Command15[5].farbe, Farbe::belegt);
+  d.erwarte_dialog<Actmask>([](Actmask& a) {
+    EXPECT_NE(a.titel().find("EG - Küche - Tor"), std::string::npos);
+    a.Command6.druecken();
+  });
+  m.Command15[5].rechts_druecken();
+  m.mnuCommand7.druecken();
+  apparat(0, 0, 71, 20);
+  projekt.Ein_leer[103] = 1;
+  m.Image3[0].druecken();
+  EXPECT_EQ(m.Command15[23].farbe, Farbe::belegt);
+}
+
+TEST_F(Installation, FeedbackSearchLinksTheFirstOutput) {
+  kombination(0, "EG", "Küche", 15);
+  apparat(0, 0, 14, 10);
+  projekt.Ein_relais(40, 7) = 5;  // a blind
+  projekt.Ein_relais(41, 6) = 7;  // a thermostat
+  projekt.Ein_relais(41, 9) = 4;
+  projekt.Ein_dimmer(42, 5, 2) = 60;
+  std::ranges::fill(projekt.Grp_led.alle(), i16{0});
+  Einmask8 m;
+  d.erwarte_text(
+      "2 LED-Rückmeldungen gefunden\nKeine LED-Rückmeldungen für Storen, Timer und Thermo, bitte manuell "
+      "verknüpfen");
+  m.mnuRucksuch.druecken();
+  EXPECT_EQ(m.Combo_LED[0].position(), 640);
+  EXPECT_EQ(projekt.Dev_adr[1], 9);
+  EXPECT_EQ(projekt.Dev_adr[2], 517);
+  EXPECT_EQ(projekt.Grp_led[10], 1);
+}
+
+TEST_F(Installation, DoorsLeadWhereTheyShould) {
+  kombination(0, "Dach", "Wetter", 16);
+  std::string gang;
+  Einmask8 m(
+      {.senden = [&] { gang += " senden"; },
+       .wetterlogik = [&] { gang += " wetter"; },
+       .enocean_definition = [&](int p) { gang += " funk" + std::to_string(p); },
+       .enocean_schatten_kopieren = [&] { gang += " schatten"; },
+       .enocean_abgleichen = [&] { gang += " abgleichen"; },
+       .app_seite = [&](int p, int j) { gang += " app" + std::to_string(p) + "," + std::to_string(j); }});
+  apparat(0, 0, 75, 60);
+  m.Image3[0].druecken();
+  m.Command_Wetter.druecken();
+  apparat(0, 0, 89, 60);
+  m.Image3[0].druecken();
+  m.Slider20.schieben(200);
+  EXPECT_EQ(m.Label_Lux.titel, "200 Lux");
+  EXPECT_EQ(projekt.App_enocean_wert[0], 200);
+  m.Command_Enocean.druecken();
+  m.Command15[3].rechts_druecken();
+  m.mnuEigenschaften.druecken();
+  d.erwarte({.text = "Bitte das erste Senden in dieser Sitzung über das Hauptmenu aufrufen"});
+  m.mnuSend.druecken();
+  sitzung.Projekt_gesendet = 1;
+  m.mnuSend.druecken();
+  m.schliessen_wuenschen();
+  EXPECT_FALSE(m.offen());
+  EXPECT_EQ(gang, " schatten wetter funk0 app0,3 abgleichen senden abgleichen");
+}
+
+TEST_F(Installation, LiveCommandsReachTheMasterAndAlwaysReleaseTheKey) {
+  simulator::Simulator sim({.tcp = 0});
+  sim.start();
+  einstellungen.Com_art = 1;
+  einstellungen.Host_name = einstellungen.Host_ip = "127.0.0.1";
+  einstellungen.Host_port = sim.tcp_port();
+  Com_art_setzen();
+
+  kombination(0, "EG", "Küche", 15);
+  apparat(0, 0, 30, -1);
+  Einmask8 m;
+  m.Command15[5].rechts_druecken();
+  d.erwarte({.text = "Bitte Adresse definieren"});
+  m.mnuOn.druecken();
+  projekt.App_text[0] = "12";
+  m.mnuShort.druecken();
+  m.mnuOn.druecken();
+  EXPECT_EQ(m.mnuOn.frei, false);
+  EXPECT_EQ(m.mnuShort.frei, false);
+  m.Command15[0].rechts_druecken();
+  m.mnuOff.druecken();
+  EXPECT_EQ(m.mnuOn.frei, true);
+  m.mnuOn.druecken();
+  m.Cancel.druecken();
+  std::vector<std::string> y;
+  for (const std::string& zeile : sim.mitschrift()) {
+    if (zeile.starts_with("Y")) y.push_back(zeile);
+  }
+  // Address 13, key 2; then address 12, key 1, released by closing.
+  EXPECT_EQ(y, (std::vector<std::string>{"Y041A0202", "Y041A0102", "Y041A0002", "Y04180101", "Y04180001"}));
+}
+
+TEST_F(Installation, ImportMakesAKombinationOfEachGroup) {
+  struct {
+    int adresse;
+    const char* text;
+    i16 bild;
+    int typ, anzahl;
+  } const faelle[] = {{3, "Küche", 5, 54, 1}, {7, "@me Wohnen", 5, 65, 6}, {13, "x", 24, 48, 2},
+                      {20, "@wa", 0, 67, 1},  {21, "@di Bad", 0, 40, 4},   {30, "?", 7, 73, 1},
+                      {31, "y", 42, 73, 1},   {32, "z", 40, 25, 2},        {253, "@no Keller", 1, 76, 6}};
+  for (const auto& f : faelle) {
+    projekt.Grp_text[f.adresse] = f.text;
+    projekt.Grp_typ[f.adresse] = f.bild;
+  }
+  projekt.Grp_text[9] = "gehört zum Mehrfachsender";
+  projekt.Ein_text[5] = "ohne Gruppentext";
+  projekt.Ein_text[4 * 7 + 23] = "F";
+  projekt.Ein_led[4 * 7 + 23] = 77;
+  projekt.Ein_text[1023] = "letzter";
+  Einmask8 m;
+  m.mnuImport.druecken();
+  int k = 0;
+  for (const auto& f : faelle) {
+    EXPECT_EQ(projekt.App_typ[16 * k], f.typ) << f.text;
+    EXPECT_EQ(projekt.App_text[16 * k], std::to_string(f.adresse));
+    EXPECT_EQ(projekt.App_text2[16 * k], std::to_string(f.anzahl));
+    EXPECT_EQ(projekt.Komb_layout[16], 0);
+    ++k;
+  }
+  EXPECT_EQ(projekt.Komb_text[k], "");
+  EXPECT_EQ(projekt.Komb_text2[0], "i003: Küche");
+  EXPECT_EQ(projekt.Dev_text[128 + 23], "F");
+  EXPECT_EQ(projekt.Dev_adr[128 + 23], 77);
+  EXPECT_EQ(projekt.Dev_text[8 * 128 + 11], "letzter");
+  EXPECT_EQ(Baumtexte(m.TreeView1).at(1), "IMPORT > i003: Küche");
+  const Projekt vorher = projekt;
+  d.erwarte({.text = "Import nicht zulässig, wenn schon Kombinationen bestehen. Bitte löschen Sie alle "
+                     "Kombinationen oder "
+                     "erstellen Sie ein neues Projekt."});
+  m.mnuImport.druecken();
+  EXPECT_EQ(projekt, vorher);
+}
+
+}  // namespace
+}  // namespace zav
