@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <array>
 #include <chrono>
-#include <cmath>
 #include <thread>
 
 #include "basis/melder.h"
@@ -14,6 +13,7 @@
 #include "platform/einstellungen.h"
 #include "platform/sio.h"
 #include "platform/uhrwerk.h"
+#include "store/sitzung.h"
 
 namespace zav {
 
@@ -121,6 +121,7 @@ void Antwort_holen(i16 zeit, int antwortlaenge) {
   const int n = ausgang == Ausgang::da || !Ist_tcp() ? Nehmen(puffer.data(), antwortlaenge) : 0;
   if (ausgang != Ausgang::da) {
     if (ausgang == Ausgang::zu_spaet || !Ist_tcp()) melder().Piep();
+    sitzung.Master_neu_pruefen = 1;
     Ohne_antwort(Antwort_keine);
     return;
   }

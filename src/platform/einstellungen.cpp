@@ -31,47 +31,58 @@ struct Zeile {
   Gruppe gruppe;
   std::string schluessel;
   std::variant<i16*, i32*, str*> wert;
-  std::variant<std::int32_t, std::string> vorgabe;
-  std::int32_t von = 0, bis = 0;  // range of a number
-  // Value that is written, where it is not the one that was read.
-  const str* geschrieben = nullptr;
+  std::int32_t von = 0, bis = 0;     // range of a number
+  const str* geschrieben = nullptr;  // what is written, where it is not the value itself
 
-  std::string_view abschnitt() const { return gruppe == Gruppe::ports ? "Ports" : "Startup"; }
+  const char* abschnitt() const { return gruppe == Gruppe::ports ? "Ports" : "Startup"; }
 };
 
-// The settings in the order in which they are read: key, place, default, range. What they mean stands at
-// their members.
+// The settings in the order in which they are read. What they mean and their defaults stand at their members.
 std::vector<Zeile> Tabelle(Einstellungen& e) {
-  const Einstellungen frisch;
-  std::vector<Zeile> t;
-  const auto zahl = [&t](const char* schluessel, auto& ziel, std::int32_t vorgabe, std::int32_t von,
-                         std::int32_t bis) {
-    t.push_back({Gruppe::programm, schluessel, &ziel, vorgabe, von, bis});
-  };
-  const auto text = [&t](Gruppe g, std::string schluessel, str& ziel, const str& vorgabe,
-                         const str* schreiben = nullptr) {
-    t.push_back({g, std::move(schluessel), &ziel, vorgabe, 0, 0, schreiben});
-  };
   constexpr std::int32_t i16_min = std::numeric_limits<i16>::min(), i16_max = std::numeric_limits<i16>::max();
-
-  zahl("comport", e.Com_port, frisch.Com_port, 1, 8);
-  text(Gruppe::programm, "standarddir", e.Standard_ordner, frisch.Standard_ordner);
-  for (int i = 0; i < 20; ++i) {
-    text(Gruppe::programm, "sowi_zeit" + std::to_string(i + 1) + "_txt", e.Sowi_datum[i],
-         frisch.Sowi_datum[i]);
-  }
-  zahl("richt_mode", e.Richt_modus, frisch.Richt_modus, 0, 2);
-  zahl("epson", e.Epson, frisch.Epson, i16_min, i16_max);
-  zahl("ComArt", e.Com_art, frisch.Com_art, 0, 2);
-  zahl("EventSperr", e.Event_sperre, frisch.Event_sperre, 0, 1);
-  text(Gruppe::programm, "HostName", e.Host_name, frisch.Host_name);
-  text(Gruppe::programm, "HostNameIP", e.Host_ip, frisch.Host_ip, &e.Host_name);
-  zahl("HostPort", e.Host_port, frisch.Host_port, 0, 65535);
-  for (int i = 0; i < 4; ++i) {
-    text(Gruppe::letzte_dateien, "last_file_" + std::to_string(i), e.last_file[i], frisch.last_file[i]);
-  }
-  for (int i = 0; i < 8; ++i) text(Gruppe::ports, "com" + std::to_string(i + 1), e.Ports[i], frisch.Ports[i]);
+  std::vector<Zeile> t;
+  const auto reihe = [&t](Gruppe gruppe, const std::string& name, const char* ende, int erste, auto& feld) {
+    for (int i = 0; i < static_cast<int>(feld.groesse); ++i) {
+      t.push_back({gruppe, name + std::to_string(erste + i) + ende, &feld[i]});
+    }
+  };
+  t.push_back({Gruppe::programm, "comport", &e.Com_port, 1, 8});
+  t.push_back({Gruppe::programm, "standarddir", &e.Standard_ordner});
+  reihe(Gruppe::programm, "sowi_zeit", "_txt", 1, e.Sowi_datum);
+  t.push_back({Gruppe::programm, "richt_mode", &e.Richt_modus, 0, 2});
+  t.push_back({Gruppe::programm, "epson", &e.Epson, i16_min, i16_max});
+  t.push_back({Gruppe::programm, "ComArt", &e.Com_art, 0, 2});
+  t.push_back({Gruppe::programm, "EventSperr", &e.Event_sperre, 0, 1});
+  t.push_back({Gruppe::programm, "HostName", &e.Host_name});
+  t.push_back({Gruppe::programm, "HostNameIP", &e.Host_ip, 0, 0, &e.Host_name});
+  t.push_back({Gruppe::programm, "HostPort", &e.Host_port, 0, 65535});
+  reihe(Gruppe::letzte_dateien, "last_file_", "", 0, e.last_file);
+  reihe(Gruppe::ports, "com", "", 1, e.Ports);
   return t;
+}
+
+// Takes the text of the file over; false, and the value as it was, where it is no number of the range.
+bool Uebernehmen(const Zeile& z, const std::string& text) {
+  if (auto* const* ziel = std::get_if<str*>(&z.wert)) {
+    **ziel = text;
+    return true;
+  }
+  const auto zahl = Zahl_lesen(text, z.von, z.bis);
+  if (!zahl) return false;
+  if (auto* const* kurz = std::get_if<i16*>(&z.wert)) {
+    **kurz = static_cast<i16>(*zahl);
+  } else {
+    *std::get<i32*>(z.wert) = *zahl;
+  }
+  return true;
+}
+
+std::string Text(const str& wert) { return wert; }
+std::string Text(std::int32_t wert) { return std::to_string(wert); }
+
+std::string Geschrieben(const Zeile& z) {
+  if (z.geschrieben != nullptr) return *z.geschrieben;
+  return std::visit([](const auto* wert) { return Text(*wert); }, z.wert);
 }
 
 // Reads the file as it stands; one that does not exist is empty. The error number, 0 when all went well.
@@ -108,27 +119,15 @@ std::string Einstellungen_lesen() {
   Ini ini;
   const int fehler = Ini_lesen(ini);
   std::string klage = fehler == 0 ? std::string() : Klage("gelesen", fehler);
+  Einstellungen frisch;
+  frisch.Com_geraet = einstellungen.Com_geraet;
+  einstellungen = frisch;
   for (const Zeile& z : Tabelle(einstellungen)) {
     const auto text = ini.Lesen(z.abschnitt(), z.schluessel);
-    if (auto* const* ziel = std::get_if<str*>(&z.wert)) {
-      **ziel = text ? *text : std::get<std::string>(z.vorgabe);
-      continue;
-    }
-    std::int32_t wert = std::get<std::int32_t>(z.vorgabe);
-    if (text) {
-      if (const auto gelesen = Zahl_lesen(*text, z.von, z.bis)) {
-        wert = *gelesen;
-      } else if (klage.empty()) {
-        klage = "In der Einstellungsdatei " + Einstellungsdatei() + " steht bei \"" + z.schluessel +
-                "\" keine gültige Zahl: \"" + *text + "\" (erlaubt: " + std::to_string(z.von) + " bis " +
-                std::to_string(z.bis) + ").";
-      }
-    }
-    if (auto* const* kurz = std::get_if<i16*>(&z.wert)) {
-      **kurz = static_cast<i16>(wert);
-    } else {
-      *std::get<i32*>(z.wert) = wert;
-    }
+    if (!text || Uebernehmen(z, *text) || !klage.empty()) continue;
+    klage = "In der Einstellungsdatei " + Einstellungsdatei() + " steht bei \"" + z.schluessel +
+            "\" keine gültige Zahl: \"" + *text + "\" (erlaubt: " + std::to_string(z.von) + " bis " +
+            std::to_string(z.bis) + ").";
   }
   return klage;
 }
@@ -141,16 +140,7 @@ std::string Gruppen_schreiben(std::initializer_list<Gruppe> gruppen) {
   if (const int fehler = Ini_lesen(ini); fehler != 0) return Klage("gelesen", fehler);
   for (const Zeile& z : Tabelle(einstellungen)) {
     if (std::find(gruppen.begin(), gruppen.end(), z.gruppe) == gruppen.end()) continue;
-    std::string wert;
-    if (z.geschrieben != nullptr) {
-      wert = *z.geschrieben;
-    } else if (auto* const* text = std::get_if<str*>(&z.wert)) {
-      wert = **text;
-    } else if (auto* const* kurz = std::get_if<i16*>(&z.wert)) {
-      wert = std::to_string(**kurz);
-    } else {
-      wert = std::to_string(*std::get<i32*>(z.wert));
-    }
+    const std::string wert = Geschrieben(z);
     // An unset port needs no line.
     if (z.gruppe == Gruppe::ports && wert.empty() && !ini.Lesen(z.abschnitt(), z.schluessel)) continue;
     ini.Setzen(z.abschnitt(), z.schluessel, wert);
