@@ -1,0 +1,515 @@
+#include <gtest/gtest.h>
+#include <sys/file.h>
+
+#include <array>
+#include <filesystem>
+#include <iterator>
+
+#include "gegenstelle.h"
+#include "hilfen.h"
+#include "link/adresse.h"
+#include "link/leitung.h"
+#include "link/protokoll.h"
+#include "platform/uhrwerk.h"
+#include "simulator/simulator.h"
+#include "store/sitzung.h"
+
+namespace zav {
+namespace {
+
+class Skript : public Meldungsskript {
+ public:
+  void Hinweis(const std::string& text) override { hinweise.push_back(text); }
+  void fehler(const std::string& text) {
+    erwarte({.text = text, .titel = "Fehler", .symbol = Symbol::Stopp});
+  }
+  std::vector<std::string> hinweise;
+};
+
+class LinkTest : public testing::TestWithParam<Verbindung> {
+ protected:
+  LinkTest() {
+    einstellungen = {};
+    leitung = {};
+    sitzung = {};
+    // Twenty seconds of waiting in one: long enough for a slow machine, where something must come.
+    Zeitraffer_setzen(20);
+  }
+  ~LinkTest() override { Zeitraffer_setzen(1); }
+
+  bool ist_com() const { return GetParam() == Verbindung::com; }
+  void oeffne() {
+    Port_oeffnen();
+    ASSERT_EQ(leitung.Port_fehler, 0);
+  }
+  std::string sende(const std::string& text, i16 zeit = 40, bool anhang = true, int laenge = 6) {
+    leitung.Sende_text = text;
+    Meldung_senden(leitung.Sende_text, zeit, anhang, laenge);
+    return leitung.Empfang_text;
+  }
+
+  Skript skript;
+};
+
+INSTANTIATE_TEST_SUITE_P(Leitungen, LinkTest, testing::Values(Verbindung::com, Verbindung::tcp),
+                         [](const auto& art) { return art.param == Verbindung::com ? "Com" : "Tcp"; });
+
+TEST_P(LinkTest, MessageCarriesItsChecksumAndTheReplyLosesIts) {
+  Gegenstelle g(GetParam());
+  g.antworte("i69\r", "F00A6\r");
+  g.antworte("V56\r", std::vector<std::string>{"REV 0", "9.04 ", "12\r"});  // the reply comes in pieces
+  g.antworte("*", "F00A6\r");
+  g.antworte("s73\r", std::string("\xE4\x80\0??\r", 6));
+  g.antworte(
+      "W\xFC"
+      "00B3\r",
+      "F00A6\r");
+  g.los();
+  oeffne();
+  EXPECT_EQ(sende("i"), "F00\r");
+  EXPECT_TRUE(Antwort_ist_gut());
+  EXPECT_EQ(leitung.Sende_text, "i69\r");
+  EXPECT_EQ(sende("V", 40, true, 13), "REV 09.04 \r");
+  EXPECT_EQ(sende("*", 40, false), "F00\r");
+  EXPECT_EQ(sende("s"), std::string("ä€\0\r", 7));  // garbage is text like any other
+  EXPECT_FALSE(Antwort_ist_gut());
+  EXPECT_EQ(sende("Wü00"), "F00\r");  // one byte a character on the wire
+  EXPECT_EQ(leitung.Fehler_korrigiert, 0);
+  Port_schliessen();
+}
+
+TEST_P(LinkTest, ChecksumComplaintIsAnsweredByNineMoreTries) {
+  for (const int klagen : {1, 9, 10}) {
+    Gegenstelle g(GetParam());
+    for (int i = 0; i < klagen; ++i) {
+      g.antworte("LD01F1\r", "F07AD\r");
+      if (i < 9) g.schweige("%");
+    }
+    if (klagen < 10) g.antworte("LD01F1\r", "F00A6\r");
+    g.los();
+    oeffne();
+    leitung.Fehler_korrigiert = 0;
+    EXPECT_EQ(sende("LD01"), klagen < 10 ? "F00\r" : "F07\r");
+    EXPECT_EQ(leitung.Fehler_korrigiert, klagen);
+    EXPECT_EQ(leitung.Empfang_status, 0);
+    Port_schliessen();
+  }
+  EXPECT_EQ(skript.pieptoene(), 0);
+}
+
+TEST_P(LinkTest, SilenceAndAShortReplyCountAsNone) {
+  for (const std::string antwort : {"", "F00A6"}) {
+    Gegenstelle g(GetParam());
+    g.antworte("i69\r", antwort).los();
+    oeffne();
+    sitzung.Master_neu_pruefen = 0;
+    const double beginn = Timer();
+    EXPECT_EQ(sende("i", 2), "F98\r");
+    EXPECT_GE(Timer() - beginn,
+              1.0);  // two seconds of the rounded clock: one and a half at least, with its slack
+    EXPECT_EQ(leitung.Empfang_status, 1);
+    EXPECT_EQ(sitzung.Master_neu_pruefen, 1);
+    Port_schliessen();
+  }
+  EXPECT_EQ(skript.pieptoene(), 2);
+}
+
+TEST_P(LinkTest, SurplusBytesBeginTheNextReplyUnlessTheyAreDropped) {
+  Gegenstelle g(GetParam());
+  g.antworte("i69\r", "F00A6\rXYZ").antworte("i69\r", "F00A6\r");
+  g.antworte("EI8E\r", std::vector<std::string>{"..\r..F00", "A6", "\r"}).antworte("i69\r", "F00A6\r");
+  g.los();
+  oeffne();
+  EXPECT_EQ(sende("i"), "F00\r");
+  EXPECT_EQ(sende("i"), "XYZ\r");
+  Empfang_leeren();
+
+  EXPECT_EQ(Bytes_senden("EI8E\r"), 5);
+  std::string strom;
+  std::array<char, 3> puffer{};
+  while (!strom.ends_with("F00")) {
+    const int n = Bytes_lesen(puffer.data(), 1, 5000);
+    ASSERT_EQ(n, 1);
+    strom += puffer[0];
+  }
+  EXPECT_EQ(strom, "..\r..F00");
+  Empfang_leeren();  // the rest of the stream is still under way
+  EXPECT_EQ(sende("i"), "F00\r");
+  EXPECT_EQ(Bytes_lesen(puffer.data(), 3, 10), 0);
+  Port_schliessen();
+}
+
+TEST_P(LinkTest, MasterThatVanishesIsSeenAtOnce) {
+  Zeitraffer_setzen(1);
+  {
+    Gegenstelle g(GetParam());
+    g.verschwinde("i69\r", "F0").los();
+    oeffne();
+    const double beginn = Timer();
+    EXPECT_EQ(sende("i", 60), "F98\r");
+    EXPECT_LT(Timer() - beginn, 30.0);
+    EXPECT_EQ(leitung.Empfang_status, 1);
+    EXPECT_EQ(skript.pieptoene(), ist_com() ? 1 : 0);
+  }
+  // Sending into the void: the serial link complains in a box, the network is silent.
+  if (ist_com()) skript.erwarte({.text = "SIO: Fehler -5 bei Befehl puts"});
+  EXPECT_EQ(sende("i", 60), "F98\r");
+  Port_schliessen();
+  if (ist_com()) skript.erwarte({.text = "SIO: Fehler -9 bei Befehl puts"});
+  EXPECT_EQ(sende("i", 60), "F98\r");  // a port that is not open
+}
+
+TEST_P(LinkTest, CancelEndsTheNextMessageBeforeItIsSent) {
+  Gegenstelle g(GetParam());
+  g.antworte("i69\r", "F00A6\r").los();
+  oeffne();
+  leitung.Abbruch_flag = 1;
+  EXPECT_EQ(sende("V"), "F97\r");
+  EXPECT_EQ(leitung.Empfang_status, 1);
+  EXPECT_EQ(leitung.Abbruch_gemeldet, 1);
+  EXPECT_EQ(leitung.Abbruch_flag, 0);
+  EXPECT_EQ(skript.pieptoene(), 1);
+  EXPECT_EQ(sende("i"), "F00\r");
+  EXPECT_EQ(leitung.Empfang_status, 0);
+  Port_schliessen();
+}
+
+TEST_P(LinkTest, RestartCountsOnlyWithTheMastersFirstSignOfLife) {
+  const struct {
+    const char *auf_stern, *auf_i;
+    Meldung box;
+  } faelle[] = {
+      {"F00A6\r",
+       "F99B8\r",
+       {.text = "F99: Neustart im ZAVmaster war erfolgreich",
+        .titel = "Info",
+        .symbol = Symbol::Information}},
+      {"F00A6\r",
+       "F00A6\r",
+       {.text = "Fxx: Undefinierbarer Fehler", .titel = "Fehler", .symbol = Symbol::Stopp}},
+      {"F01C7\r",
+       nullptr,
+       {.text = "Fxx: Undefinierbarer Fehler", .titel = "Fehler", .symbol = Symbol::Stopp}},
+      {"", nullptr, {.text = "F98: Keine Antwort vom ZAVmaster", .titel = "Fehler", .symbol = Symbol::Stopp}},
+  };
+  for (const auto& fall : faelle) {
+    Gegenstelle g(GetParam());
+    g.antworte("*", fall.auf_stern);
+    if (fall.auf_i != nullptr) g.antworte("i", fall.auf_i);  // bare: a master that restarts takes no checksum
+    g.los();
+    skript.erwarte(fall.box);
+    Neustart_ausfuehren();
+    EXPECT_EQ(skript.zeiger(), Zeiger::normal);
+  }
+  ASSERT_EQ(skript.hinweise.size(), 2 * std::size(faelle));
+  EXPECT_EQ(skript.hinweise[0], "Neustart ZAVmaster...bitte 10 bis 15 Sekunden warten");
+  EXPECT_EQ(skript.hinweise[1], "");
+}
+
+TEST_P(LinkTest, QueryReadsVersionAndNameOfTheProject) {
+  const Meldung nicht_moeglich{.text = "Abfrage nicht möglich. Versuchen Sie es bitte noch einmal."};
+  const std::string name_hex = "4DFC6C6C6572202020202020202020202020202020202020";
+  {
+    Gegenstelle g(GetParam());
+    g.antworte("V56\r", "REV 09.04 00\r")
+        .antworte("D00080800081FB3\r", "F00A6\r")
+        .antworte("R52\r", name_hex + "00\r");
+    g.los();
+    const Masterinfo info = Master_abfragen();
+    EXPECT_TRUE(info.gut);
+    EXPECT_EQ(info.version, "REV 09.04 ");
+    EXPECT_EQ(info.projekt, "Müller" + std::string(18, ' '));
+    EXPECT_EQ(sitzung.Master_version, "REV 09.04 ");
+  }
+  for (const std::string& antwort : {std::string(48, 'Q') + "00\r", std::string("F06CC\r")}) {
+    Gegenstelle g(GetParam());
+    g.antworte("V56\r", "REV 09.04 00\r")
+        .antworte("D00080800081FB3\r", "F00A6\r")
+        .antworte("R52\r", antwort)
+        .los();
+    skript.erwarte(nicht_moeglich);
+    EXPECT_FALSE(Master_abfragen().gut);
+  }
+  Gegenstelle g(GetParam());
+  g.antworte("V56\r", "REV 09.04 00\r").antworte("D00080800081FB3\r", "F06CC\r").los();
+  skript.erwarte(nicht_moeglich);
+  EXPECT_FALSE(Master_abfragen().gut);
+}
+
+TEST_P(LinkTest, TelegramAndEventTellTheCodeInTheirOwnWords) {
+  const struct {
+    const char *code, *telegramm, *ereignis;
+  } faelle[] = {
+      {"F02", "F02: Undefinierbarer Fehler", "F02: Ereignis kann nicht erzeugt werden"},
+      {"F06", "F06: Undefinierbarer Fehler", "F06: Argumente sind nicht im Wertebereich"},
+      {"F66", "F66: Nicht genügend Argumente erhalten", "F66: Undefinierbarer Fehler"},
+      {"F81", "F81: Die CAN-Telegrammlänge ist ungültig", "F81: Undefinierbarer Fehler"},
+      {"F80", "F80: Die CAN-Adresse ist nicht im gültigen Bereich",
+       "F80: Die CAN-Adresse ist nicht im gültigen Bereich"},
+      {"???", "???: Undefinierbarer Fehler", "???: Undefinierbarer Fehler"},
+  };
+  for (const auto& fall : faelle) {
+    Gegenstelle g(GetParam());
+    g.antworte("X02010253410000000000008A\r", fall.code + std::string("00\r"));
+    g.antworte("Y000A0105F0\r", fall.code + std::string("00\r"));
+    g.los();
+    skript.fehler(fall.telegramm);
+    Can_senden("0201", "02", "5341000000000000");
+    EXPECT_EQ(leitung.Empfang_status, 1);
+    skript.fehler(fall.ereignis);
+    Ereignis_erzeugen("000A", "01", "05");
+    EXPECT_EQ(leitung.Empfang_status, 1);
+  }
+  Gegenstelle g(GetParam());
+  g.antworte("Y000A0105F0\r", "F00A6\r").schweige("Y000A0105F0\r").los();
+  Ereignis_erzeugen("000A", "01", "05");
+  EXPECT_EQ(leitung.Empfang_status, 0);
+  skript.erwarte({.text = "Zeitüberschreitung, versuchen Sie es bitte noch einmal."});
+  skript.fehler("F98: Keine Antwort vom ZAVmaster");
+  Ereignis_erzeugen("000A", "01", "05");
+}
+
+TEST_P(LinkTest, FailedOpenSpeaksOnceAndTheCommandIsSilent) {
+  { const Gegenstelle weg(GetParam()); }  // leaves the settings pointing at a line that is gone
+  const std::string ziel = ist_com() ? einstellungen.Com_geraet : std::to_string(einstellungen.Host_port);
+  const Meldung box{
+      .text = ist_com()
+                  ? "SIO-Fehler -2 --- F97: COM-Port kann nicht geöffnet werden. Eventuell ist es bereits "
+                    "durch ein anderes Programm belegt. Das Gerät " +
+                        ziel + " gibt es nicht."
+                  : "TCP-Fehler -111: Fehler beim Öffnen. 127.0.0.1 (Port " + ziel +
+                        ") nimmt keine Verbindung an."};
+  skript.erwarte(box);
+  Neustart_ausfuehren();
+  skript.erwarte(box);
+  Can_senden("0201", "02", "5341000000000000");
+  EXPECT_EQ(leitung.Empfang_text, "portopen");
+  EXPECT_EQ(leitung.Empfang_status, 1);
+  EXPECT_EQ(leitung.Port_fehler, 1);
+  skript.erwarte(box);
+  skript.erwarte({.text = "1 bei Open Port", .titel = "SIO: Fehler "});
+  EXPECT_FALSE(Master_abfragen().gut);
+}
+
+TEST_P(LinkTest, WholeDialoguesWithTheSimulatedMaster) {
+  simulator::Simulator sim({.pty = true});
+  sim.start();
+  einstellungen.Com_geraet = sim.pty_name();
+  einstellungen.Host_ip = "127.0.0.1";
+  einstellungen.Host_port = sim.tcp_port();
+  einstellungen.Com_art = ist_com() ? 0 : 2;
+  Com_art_setzen();
+  sim.speicher_setzen(0x808, simulator::Bytes(24, 'a'));
+  Zeitraffer_setzen(1);
+
+  sim.fehler_setzen({"F07@D1"});
+  const Masterinfo info = Master_abfragen();
+  EXPECT_TRUE(info.gut);
+  EXPECT_EQ(info.version, "REV 09.04 ");
+  EXPECT_EQ(info.projekt, std::string(24, 'a'));
+  EXPECT_EQ(leitung.Fehler_korrigiert, 1);
+  EXPECT_EQ(sim.mitschrift(), (std::vector<std::string>{"V", "D00080800081F", "%", "D00080800081F", "R"}));
+
+  Can_senden("0201", "02", "5341000000000000");
+  EXPECT_EQ(sim.telegramme().size(), 1u);
+  Ereignis_erzeugen("040A", "01", "04");
+  EXPECT_EQ(sim.ereignisse().size(), 1u);
+  EXPECT_EQ(leitung.Empfang_status, 0);
+  skript.erwarte(
+      {.text = "F99: Neustart im ZAVmaster war erfolgreich", .titel = "Info", .symbol = Symbol::Information});
+  Neustart_ausfuehren();
+  EXPECT_EQ(sim.neustarts(), 1);
+
+  // Faults of the line, each in the first message of a query.
+  Zeitraffer_setzen(20);
+  for (const char* fehler :
+       {"stumm@V1", "verloren@V1", "kurz@V1", "trenn@V1", "F06@D1", "muell@D1", "kurz=4@R1"}) {
+    sim.fehler_setzen({fehler});
+    skript.erwarte({.text = "Abfrage nicht möglich. Versuchen Sie es bitte noch einmal."});
+    EXPECT_FALSE(Master_abfragen().gut) << fehler;
+    einstellungen.Com_geraet = sim.pty_name();
+  }
+  EXPECT_TRUE(Master_abfragen().gut);
+}
+
+class LeitungTest : public LinkTest {};
+INSTANTIATE_TEST_SUITE_P(Seriell, LeitungTest, testing::Values(Verbindung::com));
+
+TEST_P(LeitungTest, WaitEndsAtMidnight) {
+  Gegenstelle g(Verbindung::com);
+  g.schweige("i69\r").los();
+  oeffne();
+  Zeitraffer_setzen(50000);
+  while (Timer() < 86400 - 2000) std::this_thread::sleep_for(std::chrono::milliseconds(1));
+  Zeitraffer_setzen(2000);  // at most a second to midnight, sixteen to the end of the wait
+  const auto beginn = std::chrono::steady_clock::now();
+  EXPECT_EQ(sende("i", 32000), "F98\r");
+  EXPECT_LT(std::chrono::steady_clock::now() - beginn, std::chrono::seconds(8));
+  Port_schliessen();
+}
+
+TEST_P(LeitungTest, DeviceServerIsNoLinkOfMessages) {
+  leitung.Link_art = Verbindung::geraeteserver;
+  leitung.Empfang_text = "wie vorher";
+  skript.erwarte({.text = "Es ist weder COMx- noch TCP-Schnittstelle ausgewählt"});
+  Port_oeffnen();
+  EXPECT_EQ(sende("i"), "wie vorher");
+  Port_schliessen();
+}
+
+TEST_P(LeitungTest, InterfaceDecidesLinkAndTimeOut) {
+  const struct {
+    i16 com_art;
+    Verbindung link;
+    i16 eth, zeit;
+  } faelle[] = {{0, Verbindung::com, 0, 2}, {1, Verbindung::tcp, 1, 10}, {2, Verbindung::tcp, 1, 15}};
+  for (const auto& fall : faelle) {
+    einstellungen.Com_art = fall.com_art;
+    Com_art_setzen();
+    EXPECT_EQ(leitung.Link_art, fall.link);
+    EXPECT_EQ(leitung.Eth_modus, fall.eth);
+    EXPECT_EQ(leitung.Antwort_zeit, fall.zeit);
+  }
+}
+
+TEST_P(LeitungTest, SearchForPortsFindsTheFreeOnes) {
+  const Gegenstelle frei(Verbindung::com), belegt(Verbindung::com);
+  const int anderes_programm = open(belegt.geraet().c_str(), O_RDWR | O_NOCTTY | O_CLOEXEC);
+  ASSERT_EQ(flock(anderes_programm, LOCK_EX), 0);
+  for (auto& port : einstellungen.Ports.alle()) port = "/dev/gibt_es_nicht";
+  einstellungen.Ports[1] = frei.geraet();
+  einstellungen.Ports[2] = belegt.geraet();
+  einstellungen.Ports[3] = "/dev/null";
+  Com_suche();
+  for (int n = 0; n < 8; ++n) EXPECT_EQ(leitung.Com_frei[n], n == 1) << n;
+  ASSERT_EQ(skript.hinweise.size(), 10u);
+  EXPECT_EQ(skript.hinweise[2],
+            "Freie COM-Ports 1 - 8 werden gesucht...bitte um einen Moment Geduld: 1, 2, ");
+  EXPECT_EQ(skript.hinweise.back(), "");
+  Com_suche();  // known already
+  EXPECT_EQ(skript.hinweise.size(), 10u);
+
+  // Opening tells why not.
+  einstellungen.Com_geraet.clear();
+  const std::string anfang =
+      " --- F97: COM-Port kann nicht geöffnet werden. Eventuell ist es bereits durch ein anderes Programm "
+      "belegt. ";
+  const struct {
+    i16 nummer;
+    std::string text;
+  } faelle[] = {
+      {1, "SIO-Fehler -2" + anfang + "Das Gerät /dev/gibt_es_nicht gibt es nicht."},
+      {3, "SIO-Fehler -11" + anfang + "Das Gerät " + belegt.geraet() +
+              " ist durch ein anderes Programm belegt."},
+      {4, "SIO-Fehler -25" + anfang + "/dev/null ist keine serielle Schnittstelle."},
+  };
+  for (const auto& fall : faelle) {
+    einstellungen.Com_port = fall.nummer;
+    skript.erwarte({.text = fall.text});
+    Port_oeffnen();
+    EXPECT_EQ(leitung.Port_fehler, 1);
+  }
+  close(anderes_programm);
+  einstellungen.Com_port = 3;
+  oeffne();
+  Port_schliessen();
+}
+
+TEST(Protokoll, NumbersAndWindowHaveFixedWidths) {
+  Skript skript;
+  EXPECT_EQ(Hex2(10), "0A");
+  EXPECT_EQ(Hex4(4095), "0FFF");
+  EXPECT_EQ(Hex8(0xFFFFFFFF), "FFFFFFFF");
+  const Meldung zu_breit{.text = "Ungültige Daten", .symbol = Symbol::Stopp};
+  for (int i = 0; i < 4; ++i) skript.erwarte(zu_breit);
+  EXPECT_EQ(Hex2(256) + Hex2(-1) + Hex4(65536) + Hex8(0x100000000), "");
+  std::uint32_t wert = 7;
+  EXPECT_TRUE(Hex_wert("fF10", wert));
+  EXPECT_EQ(wert, 0xFF10u);
+  EXPECT_FALSE(Hex_wert("123456789", wert) || Hex_wert("", wert) || Hex_wert("0x1", wert));
+  EXPECT_EQ(wert, 0xFF10u);
+
+  EXPECT_EQ(Pruefsumme("i"), "69");
+  EXPECT_EQ(Pruefsumme("D000800000807"), "9B");
+  EXPECT_EQ(Pruefsumme("ü€"), "A8");  // FC + low byte of 20AC
+  Fenster_setzen(2048, 2055);
+  EXPECT_EQ(leitung.Sende_text, "D000800000807");
+  Fenster_setzen(0x1000000, -1);
+  EXPECT_EQ(leitung.Sende_text, "D");
+}
+
+TEST(Protokoll, TransferFailuresSpeakInTheWordsOfTheirCode) {
+  Skript skript;
+  Uebertragungsfehler_melden("portopen");
+  Uebertragungsfehler_melden("F00\r");
+  const std::pair<const char*, const char*> faelle[] = {
+      {"F04\r", "F04: Schreibfehler ins EEPROM. Verwenden Sie ZAVmaster-256b mit eingebauter Uhr."},
+      {"F65\r", "F65: Buffer ist grösser als 527."},
+      {"F96\r",
+       "F97: COM-Port kann nicht geöffnet werden. Eventuell ist es bereits durch ein anderes Programm "
+       "belegt."},
+      {"F98\r", "F98: Keine Antwort vom ZAVmaster"},
+      {"F99\r", "F99: Neustart im ZAVmaster wurde durchgeführt"},
+      {"F42\r", "Fxx: Undefinierbarer Fehler"},
+      {"", "Fxx: Undefinierbarer Fehler"},
+  };
+  for (const auto& [empfang, text] : faelle) {
+    skript.fehler(text);
+    Uebertragungsfehler_melden(empfang);
+  }
+  skript.erwarte(
+      {.text =
+           "F97: Sie haben die Übertragung zum ZAVmaster abgebrochen. Die Daten im ZAVmaster sind jetzt "
+           "ungültig und "
+           "es kann zu undefinierten Schaltzuständen kommen.\r\n\r\nDrücken Sie anschliessend die "
+           "Schaltfläche "
+           "'Neustart ZAVmaster' oder unterbrechen Sie für einige Sekunden die Stromzufuhr von ZAVnet. "
+           "Senden Sie "
+           "raschmöglichst eine korrekte Datei zum ZAVmaster, damit die gewünschte Funktion gewährleistet "
+           "ist.\r\n\r\n",
+       .titel = "Abbruch der Übermittlung",
+       .symbol = Symbol::Stopp});
+  Uebertragungsfehler_melden("F97\r");
+}
+
+TEST(Adresse, IsCheckedInOrder) {
+  const struct {
+    const char *ip, *port, *ergebnis, *box;
+  } faelle[] = {
+      {"192.168.1.1", "65535", "192.168.1.1", nullptr},
+      {"192.168.001.010", "0004001", "192.168.1.10", nullptr},
+      {"", "", "errPORT", "Eingabefeld ist leer"},
+      {"1.2.3.4", "-1", "errPORT", "Nur Zahlen erlaubt"},
+      {"1.2.3.4", "65536", "errPORT", "TCP Port muss im Bereich von 0...65535 sein"},
+      {"1.2.3.4", "99999999999999999999", "errPORT", "TCP Port muss im Bereich von 0...65535 sein"},
+      {"", "4001", "errIP", "Eingabefeld ist leer"},
+      {"192.168.1", "4001", "errIP", "Zuwenig Punkte"},
+      {"1.2.3.4.5", "4001", "errIP", "Zuviele Punkte"},
+      {"1.2.3.256", "4001", "errIP", "Zahl zu gross"},
+      {"1..2.3", "4001", "errIP", "Nur Zahlen erlaubt"},
+      {"99999999999.2.3.4", "4001", "errIP", "Zahl zu gross"},
+  };
+  for (const auto& fall : faelle) {
+    Skript skript;
+    if (fall.box != nullptr) skript.erwarte({.text = fall.box});
+    std::string ip = fall.ip;
+    EXPECT_EQ(Adresse_pruefen(ip, fall.port), fall.ergebnis) << fall.ip << " " << fall.port;
+    EXPECT_EQ(ip, fall.ip);
+  }
+  Skript skript;
+  const Meldung name{
+      .text =
+          "IP Adresse enthält Buchstaben - es wird versucht die Adresse über das Internet aufzulösen. "
+          "Dies kann einige Sekunden dauern."};
+  skript.erwarte(name);
+  std::string ip = "localhost";
+  EXPECT_EQ(Adresse_pruefen(ip, "4001"), "127.0.0.1");
+  EXPECT_EQ(ip, "127.0.0.1");
+  skript.erwarte(name);
+  skript.erwarte({.text = "Hostname kann nicht aufgelöst werden"});
+  ip = "kein name";
+  EXPECT_EQ(Adresse_pruefen(ip, "4001"), "errIP");
+}
+
+}  // namespace
+}  // namespace zav

@@ -1,0 +1,274 @@
+#include <gtest/gtest.h>
+#include <sys/resource.h>
+
+#include <filesystem>
+#include <numeric>
+#include <thread>
+
+#include "gegenstelle.h"
+#include "hilfen.h"
+#include "platform/csc.h"
+#include "platform/ini.h"
+#include "platform/ports.h"
+#include "platform/sio.h"
+#include "platform/uhrwerk.h"
+
+namespace zav {
+namespace {
+
+std::string Alle_bytes() {
+  std::string alle(256, '\0');
+  std::iota(alle.begin(), alle.end(), '\0');
+  return alle;
+}
+
+TEST(Ini, KeepsWhatItDoesNotKnow) {
+  const std::string datei =
+      "\xEF\xBB\xBF; von Hand\r\n"
+      "ohne=Abschnitt\r\n"
+      "[Andere]\n"
+      "comport=9\n"
+      "\n"
+      "[ startup ]\n"
+      "  ComPort = 3 \n"
+      "# Bemerkung=1\n"
+      "\n"
+      "[Letzte]\n"
+      "a=b=c";
+  Ini ini(datei);
+  EXPECT_EQ(ini.Lesen("Startup", "comport"), "3");
+  EXPECT_EQ(ini.Lesen("Letzte", "a"), "b=c");
+  EXPECT_EQ(ini.Lesen("Startup", "# Bemerkung"), std::nullopt);
+  EXPECT_EQ(ini.Lesen("Startup", "a"), std::nullopt);
+  ini.Setzen("Startup", "comport", "4");
+  ini.Setzen("Startup", "standarddir", "/home/müller/Projekte;1\n2");
+  ini.Setzen("Neu", "x", "");
+  EXPECT_EQ(ini.Inhalt(),
+            "; von Hand\nohne=Abschnitt\n[Andere]\ncomport=9\n\n[ startup ]\ncomport=4\n# Bemerkung=1\n"
+            "standarddir=/home/müller/Projekte;1 2\n\n[Letzte]\na=b=c\n\n[Neu]\nx=\n");
+  EXPECT_EQ(Ini(ini.Inhalt()).Lesen("neu", "X"), "");
+}
+
+class EinstellungenTest : public testing::Test {
+ protected:
+  EinstellungenTest() {
+    einstellungen = {};
+    std::filesystem::create_directories(std::filesystem::path(Einstellungsdatei()).parent_path());
+  }
+  Testordner ordner;
+};
+
+TEST_F(EinstellungenTest, FirstRunHasDefaultsAndARunLaterAllValues) {
+  std::filesystem::remove_all(std::filesystem::path(Einstellungsdatei()).parent_path());
+  einstellungen.Com_port = 7;
+  EXPECT_EQ(Einstellungen_lesen(), "");
+  EXPECT_EQ(einstellungen.Com_port, 1);
+  EXPECT_EQ(einstellungen.Host_port, 4001);
+  EXPECT_EQ(einstellungen.last_file[3], "---");
+
+  einstellungen.Com_port = 8;
+  einstellungen.Com_art = 2;
+  einstellungen.Epson = -32768;
+  einstellungen.Host_name = "haus.müller.ch";
+  einstellungen.Host_ip = "10.0.0.7";
+  einstellungen.Host_port = 65535;
+  einstellungen.Sowi_datum[19] = "";
+  einstellungen.Ports[2] = "/dev/ttyUSB7";
+  einstellungen.last_file[0] = "/tmp/Haus";
+  EXPECT_EQ(Einstellungen_schreiben(), "");
+  const std::string datei = Dateibytes(Einstellungsdatei());
+  EXPECT_NE(datei.find("\nHostNameIP=haus.müller.ch\n"), std::string::npos);
+  EXPECT_EQ(datei.find("last_file"),
+            std::string::npos);  // written when a file is opened or saved, not before
+  EXPECT_EQ(datei.find("com1"), std::string::npos);
+  EXPECT_EQ(Letzte_dateien_schreiben(), "");
+
+  einstellungen = {};
+  einstellungen.Com_geraet = "/dev/pts/9";
+  EXPECT_EQ(Einstellungen_lesen(), "");
+  EXPECT_EQ(einstellungen.Com_port, 8);
+  EXPECT_EQ(einstellungen.Com_art, 2);
+  EXPECT_EQ(einstellungen.Epson, -32768);
+  EXPECT_EQ(einstellungen.Host_ip, "haus.müller.ch");
+  EXPECT_EQ(einstellungen.Host_port, 65535);
+  EXPECT_EQ(einstellungen.Sowi_datum[19], "");
+  EXPECT_EQ(einstellungen.last_file[0], "/tmp/Haus");
+  EXPECT_EQ(Portgeraet(2), "/dev/ttyUSB7");
+  EXPECT_EQ(Portgeraet(sio_direkt), "/dev/pts/9");
+  EXPECT_EQ(Portgeraet(-1) + Portgeraet(99), "");
+}
+
+TEST_F(EinstellungenTest, ValueThatIsNoNumberIsNamed) {
+  for (const std::string wert : {"", "drei", "3.5", "0x1", "9", "0", "99999999999"}) {
+    Datei_anlegen(Einstellungsdatei(), "[Startup]\ncomport=" + wert + "\nHostPort=502\n");
+    EXPECT_EQ(Einstellungen_lesen(), "In der Einstellungsdatei " + Einstellungsdatei() +
+                                         " steht bei \"comport\" keine gültige Zahl: \"" + wert +
+                                         "\" (erlaubt: 1 bis 8).");
+    EXPECT_EQ(einstellungen.Com_port, 1);
+    EXPECT_EQ(einstellungen.Host_port, 502);
+  }
+}
+
+TEST_F(EinstellungenTest, FileThatCannotBeReadOrWrittenIsNotLost) {
+  const std::string datei = Einstellungsdatei();
+  std::filesystem::create_directories(datei);  // a folder where the file should be
+  EXPECT_NE(Einstellungen_lesen(), "");
+  EXPECT_NE(Einstellungen_schreiben(), "");
+  EXPECT_TRUE(std::filesystem::is_directory(datei));
+
+  std::filesystem::remove(datei);
+  const std::string sammlung = ordner / "sammlung.ini";  // a link into somebody's collection of settings
+  Datei_anlegen(sammlung, "[Startup]\ncomport=2\nfremd=1\n");
+  std::filesystem::create_symlink(sammlung, datei);
+  EXPECT_EQ(Einstellungen_lesen(), "");
+  einstellungen.Com_port = 5;
+  EXPECT_EQ(Einstellungen_schreiben(), "");
+  EXPECT_TRUE(Dateibytes(sammlung).starts_with("[Startup]\ncomport=5\nfremd=1\n"));
+}
+
+// What a front end would do while a connection is being made.
+class Zaehlt_runden : public Melder {
+ public:
+  Zaehlt_runden() : vorher_(Melder_setzen(this)) {}
+  ~Zaehlt_runden() override { Melder_setzen(vorher_); }
+  Antwort Melden(const Meldung& m) override { return Vorsichtige_antwort(m.knoepfe); }
+  void DoEvents() override { ++runden; }
+  int runden = 0;
+
+ private:
+  Melder* vorher_;
+};
+
+TEST(Csc, BytesGoThroughWholeAndTheEndIsSeen) {
+  einstellungen = {};
+  std::string viel;
+  for (int i = 0; i < 16384; ++i) viel += Alle_bytes();  // 4 MiB: no send buffer takes that at once
+  Gegenstelle g(Verbindung::tcp);
+  g.antworte(viel, "gehört").verschwinde("x", Alle_bytes()).los();
+  const int s = cscClient("127.000.000.001", einstellungen.Host_port);  // decimal, not octal
+  ASSERT_GE(s, 0) << cscUrsache();
+  EXPECT_EQ(cscReadSize(s), 0);
+  EXPECT_EQ(cscAwaitData(s, 1), 0);
+  EXPECT_EQ(cscPutData(s, viel.data(), static_cast<int>(viel.size())), static_cast<int>(viel.size()));
+  EXPECT_EQ(cscAwaitData(s, 60000, 7), 7);
+  std::array<char, 300> puffer{};
+  EXPECT_EQ(cscGetData(s, puffer.data(), 4), 4);
+  EXPECT_EQ(cscReadSize(s), 3);
+  EXPECT_EQ(cscGetData(s, puffer.data(), 300), 3);
+  EXPECT_EQ(cscPutData(s, "x", 1), 1);
+  // The last bytes of a connection that has ended are still there, and only then the end.
+  EXPECT_EQ(cscAwaitData(s, 60000, 256), 256);
+  EXPECT_EQ(cscGetData(s, puffer.data(), 300), 256);
+  EXPECT_EQ(std::string(puffer.data(), 256), Alle_bytes());
+  EXPECT_LT(cscAwaitData(s, 60000), 0);
+  EXPECT_LT(cscReadSize(s), 0);
+  // No signal ends the process. The first write may still be taken by the system.
+  cscPutData(s, "x", 1);
+  std::this_thread::sleep_for(std::chrono::milliseconds(50));
+  EXPECT_LT(cscPutData(s, "x", 1), 0);
+  cscClose(s);
+  EXPECT_LT(cscReadSize(s), 0);
+}
+
+TEST(Csc, FailedConnectionNamesItsCause) {
+  einstellungen = {};
+  { const Gegenstelle weg(Verbindung::tcp); }
+  const std::string port = std::to_string(einstellungen.Host_port);
+  EXPECT_EQ(cscClient("127.0.0.1", einstellungen.Host_port), -ECONNREFUSED);
+  EXPECT_EQ(cscUrsache(), "127.0.0.1 (Port " + port + ") nimmt keine Verbindung an.");
+  EXPECT_LT(cscClient("kein name", 4001), 0);
+  EXPECT_EQ(cscUrsache(), "Der Name kein name kann nicht aufgelöst werden.");
+  EXPECT_LT(cscClient("127.0.0.1", 70000), 0);
+  EXPECT_EQ(cscUrsache(), "Der TCP-Port 70000 liegt nicht im Bereich von 0 bis 65535.");
+  EXPECT_EQ(cscResolve("localhost"), 0x7F000001u);
+  std::array<char, 20> puffer{};
+  EXPECT_EQ(cscMakeDotted(0xC0A80AFF, puffer.data(), 20), 14);
+  EXPECT_STREQ(puffer.data(), "192.168.10.255");
+  EXPECT_EQ(cscMakeDotted4(1, 2, 3, 256, puffer.data(), 20), 0);
+  EXPECT_EQ(cscMakeDotted4(192, 168, 10, 255, puffer.data(), 14), 0);
+}
+
+TEST(Csc, HostThatDoesNotAnswerLeavesTheFrontEndAliveAndEnds) {
+  // A listener whose queue is full leaves further connections without an answer, as a switched-off host does.
+  const int lauscher = socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0);
+  sockaddr_in ort{};
+  ort.sin_family = AF_INET;
+  ort.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+  ASSERT_EQ(bind(lauscher, reinterpret_cast<sockaddr*>(&ort), sizeof ort), 0);
+  ASSERT_EQ(listen(lauscher, 0), 0);
+  socklen_t laenge = sizeof ort;
+  getsockname(lauscher, reinterpret_cast<sockaddr*>(&ort), &laenge);
+  Zaehlt_runden front;
+  Zeitraffer_setzen(20);
+  int ergebnis = 0;
+  for (int i = 0; i < 4 && ergebnis >= 0; ++i) ergebnis = cscClient("127.0.0.1", ntohs(ort.sin_port));
+  Zeitraffer_setzen(1);
+  EXPECT_EQ(ergebnis, -ETIMEDOUT);
+  EXPECT_GE(front.runden, 3);
+  EXPECT_TRUE(cscUrsache().ends_with(" antwortet nicht."));
+  cscRelease();
+  close(lauscher);
+}
+
+TEST(Sio, PortIsRawAndBelongsToOneProgram) {
+  einstellungen = {};
+  Gegenstelle g(Verbindung::com);
+  g.antworte("a", Alle_bytes() + "rest").antworte(Alle_bytes(), "neu").los();
+  EXPECT_EQ(SioBaud(-1, 9), 0);
+  EXPECT_EQ(SioParms(-1, 0, 0, 8), 0);
+  EXPECT_LT(SioBaud(-1, 5), 0);
+  EXPECT_LT(SioParms(-1, 1, 0, 7), 0);
+  ASSERT_EQ(SioReset(sio_direkt, 128, 1100), 0) << SioUrsache();
+  EXPECT_EQ(SioReset(sio_direkt, 128, 1100), -EBUSY);
+  EXPECT_EQ(SioUrsache(), "Das Gerät " + g.geraet() + " ist durch ein anderes Programm belegt.");
+
+  EXPECT_EQ(SioGetc(sio_direkt), -EAGAIN);
+  EXPECT_EQ(SioRxQue(sio_direkt), 0);
+  EXPECT_EQ(SioPutc(sio_direkt, 'a'), 1);
+  EXPECT_EQ(SioWarten(sio_direkt, 260, 60000), 260);
+  for (int i = 0; i < 256; ++i) ASSERT_EQ(SioGetc(sio_direkt), i);
+  EXPECT_EQ(SioRxQue(sio_direkt), 4);
+  EXPECT_EQ(SioRxClear(sio_direkt), 0);
+  EXPECT_EQ(SioPuts(sio_direkt, Alle_bytes().data(), 256), 256);
+  EXPECT_EQ(SioWarten(sio_direkt, 3, 60000), 3);
+  EXPECT_EQ(SioGetc(sio_direkt), 'n');
+
+  // What was left unread is not there after the next opening.
+  EXPECT_EQ(SioDone(sio_direkt), 0);
+  EXPECT_LT(SioDone(sio_direkt), 0);
+  EXPECT_LT(SioRxQue(sio_direkt), 0);
+  ASSERT_EQ(SioReset(sio_direkt, 128, 1100), 0) << SioUrsache();
+  EXPECT_EQ(SioRxQue(sio_direkt), 0);
+  SioDTR(sio_direkt, 'S');  // a pseudo-terminal has no modem lines; a port without them must not suffer
+  SioRTS(sio_direkt, 'C');
+  EXPECT_EQ(SioDone(sio_direkt), 0);
+  EXPECT_LT(SioPutc(4711, 'a'), 0);
+}
+
+TEST(Sio, WaitingSleepsInTheKernel) {
+  einstellungen = {};
+  Gegenstelle g(Verbindung::com);
+  ASSERT_EQ(SioReset(sio_direkt, 128, 1100), 0);
+  const auto rechenzeit = [] {
+    rusage r{};
+    getrusage(RUSAGE_THREAD, &r);
+    return r.ru_utime.tv_sec * 1000 + r.ru_utime.tv_usec / 1000 + r.ru_stime.tv_sec * 1000 +
+           r.ru_stime.tv_usec / 1000;
+  };
+  const auto vorher = rechenzeit();
+  EXPECT_EQ(SioWarten(sio_direkt, 1, 400), 0);
+  EXPECT_LT(rechenzeit() - vorher, 40);
+  SioDone(sio_direkt);
+}
+
+TEST(Ports, DevicesAreListedByKindAndNumber) {
+  einstellungen = {};
+  const auto geraete = Serielle_geraete();
+  for (std::size_t i = 0; i < std::min<std::size_t>(geraete.size(), 8); ++i) {
+    EXPECT_EQ(Portgeraet(static_cast<int>(i)), geraete[i].datei);
+  }
+  EXPECT_EQ(Portgeraet(7).empty(), geraete.size() < 8);
+}
+
+}  // namespace
+}  // namespace zav
