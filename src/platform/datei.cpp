@@ -50,7 +50,8 @@ int Verweisen_folgen(std::string& pfad) {
   std::string ziel;
   for (int n = 0; n < verweise_hoechstens; ++n) {
     if (dateisystem().Verweis(pfad, ziel) < 0) return 0;  // no link, or a fault that opening will find
-    pfad = ziel.starts_with('/') ? ziel : Ordner_von(pfad) + ziel;
+    if (!ziel.starts_with('/')) ziel.insert(0, Ordner_von(pfad));
+    pfad = ziel;
   }
   return -ELOOP;
 }

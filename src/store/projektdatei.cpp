@@ -58,14 +58,14 @@ const Generation* Generation_von(std::string_view version) {
 // Bytes of a file to expect: an empty project, and the matrix rows of the events in use.
 std::size_t Geschaetzte_laenge(const Projekt& p) {
   constexpr std::size_t grundstock = std::size_t{256} << 10;
-  constexpr std::size_t ereignis = 1040 * 4;  // lines of two digits
+  constexpr std::size_t ereignis = std::size_t{1040} * 4;  // lines of two digits
   const auto benutzt = [](const auto& leer) {
     return static_cast<std::size_t>(std::count(leer.alle().begin(), leer.alle().end(), 1));
   };
   return grundstock + ereignis * (benutzt(p.Ein_leer) + benutzt(p.Uhr_leer) + benutzt(p.Tev_leer));
 }
 
-void Meldung_mit_piep(Meldung m) {
+void Meldung_mit_piep(const Meldung& m) {
   melder().Piep();
   melder().Melden(m);
 }
