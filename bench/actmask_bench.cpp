@@ -1,5 +1,5 @@
 // How long a choice in the function editor takes until everything it shows is right again, in a project where every
-// output of the event is in use.
+// output of the event is in use; and the event search where everything hits.
 #include "editor/actmask.h"
 
 #include <benchmark/benchmark.h>
@@ -19,6 +19,13 @@ void Alles_belegen() {
   std::ranges::fill(projekt.Ein_dimmer.alle(), i16{1});
   std::ranges::fill(projekt.Ein_timer.alle(), 1);
 }
+
+// What no tab state can do without: one look at every function of an event that has none.
+void Zeile_lesen(benchmark::State& state) {
+  Projekt_reset();
+  for (auto _ : state) benchmark::DoNotOptimize(Hat_funktionen(Ereignisart::Eingang, 1023));
+}
+BENCHMARK(Zeile_lesen);
 
 void Reiter(benchmark::State& state) {
   Alles_belegen();
