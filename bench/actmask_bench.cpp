@@ -1,5 +1,5 @@
-// How long a choice in the function editor takes until everything it shows is right again, in a project where every
-// output of the event is in use; and the event search where everything hits.
+// How long a choice in the function editor takes until everything it shows is right again, in a project where
+// every output of the event is in use; and the event search where everything hits.
 #include "editor/actmask.h"
 
 #include <benchmark/benchmark.h>
@@ -8,7 +8,6 @@
 #include <string>
 
 #include "editor/ereignissuche.h"
-
 
 namespace zav {
 namespace {

@@ -1,4 +1,5 @@
-// The smaller editors of the installation: timers, restart states, dimmer modes, event search, touchpanel reference.
+// The smaller editors of the installation: timers, restart states, dimmer modes, event search, touchpanel
+// reference.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -34,7 +35,8 @@ class Kleine_editoren : public testing::Test {
     Projekt_reset();
   }
   // A Kombination with one device at its place 0.
-  void Apparat_setzen(int k, const std::string& stock, const std::string& raum, int typ, int adresse, int anzahl) {
+  void Apparat_setzen(int k, const std::string& stock, const std::string& raum, int typ, int adresse,
+                      int anzahl) {
     projekt.Komb_typ[k] = 1;
     projekt.Komb_text[k] = stock;
     projekt.Komb_text2[k] = raum;
@@ -75,12 +77,20 @@ TEST_F(Kleine_editoren, TimerTimesAreCheckedOnLeavingTheField) {
     std::string meldung;
   };
   Timer_trepp m;
-  for (const Fall& f : {Fall{"17.59.59", "17.59.59", ""}, {"05.30", "05.30.00", ""}, {"", "HH.MM.SS", ""},
-                        {"HH.MM.SS", "HH.MM.SS", ""}, {"18.00.00", "HH.MM.SS", "Stunde zu gross"},
-                        {"18.00", "HH.MM.SS", "Stunde zu gross"}, {"00.60.00", "HH.MM.SS", "Minute zu gross"},
-                        {"00.00.60", "HH.MM.SS", "Sekunde zu gross"}, {"0.30", "HH.MM.SS", form},
-                        {"12:30", "HH.MM.SS", form}, {"12.30:00", "HH.MM.SS", form}, {"ab.cd.ef", "HH.MM.SS", form},
-                        {"-1.00.00", "HH.MM.SS", form}, {"00.00.1ü", "HH.MM.SS", form}}) {
+  for (const Fall& f : {Fall{"17.59.59", "17.59.59", ""},
+                        {"05.30", "05.30.00", ""},
+                        {"", "HH.MM.SS", ""},
+                        {"HH.MM.SS", "HH.MM.SS", ""},
+                        {"18.00.00", "HH.MM.SS", "Stunde zu gross"},
+                        {"18.00", "HH.MM.SS", "Stunde zu gross"},
+                        {"00.60.00", "HH.MM.SS", "Minute zu gross"},
+                        {"00.00.60", "HH.MM.SS", "Sekunde zu gross"},
+                        {"0.30", "HH.MM.SS", form},
+                        {"12:30", "HH.MM.SS", form},
+                        {"12.30:00", "HH.MM.SS", form},
+                        {"ab.cd.ef", "HH.MM.SS", form},
+                        {"-1.00.00", "HH.MM.SS", form},
+                        {"00.00.1ü", "HH.MM.SS", form}}) {
     SCOPED_TRACE(f.eingabe);
     if (!f.meldung.empty()) d.erwarte({.text = f.meldung});
     m.Ttime[47].ausfuellen(f.eingabe);
@@ -295,13 +305,15 @@ TEST_F(Kleine_editoren, TheFlatEditorWorksOnAddressGroups) {
   EXPECT_EQ(m.Nummer[1].farbe, Farbe::belegt);
   m.Nummer[1].druecken();
 
-  const Meldung warnung{.text = "Alle Schalt-, Dimm- und Timerfunktionen dieses Ereignisses werden unwiderruflich "
-                                "gelöscht. Die Abläufe in den Timern selbst bleiben aber erhalten. Die LEDs werden auf "
-                                "'dauernd aus' gesetzt.\nAusführen?",
-                        .titel = "Warnung vor dem Löschen",
-                        .knoepfe = Knoepfe::Ja_Nein,
-                        .symbol = Symbol::Warnung,
-                        .standard = 2};
+  const Meldung warnung{
+      .text =
+          "Alle Schalt-, Dimm- und Timerfunktionen dieses Ereignisses werden unwiderruflich "
+          "gelöscht. Die Abläufe in den Timern selbst bleiben aber erhalten. Die LEDs werden auf "
+          "'dauernd aus' gesetzt.\nAusführen?",
+      .titel = "Warnung vor dem Löschen",
+      .knoepfe = Knoepfe::Ja_Nein,
+      .symbol = Symbol::Warnung,
+      .standard = 2};
   const Projekt vorher = projekt;
   d.erwarte(warnung, Antwort::Nein);
   m.Command_loeschen.druecken();
@@ -320,7 +332,8 @@ TEST_F(Kleine_editoren, AMultipleSenderTakesSixGroups) {
   projekt.Grp_text[40] = "@meZweiter";
   Einmask m;
   m.Nummer[11].druecken();
-  d.erwarte({.text = "Der Mehrfachsender belegt 6 aufeinanderfolgende ZAVnummern. Die höchste wählbare Nummer in dieser "
+  d.erwarte({.text = "Der Mehrfachsender belegt 6 aufeinanderfolgende ZAVnummern. Die höchste wählbare "
+                     "Nummer in dieser "
                      "Gruppe ist somit die I10"});
   m.Command_mehrfach.druecken();
   m.Nummer[10].druecken();
@@ -333,8 +346,10 @@ TEST_F(Kleine_editoren, AMultipleSenderTakesSixGroups) {
 
   m.TabStrip1.waehlen(2);
   m.Nummer[0].druecken();
-  d.erwarte({.text = "Es ist bereits ein Mehrfachsender ab I10 definiert. Wie Sie mehrere Mehrfachsender definieren "
-                     "können, finden Sie in der Anleitung zum IR-Empfänger."});
+  d.erwarte(
+      {.text =
+           "Es ist bereits ein Mehrfachsender ab I10 definiert. Wie Sie mehrere Mehrfachsender definieren "
+           "können, finden Sie in der Anleitung zum IR-Empfänger."});
   m.Command_mehrfach.druecken();
   EXPECT_EQ(projekt.Grp_typ[32], 5);
   d.erwarte_dialog<Auswahl_Taster>([](Auswahl_Taster& a) { a.Bilder.waehlen("26"); });  // Beo4, another kind

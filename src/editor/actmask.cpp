@@ -4,11 +4,13 @@ namespace zav {
 
 namespace {
 
-// The bit of a held key, alone and together with the bit of a short press; other values have no meaning here and
-// pass through.
+// The bit of a held key, alone and together with the bit of a short press; other values have no meaning here
+// and pass through.
 bool Hat_kurzwirkung(i16 wert) { return wert == dimmer_kurz || wert == dimmer_kurz + dimmer_lang; }
 
-void Bit_setzen(i16& wert, bool an) { wert = static_cast<i16>(an ? wert | dimmer_lang : wert & ~dimmer_lang); }
+void Bit_setzen(i16& wert, bool an) {
+  wert = static_cast<i16>(an ? wert | dimmer_lang : wert & ~dimmer_lang);
+}
 
 }  // namespace
 
@@ -33,10 +35,12 @@ Actmask::Actmask(int ereignis, const std::string& text)
                   [this](int d, bool an) { Bit_setzen(Parameter(d, dimmer_auf), an); }},
            {Check_ab, "Ab", "Alle 4 Ausgänge abdimmen", "Abdimmen bei langem Tastendruck",
             [this](int d, bool an) { Bit_setzen(Parameter(d, dimmer_ab), an); }},
-           {Check3, "Um", "Alle 4 Ausgänge Um", "Szenenlicht und Ausschalten wechseln sich bei jedem Tastendruck ab",
+           {Check3, "Um", "Alle 4 Ausgänge Um",
+            "Szenenlicht und Ausschalten wechseln sich bei jedem Tastendruck ab",
             [this](int d, bool an) { um_[d] = an; }},
            {Check_mem, "Memory", "Alle 4 Ausgänge Memory",
-            "Bei kurzem Tastendruck wird auf die letzte Helligkeit gedimmt (bei Neustart wird auf den Szenenwert gedimmt)",
+            "Bei kurzem Tastendruck wird auf die letzte Helligkeit gedimmt (bei Neustart wird auf den "
+            "Szenenwert gedimmt)",
             [this](int d, bool an) { memory_[d] = an; }},
        }) {
     for (int i = 0; i <= dimmer_je_gruppe; ++i) {
@@ -82,9 +86,7 @@ void Actmask::Zusatz_loeschen(int dimmer) {
   memory_.reset(dimmer);
 }
 
-bool Actmask::Zusatz_benutzt(int dimmer) const {
-  return um_[dimmer] || memory_[dimmer];
-}
+bool Actmask::Zusatz_benutzt(int dimmer) const { return um_[dimmer] || memory_[dimmer]; }
 
 void Actmask::Sammelzusatz_ruecksetzen() {
   for (auto* k : {&Check_auf, &Check_ab, &Check3, &Check_mem}) k->back().setzen(false);

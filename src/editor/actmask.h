@@ -15,8 +15,8 @@ class Actmask final : public Funktionsmaske {
   Actmask(int ereignis, const std::string& text);
 
   // One for each dimmer of the group, and the last for all four.
-  std::array<Kaestchen, dimmer_je_gruppe + 1> Check_auf, Check_ab;   // while the key is held
-  std::array<Kaestchen, dimmer_je_gruppe + 1> Check3, Check_mem;     // toggle, memory: on a short press
+  std::array<Kaestchen, dimmer_je_gruppe + 1> Check_auf, Check_ab;  // while the key is held
+  std::array<Kaestchen, dimmer_je_gruppe + 1> Check3, Check_mem;    // toggle, memory: on a short press
 
  private:
   void Zusatz_zeigen(int i, bool an, bool hell) override;

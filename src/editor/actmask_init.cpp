@@ -1,26 +1,19 @@
 #include "editor/actmask_init.h"
 
 #include <algorithm>
+#include <span>
 #include <utility>
-#include <vector>
 
+#include "editor/ausgangsfelder.h"
 #include "store/sitzung.h"
 
 namespace zav {
 
 namespace {
 
-constexpr std::size_t ausgangstext_laenge = 25;
-
 std::string Helligkeit_bei_neustart(int wert) {
   if (wert == 0) return "Zustand wie vorher";
   return wert == helligkeit_aus ? "Aus" : std::to_string(wert);
-}
-
-std::vector<std::string> Gruppennamen(char buchstabe, int anzahl) {
-  std::vector<std::string> namen;
-  for (int g = 0; g < anzahl; ++g) namen.push_back(buchstabe + std::to_string(g));
-  return namen;
 }
 
 }  // namespace
@@ -51,12 +44,10 @@ void Actmask_init::Relais_einrichten() {
   anmelden("Alle_8", Alle_8);
   anmelden("Alle_512", Alle_512);
 
-  Baugruppe.fuellen(Gruppennamen('O', relaisgruppen));
-  Baugruppe.hinweis = "Nummernbereich auswählen";
+  Gruppenleiste_einrichten(Baugruppe, Ziel::Art::Relais);
   Baugruppe.wenn_geaendert = [this] { Baugruppe_zeigen(); };
   for (int i = 0; i < relais_je_gruppe; ++i) {
-    Text1[i].hoechstlaenge = ausgangstext_laenge;
-    Text1[i].hinweis = "Text: Bezeichnug des Ausgangs, z.B. 'Küchenlicht Decke'";
+    Ausgangstext_einrichten(Text1[i]);
     Text1[i].wenn_geaendert = [this, i] { relais_text_[Relais(i)] = Text1[i].text(); };
     Combo1[i].fuellen({"Ausschalten", "Einschalten", "Zustand wie vorher"});
     Combo1[i].hinweis = "Zustand dieses Ausgangs bei einem Neustart von ZAVnet bestimmen";
@@ -85,12 +76,10 @@ void Actmask_init::Dimmer_einrichten() {
   anmelden("Slider1", Slider1);
   anmelden("Intens", Intens);
 
-  Dimmbaugruppe.fuellen(Gruppennamen('D', dimmergruppen));
-  Dimmbaugruppe.hinweis = "Nummernbereich auswählen";
+  Gruppenleiste_einrichten(Dimmbaugruppe, Ziel::Art::Dimmer);
   Dimmbaugruppe.wenn_geaendert = [this] { Dimmbaugruppe_zeigen(); };
   for (int i = 0; i < dimmer_je_gruppe; ++i) {
-    Text2[i].hoechstlaenge = ausgangstext_laenge;
-    Text2[i].hinweis = "Text: Bezeichnug des Ausgangs, z.B. 'Küchenlicht Decke'";
+    Ausgangstext_einrichten(Text2[i]);
     Text2[i].wenn_geaendert = [this, i] { dimmer_text_[Dimmer(i)] = Text2[i].text(); };
     Command1[i].titel = "Aus";
     Command1[i].hinweis = "Schnelles Bearbeiten: Rückstellung auf  'Aus'";
@@ -106,10 +95,9 @@ void Actmask_init::Baugruppe_zeigen() {
   const Beschaeftigt b(*this);
   Frame1.titel = "Baugruppe " + std::to_string(Baugruppe.position());
   for (int i = 0; i < relais_je_gruppe; ++i) {
-    const i16 zustand = relais_[Relais(i)];
     Lnr1[i].titel = Ziel_name({Ziel::Art::Relais, Relais(i)});
     Text1[i].setzen(relais_text_[Relais(i)]);
-    Combo1[i].setzen(zustand >= 0 && zustand < Combo1[i].anzahl() ? zustand : -1);
+    Einstellen(Combo1[i], relais_[Relais(i)]);
   }
 }
 
@@ -165,7 +153,8 @@ void Actmask_init::Uebernehmen() {
 Anordnung Actmask_init::anordnung() {
   return Spalte(
       Reiter(TabStrip1,
-             Spalte(Gruppe("ZAVswitch, ZAVmotor: Oxx", Baugruppe), Gruppe(Frame1, Raster(3, Zeilenweise(Lnr1, Text1, Combo1))),
+             Spalte(Gruppe("ZAVswitch, ZAVmotor: Oxx", Baugruppe),
+                    Gruppe(Frame1, Raster(3, Zeilenweise(Lnr1, Text1, Combo1))),
                     Gruppe("Alle 8 Ausgänge", Zeile(Alle(Alle_8), Feder())),
                     Gruppe("Alle 512 Ausgänge", Zeile(Alle(Alle_512), Feder()))),
              Spalte(Gruppe("ZAVdimmer, ZAVmodul, ZAVled: Dxx", Dimmbaugruppe),

@@ -1,4 +1,5 @@
-// The functions of a timer event: what one of a timer's four steps does. It has outputs only: a timer starts no timer.
+// The functions of a timer event: what one of a timer's four steps does. It has outputs only: a timer starts
+// no timer.
 #pragma once
 
 #include <string>

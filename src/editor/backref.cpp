@@ -52,7 +52,8 @@ void Backref::Fuellen(Ziel::Art art, int anzahl) {
 
 Anordnung Backref::anordnung() {
   return Spalte(Label1, Gruppe("Grobauswahl", Zeile(Alle(Command1), Feder())),
-                Gruppe("Feinauswahl und Suche starten", Zeile(Combo1, Command2)), Text2, Knopfzeile(Command3));
+                Gruppe("Feinauswahl und Suche starten", Zeile(Combo1, Command2)), Text2,
+                Knopfzeile(Command3));
 }
 
 }  // namespace zav

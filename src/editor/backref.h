@@ -13,7 +13,8 @@ class Backref final : public Formular {
   Backref();
 
   Schild Label1{
-      "Sie möchten von einem Ausgang oder Timer alle beeinflussenden Ereignisse wissen? Wählen Sie den entsprechenden "
+      "Sie möchten von einem Ausgang oder Timer alle beeinflussenden Ereignisse wissen? Wählen Sie den "
+      "entsprechenden "
       "Ausgang und klicken Sie auf Suchen. Damit werden alle Tasten- Uhr- und Wetterereignisse aufgelistet."};
   std::array<Taste, 3> Command1;  // what Combo1 offers: relay outputs, dimmers, timers
   Auswahl Combo1;

@@ -78,9 +78,11 @@ void Dimmermode::Uebernehmen() {
 }
 
 Anordnung Dimmermode::anordnung() {
-  return Spalte(TabStrip1,
-                Gruppe(Frame1, Raster(4, Leer(), Label3, Label1, Leer(), Zeilenweise(Lnr, Text1, Check1, Check2)), Label2),
-                Knopfzeile(OK, Cancel));
+  return Spalte(
+      TabStrip1,
+      Gruppe(Frame1, Raster(4, Leer(), Label3, Label1, Leer(), Zeilenweise(Lnr, Text1, Check1, Check2)),
+             Label2),
+      Knopfzeile(OK, Cancel));
 }
 
 }  // namespace zav

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "editor/actmask.h"
+#include "editor/ausgangsfelder.h"
 #include "editor/auswahl_taster.h"
 #include "editor/import.h"
 #include "form/oberflaeche.h"
@@ -27,8 +28,8 @@ bool Ist_mehrfachsender(int bildtyp) {
   return art && art->adressen == mehrfachsender_adressen;
 }
 
-// Several senders of one kind are told apart by marks in their groups' texts. A text with a mark decides what the
-// group is, whatever its picture.
+// Several senders of one kind are told apart by marks in their groups' texts. A text with a mark decides what
+// the group is, whatever its picture.
 bool Text_bestimmt_bild(int adresse) {
   constexpr int keines = -1;
   return Importtyp(projekt.Grp_text[adresse], keines) != keines;
@@ -111,9 +112,12 @@ void Einmask::Gruppe_einrichten() {
     Bild_setzen(projekt.Grp_typ[adresse()] == bild_mehrfachsender ? bild_vorgabe : bild_mehrfachsender);
   };
   Check_thermo.hinweis =
-      "Thermostatfunktion für Eingang 1: Dieser wird ca. alle 4 Minuten vom ZAVmaster abgefragt und wie ein Ereignis "
+      "Thermostatfunktion für Eingang 1: Dieser wird ca. alle 4 Minuten vom ZAVmaster abgefragt und wie ein "
+      "Ereignis "
       "behandelt.";
-  Check_thermo.wenn_geaendert = [this] { Merken(projekt.Grp_thermo[adresse()], static_cast<i16>(Check_thermo.an())); };
+  Check_thermo.wenn_geaendert = [this] {
+    Merken(projekt.Grp_thermo[adresse()], static_cast<i16>(Check_thermo.an()));
+  };
   for (int t = 0; t < tasten; ++t) {
     Combo_LED[t].hinweis = "Tasten-LED mit einem Ausgang in dieser Liste verknüpfen";
     Combo_LED[t].wenn_geaendert = [this, t] {
@@ -133,7 +137,8 @@ void Einmask::Seite_zeigen() {
   for (int z = 0; z < gruppen_je_seite; ++z) {
     Nummer[z].titel = "I" + std::to_string(erste + z);
     Text_grp[z].setzen(projekt.Grp_text[erste + z]);
-    for (int t = 0; t < tasten; ++t) Text_ein[z * tasten + t].setzen(projekt.Ein_text[(erste + z) * tasten + t]);
+    for (int t = 0; t < tasten; ++t)
+      Text_ein[z * tasten + t].setzen(projekt.Ein_text[(erste + z) * tasten + t]);
   }
   Gruppe_waehlen(0);
 }
@@ -149,10 +154,9 @@ void Einmask::Gruppe_zeigen() {
   Bild_zeigen();
   Check_thermo.setzen(projekt.Grp_thermo[adresse()] != 0);
   for (int t = 0; t < tasten; ++t) {
-    const i16 led = projekt.Ein_led[ereignis(t)];
     const str& text = projekt.Ein_text[ereignis(t)];
     Label_taste[t].titel = text.empty() ? "Taste " + std::to_string(t + 1) : text;
-    Combo_LED[t].setzen(led >= 0 && led < Combo_LED[t].anzahl() ? led : -1);
+    Einstellen(Combo_LED[t], projekt.Ein_led[ereignis(t)]);
   }
   Faerben();
 }
@@ -184,8 +188,8 @@ void Einmask::Led_listen_fuellen() {
 
 void Einmask::Faerben() {
   for (int z = 0; z < gruppen_je_seite; ++z) {
-    const auto leer = projekt.Ein_leer.alle().subspan(
-        (TabStrip1.position() * gruppen_je_seite + z) * tasten, tasten);
+    const auto leer =
+        projekt.Ein_leer.alle().subspan((TabStrip1.position() * gruppen_je_seite + z) * tasten, tasten);
     const bool belegt = std::any_of(leer.begin(), leer.end(), [](u8 w) { return w != 0; });
     Nummer[z].farbe = z == zeile_ ? Farbe::aktuell : belegt ? Farbe::belegt : Farbe::normal;
   }
@@ -214,17 +218,19 @@ void Einmask::Bild_setzen(int bildtyp) {
     const int hoechste = (TabStrip1.position() + 1) * gruppen_je_seite - mehrfachsender_adressen;
     if (a > hoechste) {
       Melden(
-          "Der Mehrfachsender belegt 6 aufeinanderfolgende ZAVnummern. Die höchste wählbare Nummer in dieser Gruppe ist "
+          "Der Mehrfachsender belegt 6 aufeinanderfolgende ZAVnummern. Die höchste wählbare Nummer in dieser "
+          "Gruppe ist "
           "somit die I" +
           std::to_string(hoechste));
       return;
     }
   }
-  if (Ist_mehrfachsender(projekt.Grp_typ[a]) && !Fragen({.text = "Mehrfachsender löschen? Alle Texte und Funktionen bleiben erhalten.",
-                                                        .titel = loeschtitel,
-                                                        .knoepfe = Knoepfe::Ja_Nein,
-                                                        .symbol = Symbol::Warnung,
-                                                        .standard = 2})) {
+  if (Ist_mehrfachsender(projekt.Grp_typ[a]) &&
+      !Fragen({.text = "Mehrfachsender löschen? Alle Texte und Funktionen bleiben erhalten.",
+               .titel = loeschtitel,
+               .knoepfe = Knoepfe::Ja_Nein,
+               .symbol = Symbol::Warnung,
+               .standard = 2})) {
     return;
   }
   Merken(projekt.Grp_typ[a], static_cast<i16>(bildtyp));
@@ -241,13 +247,15 @@ void Einmask::Funktion_oeffnen(int taste) {
 }
 
 void Einmask::Loeschen() {
-  if (!Fragen({.text = "Alle Schalt-, Dimm- und Timerfunktionen dieses Ereignisses werden unwiderruflich gelöscht. "
-                       "Die Abläufe in den Timern selbst bleiben aber erhalten. Die LEDs werden auf 'dauernd aus' "
-                       "gesetzt.\nAusführen?",
-               .titel = loeschtitel,
-               .knoepfe = Knoepfe::Ja_Nein,
-               .symbol = Symbol::Warnung,
-               .standard = 2})) {
+  if (!Fragen(
+          {.text =
+               "Alle Schalt-, Dimm- und Timerfunktionen dieses Ereignisses werden unwiderruflich gelöscht. "
+               "Die Abläufe in den Timern selbst bleiben aber erhalten. Die LEDs werden auf 'dauernd aus' "
+               "gesetzt.\nAusführen?",
+           .titel = loeschtitel,
+           .knoepfe = Knoepfe::Ja_Nein,
+           .symbol = Symbol::Warnung,
+           .standard = 2})) {
     return;
   }
   for (int e = ereignis(0); e < ereignis(tasten); ++e) {
@@ -278,10 +286,9 @@ Anordnung Einmask::anordnung() {
     for (int t = 0; t < tasten; ++t) seite.kinder.emplace_back(Text_ein[z * tasten + t]);
   }
   return Spalte(TabStrip1, std::move(seite),
-                Gruppe(Frame1,
-                       Zeile(Spalte(Label_bild, Zeile(Command_taster, Command_due, Command_mehrfach),
-                                    Zeile(Check_thermo, Feder(), Command_loeschen)),
-                             Feder(), Raster(3, Zeilenweise(Label_taste, Combo_LED, Command_fkt)))),
+                Gruppe(Frame1, Zeile(Spalte(Label_bild, Zeile(Command_taster, Command_due, Command_mehrfach),
+                                            Zeile(Check_thermo, Feder(), Command_loeschen)),
+                                     Feder(), Raster(3, Zeilenweise(Label_taste, Combo_LED, Command_fkt)))),
                 Knopfzeile(Command_schliessen));
 }
 

@@ -1,5 +1,6 @@
-// The flat editor of the inputs: address groups without Kombinationen, sixteen on a page, each with its text and its
-// four keys; below them what the current group and its keys are. It writes into the project as the user types.
+// The flat editor of the inputs: address groups without Kombinationen, sixteen on a page, each with its text
+// and its four keys; below them what the current group and its keys are. It writes into the project as the
+// user types.
 #pragma once
 
 #include <array>

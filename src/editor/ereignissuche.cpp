@@ -18,9 +18,12 @@ std::string_view Tagesseite_wort(int seite) { return seite < 7 ? Wochentag_wort(
 bool Trifft(Ereignisart art, int ereignis, Ziel ziel) {
   const Ereigniszeilen z = Zeilen_von(art, ereignis);
   switch (ziel.art) {
-    case Ziel::Art::Relais: return z.relais[ziel.nummer] != 0;
-    case Ziel::Art::Timer: return !z.timer.empty() && z.timer[ziel.nummer] != 0;
-    case Ziel::Art::Dimmer: break;
+    case Ziel::Art::Relais:
+      return z.relais[ziel.nummer] != 0;
+    case Ziel::Art::Timer:
+      return !z.timer.empty() && z.timer[ziel.nummer] != 0;
+    case Ziel::Art::Dimmer:
+      break;
   }
   const auto parameter = z.dimmer.subspan(ziel.nummer * dimmerparameter, dimmerparameter);
   return std::any_of(parameter.begin(), parameter.end(), [](i16 p) { return p != 0; });
@@ -30,7 +33,8 @@ bool Trifft(Ereignisart art, int ereignis, Ziel ziel) {
 std::string Tastenzeile(int d, const Adresslauf& lauf, int j) {
   const int k = d / plaetze;
   const int slot = Apparat_slot(projekt, d, Slot_von_versatz(projekt.App_typ[d], j));
-  std::string zeile = "i" + std::to_string(lauf.von) + " - " + projekt.Komb_text[k] + " - " + projekt.Komb_text2[k] + ": ";
+  std::string zeile =
+      "i" + std::to_string(lauf.von) + " - " + projekt.Komb_text[k] + " - " + projekt.Komb_text2[k] + ": ";
   if (slot >= 0) zeile += projekt.Dev_text[slot];
   if (projekt.App_typ[d] == apparat_wetterstation) {
     zeile += " Wetterfunktion " + std::to_string(j / 2);
@@ -60,7 +64,8 @@ std::string Ereignisse_suchen(Ziel ziel) {
     const auto lauf = Apparat_adressen(projekt, d);
     if (!lauf) continue;
     for (int j = 0; j < lauf->ereignisse(); ++j) {
-      if (Trifft(Ereignisart::Eingang, lauf->erstes_ereignis() + j, ziel)) anhaengen(Tastenzeile(d, *lauf, j));
+      if (Trifft(Ereignisart::Eingang, lauf->erstes_ereignis() + j, ziel))
+        anhaengen(Tastenzeile(d, *lauf, j));
     }
   }
   for (int e = 0; e < uhrereignisse; ++e) {

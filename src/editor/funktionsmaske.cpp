@@ -2,16 +2,14 @@
 
 #include <algorithm>
 #include <utility>
-#include <vector>
 
+#include "editor/ausgangsfelder.h"
 #include "form/oberflaeche.h"
 #include "store/sitzung.h"
 
 namespace zav {
 
 namespace {
-
-constexpr std::size_t ausgangstext_laenge = 25;
 
 constexpr const char* store_nicht_moeglich =
     "Bei Storen nicht möglich: es dürfen nie beide Ausgänge gleichzeitig eingeschaltet sein.";
@@ -20,6 +18,12 @@ constexpr const char* partner_desaktiviert =
 
 bool Benutzt(auto werte) {
   return std::any_of(werte.begin(), werte.end(), [](auto w) { return w != 0; });
+}
+
+// A command whose door may be missing says so.
+void Durch_tuer(Taste& taste, bool offen, const char* sonst) {
+  taste.frei = offen;
+  if (!offen) taste.hinweis = sonst;
 }
 
 // Copies what differs; true when something did.
@@ -31,12 +35,8 @@ bool Uebertragen(auto von, auto nach) {
 
 }  // namespace
 
-void Funktionsmaske::Einstellen(Auswahl& liste, int wert) {
-  liste.setzen(wert >= 0 && wert < liste.anzahl() ? wert : -1);
-}
-
-Funktionsmaske::Funktionsmaske(const std::string& name, const std::string& titel, Ereignisart art, int ereignis,
-                               const std::string& funktionshinweis)
+Funktionsmaske::Funktionsmaske(const std::string& name, const std::string& titel, Ereignisart art,
+                               int ereignis, const std::string& funktionshinweis)
     : Formular(name, titel), art_(art), ereignis_(ereignis) {
   Kopieren();
   Reiter_einrichten();
@@ -65,7 +65,8 @@ void Funktionsmaske::Anfang_zeigen() {
                                                                      : schalten);
 }
 
-// ---- tabs -----------------------------------------------------------------------------------------------------------
+// ---- tabs
+// -----------------------------------------------------------------------------------------------------------
 
 void Funktionsmaske::Reiter_einrichten() {
   anmelden("TabStrip1", TabStrip1);
@@ -110,7 +111,8 @@ Funktionsmaske::Belegung Funktionsmaske::Reiter_auffrischen() {
   return belegt;
 }
 
-// ---- Schalten -------------------------------------------------------------------------------------------------------
+// ---- Schalten
+// -------------------------------------------------------------------------------------------------------
 
 void Funktionsmaske::Schalten_einrichten(const std::string& funktionshinweis) {
   anmelden("Baugruppe", Baugruppe);
@@ -119,10 +121,7 @@ void Funktionsmaske::Schalten_einrichten(const std::string& funktionshinweis) {
   anmelden("Text1", Text1);
   anmelden("Combo1", Combo1);
 
-  std::vector<std::string> gruppen;
-  for (int g = 0; g < relaisgruppen; ++g) gruppen.push_back("O" + std::to_string(g));
-  Baugruppe.fuellen(std::move(gruppen));
-  Baugruppe.hinweis = "Nummernbereich auswählen";
+  Gruppenleiste_einrichten(Baugruppe, Ziel::Art::Relais);
   Baugruppe.wenn_geaendert = [this] { Baugruppe_zeigen(); };
 
   for (int i = 0; i < relais_je_gruppe; ++i) {
@@ -134,8 +133,7 @@ void Funktionsmaske::Schalten_einrichten(const std::string& funktionshinweis) {
       Einstellen(Combo1[i], relais_[Relais(i)]);
       Reiter_auffrischen();
     };
-    Text1[i].hinweis = "Text: Bezeichnug des Ausgangs, z.B. 'Küchenlicht Decke'";
-    Text1[i].hoechstlaenge = ausgangstext_laenge;
+    Ausgangstext_einrichten(Text1[i]);
     Text1[i].wenn_geaendert = [this, i] { relais_text_[Relais(i)] = Text1[i].text(); };
     Combo1[i].fuellen(Relaisliste(art_, i % 2 == 0));
     Combo1[i].hinweis = funktionshinweis;
@@ -171,15 +169,15 @@ void Funktionsmaske::Relais_funktion_gewaehlt(int i) {
 const char* Funktionsmaske::Storenregel_anwenden(int i) {
   const auto rolle = [this](i16 code) {
     const auto funktionen = Relaisfunktionen(art_);
-    return code >= 0 && code < std::ssize(funktionen) ? funktionen[code].rolle
-                                                      : Storenrolle::keine;
+    return code >= 0 && code < std::ssize(funktionen) ? funktionen[code].rolle : Storenrolle::keine;
   };
   const int p = i ^ 1;  // the other output of the pair
   i16& eigener = relais_[Relais(i)];
   i16& anderer = relais_[Relais(p)];
 
   switch (rolle(eigener)) {
-    case Storenrolle::keine: break;
+    case Storenrolle::keine:
+      break;
     case Storenrolle::unvereinbar:
       if (rolle(anderer) != Storenrolle::fahren) break;
       eigener = relais_keine;
@@ -204,7 +202,8 @@ void Funktionsmaske::Relais_setzen(int von, int anzahl, i16 gerade, i16 ungerade
   Reiter_auffrischen();
 }
 
-// ---- Dimmen ---------------------------------------------------------------------------------------------------------
+// ---- Dimmen
+// ---------------------------------------------------------------------------------------------------------
 
 void Funktionsmaske::Dimmen_einrichten() {
   anmelden("Dimmbaugruppe", Dimmbaugruppe);
@@ -217,10 +216,7 @@ void Funktionsmaske::Dimmen_einrichten() {
   anmelden("Tempo", Tempo);
   anmelden("Slider2", Slider2);
 
-  std::vector<std::string> gruppen;
-  for (int g = 0; g < dimmergruppen; ++g) gruppen.push_back("D" + std::to_string(g));
-  Dimmbaugruppe.fuellen(std::move(gruppen));
-  Dimmbaugruppe.hinweis = "Nummernbereich auswählen";
+  Gruppenleiste_einrichten(Dimmbaugruppe, Ziel::Art::Dimmer);
   Dimmbaugruppe.wenn_geaendert = [this] { Dimmbaugruppe_zeigen(); };
 
   for (int i = 0; i < dimmer_je_gruppe; ++i) {
@@ -228,28 +224,26 @@ void Funktionsmaske::Dimmen_einrichten() {
     Check2[i].wenn_geaendert = Zeilenhandler(i, [this, i] {
       if (!Check2[i].an()) Dimmer_loeschen(Dimmer(i));
     });
-    Text2[i].hinweis = "Text: Bezeichnug des Ausgangs, z.B. 'Küchenlicht Decke'";
-    Text2[i].hoechstlaenge = ausgangstext_laenge;
+    Ausgangstext_einrichten(Text2[i]);
     Text2[i].wenn_geaendert = [this, i] { dimmer_text_[Dimmer(i)] = Text2[i].text(); };
     Command1[i].titel = "Aus";
     Command1[i].hinweis = "Schnelles bearbeiten: Wechsel zwischen 'Aus' und 'Keine Änderung'";
-    Command1[i].wenn_gedrueckt = [this, i] { Slider1[i].setzen(Slider1[i].wert() >= helligkeit_aus ? 0 : helligkeit_aus); };
+    Command1[i].wenn_gedrueckt = [this, i] {
+      Slider1[i].setzen(Slider1[i].wert() >= helligkeit_aus ? 0 : helligkeit_aus);
+    };
     Slider1[i].hinweis = "Einstellung: Keine Änderung / Aus / Wunschhelligkeit";
-    Slider1[i].wenn_geaendert = Zeilenhandler(i, [this, i] {
-      Parameter(Dimmer(i), dimmer_helligkeit) = static_cast<i16>(Slider1[i].wert());
-    });
-    Tempo[i].wenn_geaendert = Zeilenhandler(i, [this, i] {
-      Parameter(Dimmer(i), dimmer_tempo) = static_cast<i16>(Tempo[i].position());
-    });
+    Slider1[i].wenn_geaendert = Zeilenhandler(
+        i, [this, i] { Parameter(Dimmer(i), dimmer_helligkeit) = static_cast<i16>(Slider1[i].wert()); });
+    Tempo[i].wenn_geaendert = Zeilenhandler(
+        i, [this, i] { Parameter(Dimmer(i), dimmer_tempo) = static_cast<i16>(Tempo[i].position()); });
   }
   for (Auswahl& t : Tempo) {
     t.fuellen(Tempoliste());
     t.hinweis = "Tempo, mit dem die Helligkeit erreicht werden soll";
   }
   Tempo.back().titel = "Alle 4 Ausgänge";
-  Tempo.back().wenn_geaendert = Sammelhandler([this](int i) {
-    Parameter(Dimmer(i), dimmer_tempo) = static_cast<i16>(Tempo.back().position());
-  });
+  Tempo.back().wenn_geaendert = Sammelhandler(
+      [this](int i) { Parameter(Dimmer(i), dimmer_tempo) = static_cast<i16>(Tempo.back().position()); });
   Slider2.titel = "Alle 4 Ausgänge einstellen";
   Slider2.wenn_geaendert = Sammelhandler([this](int i) {
     Check2[i].setzen(true);
@@ -257,7 +251,9 @@ void Funktionsmaske::Dimmen_einrichten() {
   });
 }
 
-bool Funktionsmaske::Dimmer_benutzt(int dimmer) const { return Benutzt(dimmer_.zeile(dimmer)) || Zusatz_benutzt(dimmer); }
+bool Funktionsmaske::Dimmer_benutzt(int dimmer) const {
+  return Benutzt(dimmer_.zeile(dimmer)) || Zusatz_benutzt(dimmer);
+}
 
 void Funktionsmaske::Dimmer_loeschen(int dimmer) {
   std::ranges::fill(dimmer_.zeile(dimmer), i16{0});
@@ -322,7 +318,8 @@ void Funktionsmaske::Dimmer_setzen(int von, int anzahl, i16 helligkeit) {
   Reiter_auffrischen();
 }
 
-// ---- Timer ----------------------------------------------------------------------------------------------------------
+// ---- Timer
+// ----------------------------------------------------------------------------------------------------------
 
 void Funktionsmaske::Timer_einrichten() {
   anmelden("Check4", Check4);
@@ -351,7 +348,8 @@ void Funktionsmaske::Timer_einrichten() {
   }
 }
 
-// ---- commands -------------------------------------------------------------------------------------------------------
+// ---- commands
+// -------------------------------------------------------------------------------------------------------
 
 void Funktionsmaske::Befehle_einrichten() {
   struct Gruppenbefehl {
@@ -376,7 +374,8 @@ void Funktionsmaske::Befehle_einrichten() {
     std::function<void()> wirkung;
   };
   for (const Befehl& b : {
-           Befehl{"Alle_512_aus", Alle_512_aus, [this] { Relais_setzen(0, relaisausgaenge, relais_aus, relais_aus); }},
+           Befehl{"Alle_512_aus", Alle_512_aus,
+                  [this] { Relais_setzen(0, relaisausgaenge, relais_aus, relais_aus); }},
            {"Alle_512_neutral", Alle_512_neutral,
             [this] { Relais_setzen(0, relaisausgaenge, relais_keine, relais_keine); }},
            {"Ausgaenge_testen", Ausgaenge_testen, [this] { Testen(); }},
@@ -389,13 +388,15 @@ void Funktionsmaske::Befehle_einrichten() {
     anmelden(b.name, b.taste);
     b.taste.wenn_gedrueckt = b.wirkung;
   }
+  Durch_tuer(Ausgaenge_testen, ausgangssimulation_oeffnen || projekt.Datei_version != "910",
+             "Die Simulation der Ausgänge ist nicht verfügbar");
   Command5.standard = true;
   Command6.abbruch = true;
 
   anmelden("Ansicht", Ansicht);
   for (Taste& t : Ansicht) {
     t.titel = "Ansicht der Baugruppen";
-    t.frei = static_cast<bool>(ansicht_oeffnen);
+    Durch_tuer(t, static_cast<bool>(ansicht_oeffnen), "Die Bilder der Baugruppen sind nicht verfügbar");
     t.wenn_gedrueckt = [] { ansicht_oeffnen(); };
   }
 }
@@ -403,9 +404,11 @@ void Funktionsmaske::Befehle_einrichten() {
 void Funktionsmaske::Testen() {
   if (projekt.Datei_version != "910") {
     Melden(
-        "Wenn Sie die neuen Funktionen von ZAVlink-Version 9.102 nutzen möchten, wählen Sie 'Speichern unter' und den "
-        "Dateityp 910. Achtung: Das Betriebssystem des ZAVmasters muss auf die Version 9 aufgerüstet werden.");
-  } else if (ausgangssimulation_oeffnen) {
+        "Wenn Sie die neuen Funktionen von ZAVlink-Version 9.102 nutzen möchten, wählen Sie 'Speichern "
+        "unter' und den "
+        "Dateityp 910. Achtung: Das Betriebssystem des ZAVmasters muss auf die Version 9 aufgerüstet "
+        "werden.");
+  } else {
     ausgangssimulation_oeffnen();
   }
 }

@@ -1,8 +1,8 @@
-// The function editor: what an event does to the 512 relay outputs, the 128 dimmers and the 16 timers. One design
-// for the three kinds of event; `Actmask`, `Actmask_uhr` and `Actmask_timer` add what is their own.
+// The function editor: what an event does to the 512 relay outputs, the 128 dimmers and the 16 timers. One
+// design for the three kinds of event; `Actmask`, `Actmask_uhr` and `Actmask_timer` add what is their own.
 //
-// The editor works on a copy of the event's rows and of the outputs' texts; OK compares the copy with the store, so
-// that an event is marked for sending only when a function of it has changed.
+// The editor works on a copy of the event's rows and of the outputs' texts; OK compares the copy with the
+// store, so that an event is marked for sending only when a function of it has changed.
 #pragma once
 
 #include <array>
@@ -33,7 +33,8 @@ class Funktionsmaske : public Formular {
   std::array<Kaestchen, relais_je_gruppe> Check1;  // the output has a function
   std::array<Textfeld, relais_je_gruppe> Text1;
   std::array<Auswahl, relais_je_gruppe> Combo1;
-  Taste Alle_8_aus{"Alle 8 Ausgänge aus"}, Alle_8_ein{"Alle 8 Ausgänge ein"}, Alle_8_neutral{"Alle 8 Ausgänge neutral"};
+  Taste Alle_8_aus{"Alle 8 Ausgänge aus"}, Alle_8_ein{"Alle 8 Ausgänge ein"},
+      Alle_8_neutral{"Alle 8 Ausgänge neutral"};
   Taste Storen_auf{"Alle 4 Storen auf"}, Storen_ab{"Alle 4 Storen ab"}, Storen_stop{"Alle 4 Storen stop"};
   Taste Alle_512_aus{"Alle 512 Ausgänge aus"}, Alle_512_neutral{"Alle 512 Ausgänge neutral"};
   Taste Ausgaenge_testen{"Ausgänge testen"};
@@ -61,8 +62,8 @@ class Funktionsmaske : public Formular {
 
   Anordnung anordnung() override;
 
-  // Marks tabs, group buttons and labels by the working copy; runs after every change. Gives the lowest groups in
-  // use, -1 for none.
+  // Marks tabs, group buttons and labels by the working copy; runs after every change. Gives the lowest
+  // groups in use, -1 for none.
   struct Belegung {
     int baugruppe = -1;
     int dimmbaugruppe = -1;
@@ -77,8 +78,8 @@ class Funktionsmaske : public Formular {
   // At the end of the derived constructor: shows the lowest groups in use and the first page in use.
   void Anfang_zeigen();
 
-  // What a derived editor adds to the row of a dimmer. Shows its controls of row i; `an`: the dimmer takes part,
-  // `hell`: and its brightness is set.
+  // What a derived editor adds to the row of a dimmer. Shows its controls of row i; `an`: the dimmer takes
+  // part, `hell`: and its brightness is set.
   virtual void Zusatz_zeigen(int i, bool an, bool hell) = 0;
   virtual void Zusatz_loeschen(int /*dimmer*/) {}
   virtual bool Zusatz_benutzt(int /*dimmer*/) const { return false; }
@@ -91,8 +92,6 @@ class Funktionsmaske : public Formular {
 
   int Dimmer(int i) const { return Dimmbaugruppe.position() * dimmer_je_gruppe + i; }
   i16& Parameter(int dimmer, Dimmerparameter p) { return dimmer_(dimmer, static_cast<std::size_t>(p)); }
-  // Shows a stored value in its list; one that the list does not know shows as nothing chosen.
-  static void Einstellen(Auswahl& liste, int wert);
   // Shows row i by the working copy. Its box, once on, stays on.
   void Dimmerzeile_zeigen(int i);
   // A handler that changes something of row i and shows what follows from it; of all four rows.
@@ -115,8 +114,8 @@ class Funktionsmaske : public Formular {
   // Shows row i by the working copy, with its box on or off.
   void Relaiszeile_zeigen(int i, bool an);
   void Relais_funktion_gewaehlt(int i);
-  // Keeps the two outputs of a blind from being switched on at once, after output i got a new code. Gives the text
-  // of the message that is due, nullptr for none.
+  // Keeps the two outputs of a blind from being switched on at once, after output i got a new code. Gives the
+  // text of the message that is due, nullptr for none.
   const char* Storenregel_anwenden(int i);
   // Codes of a run of outputs, on the even and on the odd ones.
   void Relais_setzen(int von, int anzahl, i16 gerade, i16 ungerade);

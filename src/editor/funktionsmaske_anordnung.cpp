@@ -16,22 +16,26 @@ void Anhaengen(std::vector<Anordnung>& raster, Anordnungsfolge zusatz, Zellen&&.
 Anordnung Funktionsmaske::anordnung() {
   Anordnung dimmer(Anordnung::Art::Raster);
   for (std::size_t i = 0; i < dimmer_je_gruppe; ++i) {
-    Anhaengen(dimmer.kinder, Zusatzzellen(static_cast<int>(i)), Check2[i], Text2[i], Command1[i], Slider1[i], Intens[i],
-              Tempo[i]);
+    Anhaengen(dimmer.kinder, Zusatzzellen(static_cast<int>(i)), Check2[i], Text2[i], Command1[i], Slider1[i],
+              Intens[i], Tempo[i]);
   }
   dimmer.spalten = static_cast<int>(dimmer.kinder.size() / dimmer_je_gruppe);
-  Anhaengen(dimmer.kinder, Zusatzzellen(dimmer_je_gruppe), Leer(), Leer(), Leer(), Slider2, Leer(), Tempo.back());
+  Anhaengen(dimmer.kinder, Zusatzzellen(dimmer_je_gruppe), Leer(), Leer(), Leer(), Slider2, Leer(),
+            Tempo.back());
 
   const Anordnung seite_schalten =
-      Spalte(Gruppe("ZAVswitch, ZAVmotor: Oxx", Baugruppe), Gruppe(Frame1, Raster(3, Zeilenweise(Check1, Text1, Combo1))),
-             Gruppe("Auswahl gilt für ZAVswitch und ZAVmotor", Zeile(Alle_8_aus, Alle_8_ein, Alle_8_neutral, Feder()),
+      Spalte(Gruppe("ZAVswitch, ZAVmotor: Oxx", Baugruppe),
+             Gruppe(Frame1, Raster(3, Zeilenweise(Check1, Text1, Combo1))),
+             Gruppe("Auswahl gilt für ZAVswitch und ZAVmotor",
+                    Zeile(Alle_8_aus, Alle_8_ein, Alle_8_neutral, Feder()),
                     Zeile(Storen_auf, Storen_ab, Storen_stop, Feder()),
                     Zeile(Alle_512_aus, Alle_512_neutral, Feder(), Ausgaenge_testen, Ansicht[0])));
   const Anordnung seite_dimmen =
       Spalte(Gruppe("ZAVdimmer, ZAVmodul: Dxx", Dimmbaugruppe), Gruppe(Frame2, std::move(dimmer)),
              Zeile(Alle_4_neutral, Alle_128_aus, Alle_128_neutral, Feder(), Ansicht[1]));
 
-  return Spalte(Zeile(Label1, Label2, Label3, Feder()), Reiter(TabStrip1, seite_schalten, seite_dimmen, Timerseite()),
+  return Spalte(Zeile(Label1, Label2, Label3, Feder()),
+                Reiter(TabStrip1, seite_schalten, seite_dimmen, Timerseite()),
                 Knopfzeile(Command5, Command6));
 }
 

@@ -1,5 +1,7 @@
 #include "editor/sperrmaske.h"
 
+#include "editor/ausgangsfelder.h"
+
 namespace zav {
 
 Sperrmaske::Sperrmaske(const std::string& name, const std::string& titel, Ereignisart art, int ereignis,

@@ -15,7 +15,8 @@ namespace {
 constexpr const char* maske = "HH.MM.SS";
 constexpr const char* formfehler = "Eingabe im Format HH.MM.SS oder HH.MM, Maximalwert 17.59.59";
 
-constexpr std::array schrittworte{"Startfunktion 1", "Zwischenfunktion 2", "Zwischenfunktion 3", "Endfunktion 4"};
+constexpr std::array schrittworte{"Startfunktion 1", "Zwischenfunktion 2", "Zwischenfunktion 3",
+                                  "Endfunktion 4"};
 
 // Writes a value and tells whether it was another.
 bool Schreiben(str& ziel, const std::string& wert) { return std::exchange(ziel, wert) != wert; }
@@ -120,7 +121,8 @@ void Timer_trepp::Uebernehmen() {
 }
 
 Anordnung Timer_trepp::anordnung() {
-  Anordnung raster = Raster(2 + zeiten_je_timer + schritte, Leer(), Label1, Alle(Label2), Leer(), Leer(), Leer(), Leer());
+  Anordnung raster =
+      Raster(2 + zeiten_je_timer + schritte, Leer(), Label1, Alle(Label2), Leer(), Leer(), Leer(), Leer());
   for (int t = 0; t < timeranzahl; ++t) {
     raster.kinder.emplace_back(Tnr[t]);
     raster.kinder.emplace_back(Txtbox_timerbez[t]);

@@ -9,8 +9,9 @@
 
 namespace zav {
 
-// A time of a timer as a user typed it: "HH.MM.SS" or "HH.MM", 17.59.59 at most. `text` is what the field shows then,
-// the mask "HH.MM.SS" for a time that is not set or not good; `fehler` the message that is due, nullptr for none.
+// A time of a timer as a user typed it: "HH.MM.SS" or "HH.MM", 17.59.59 at most. `text` is what the field
+// shows then, the mask "HH.MM.SS" for a time that is not set or not good; `fehler` the message that is due,
+// nullptr for none.
 struct Timerzeit {
   std::string text;
   const char* fehler = nullptr;

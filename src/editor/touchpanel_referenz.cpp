@@ -64,7 +64,8 @@ std::string Touchpanel_text() {
     }
   };
   rueckmeldungen("Rückmeldungen SWITCH/MOTOR", 0, relaisausgaenge, relais_je_gruppe, projekt.Relais_text);
-  rueckmeldungen("Rückmeldungen DIMMER", erster_dimmer, ausgang_keiner, dimmer_je_gruppe, projekt.Dimmer_text);
+  rueckmeldungen("Rückmeldungen DIMMER", erster_dimmer, ausgang_keiner, dimmer_je_gruppe,
+                 projekt.Dimmer_text);
   return text;
 }
 

@@ -7,8 +7,8 @@
 
 namespace zav {
 
-// The whole reference of the project, lines closed with CR LF. Addresses are hexadecimal without padding; an output's
-// feedback number is its number among all outputs: 0 to 1FF relays, 200 to 27F dimmers.
+// The whole reference of the project, lines closed with CR LF. Addresses are hexadecimal without padding; an
+// output's feedback number is its number among all outputs: 0 to 1FF relays, 200 to 27F dimmers.
 std::string Touchpanel_text();
 
 class Touchpanel_Referenz final : public Formular {

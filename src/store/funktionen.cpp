@@ -25,7 +25,8 @@ constexpr std::array<Relaisfunktion, 8> eingangsfunktionen{{
 }};
 constexpr std::size_t timerereignis_codes = 7;  // all of them but "Thermo"
 
-// 1 to 6 alone, with the output's lock set (+ 6), with it released (+ 12). Only "Ein" collides with a blind here.
+// 1 to 6 alone, with the output's lock set (+ 6), with it released (+ 12). Only "Ein" collides with a blind
+// here.
 constexpr std::array<Relaisfunktion, 21> uhrfunktionen{{
     {"-", "-", keine},
     {"Aus", "Aus", keine},
@@ -52,8 +53,9 @@ constexpr std::array<Relaisfunktion, 21> uhrfunktionen{{
 
 constexpr std::array timerfunktionen{"-", "Start & Restart", "Stop & Reset", "Start/Reset (um)"};
 // From 5 seconds on in steps of 2 seconds: the dimmers know no other values.
-constexpr std::array tempi{"Sehr hoch", "Hoch",    "Ambiance", "2 Sek.",  "3 Sek.",  "4 Sek.",  "5 Sek.",  "7 Sek.",
-                           "9 Sek.",    "11 Sek.", "13 Sek.",  "15 Sek.", "17 Sek.", "19 Sek.", "21 Sek.", "23 Sek."};
+constexpr std::array tempi{"Sehr hoch", "Hoch",    "Ambiance", "2 Sek.",  "3 Sek.",  "4 Sek.",
+                           "5 Sek.",    "7 Sek.",  "9 Sek.",   "11 Sek.", "13 Sek.", "15 Sek.",
+                           "17 Sek.",   "19 Sek.", "21 Sek.",  "23 Sek."};
 constexpr std::array sperren{"-", "Sperre ein", "Sperre aus"};
 
 template <class Tabelle>
@@ -79,7 +81,8 @@ constexpr std::array namensformen{Namensform{Ziel::Art::Relais, 'O', relais_je_g
                                   Namensform{Ziel::Art::Timer, 'T', 0, timeranzahl}};
 
 const Namensform& Form_von(Ziel::Art art) {
-  return *std::find_if(namensformen.begin(), namensformen.end(), [art](const Namensform& f) { return f.art == art; });
+  return *std::find_if(namensformen.begin(), namensformen.end(),
+                       [art](const Namensform& f) { return f.art == art; });
 }
 
 }  // namespace
@@ -183,16 +186,21 @@ Ereigniszeilen Zeilen_von(Ereignisart art, int ereignis) {
   const int e = ereignis;
   switch (art) {
     case Ereignisart::Eingang:
-      return {p.Ein_relais.zeile(e), p.Ein_dimmer.zeile(e), p.Ein_timer.zeile(e), p.Ein_funktext[e], p.Ein_leer[e]};
+      return {p.Ein_relais.zeile(e), p.Ein_dimmer.zeile(e), p.Ein_timer.zeile(e), p.Ein_funktext[e],
+              p.Ein_leer[e]};
     case Ereignisart::Uhr:
-      return {p.Uhr_relais.zeile(e), p.Uhr_dimmer.zeile(e), p.Uhr_timer.zeile(e), p.Uhr_funktext[e], p.Uhr_leer[e]};
-    case Ereignisart::Timer: break;
+      return {p.Uhr_relais.zeile(e), p.Uhr_dimmer.zeile(e), p.Uhr_timer.zeile(e), p.Uhr_funktext[e],
+              p.Uhr_leer[e]};
+    case Ereignisart::Timer:
+      break;
   }
   return {p.Tev_relais.zeile(e), p.Tev_dimmer.zeile(e), {}, p.Tev_funktext[e], p.Tev_leer[e]};
 }
 
 bool Hat_funktionen(Ereignisart art, int ereignis) {
-  const auto benutzt = [](auto zeile) { return std::any_of(zeile.begin(), zeile.end(), [](auto w) { return w != 0; }); };
+  const auto benutzt = [](auto zeile) {
+    return std::any_of(zeile.begin(), zeile.end(), [](auto w) { return w != 0; });
+  };
   const Ereigniszeilen z = Zeilen_von(art, ereignis);
   return benutzt(z.relais) || benutzt(z.dimmer) || benutzt(z.timer);
 }

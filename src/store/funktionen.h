@@ -1,8 +1,9 @@
 // What the numbers in the function matrices mean: one vocabulary for the editors, the search, the reports and
 // the transfer's display. The codes stand in project files and in the master: never renumber.
 //
-// A relay code is the position in the list of its kind of event. Relay outputs come in groups of eight, dimmer
-// outputs in groups of four. Two neighbours of a relay group can drive a blind: the even one up, the odd one down.
+// A relay code is the position in the list of its kind of event. Relay outputs come in groups of eight,
+// dimmer outputs in groups of four. Two neighbours of a relay group can drive a blind: the even one up, the
+// odd one down.
 #pragma once
 
 #include <cstddef>
@@ -57,12 +58,12 @@ std::vector<std::string> Timerliste();
 std::vector<std::string> Tempoliste();
 std::vector<std::string> Sperrenliste();
 
-// Dimmer parameters, in this order. Bit 0 of the first two dims on a long key press of an input event; the second
-// holds the lock of a clock event.
+// Dimmer parameters, in this order. Bit 0 of the first two dims on a long key press of an input event; the
+// second holds the lock of a clock event.
 enum Dimmerparameter : std::size_t { dimmer_auf, dimmer_ab, dimmer_helligkeit, dimmer_tempo };
-inline constexpr i16 dimmer_lang = 1;    // of dimmer_auf, dimmer_ab: while the key is held
-inline constexpr i16 dimmer_kurz = 16;   // of dimmer_auf: scene and off in turn; of dimmer_ab: last brightness
-inline constexpr i16 helligkeit_aus = 1; // 0 no change, 1 off, 2 to 100 percent
+inline constexpr i16 dimmer_lang = 1;   // of dimmer_auf, dimmer_ab: while the key is held
+inline constexpr i16 dimmer_kurz = 16;  // of dimmer_auf: scene and off in turn; of dimmer_ab: last brightness
+inline constexpr i16 helligkeit_aus = 1;  // 0 no change, 1 off, 2 to 100 percent
 
 // A function in words. A code without a meaning, as a damaged file may hold, gives "Code " and its number.
 std::string Relais_in_worten(Ereignisart art, int code, int ausgang);

@@ -1,0 +1,17 @@
+// Controls that every editor of outputs has.
+#pragma once
+
+#include "form/steuerelement.h"
+#include "store/funktionen.h"
+
+namespace zav {
+
+// The strip of the 64 relay groups or of the 32 dimmer groups.
+void Gruppenleiste_einrichten(Auswahl& leiste, Ziel::Art art);
+// The text of an output, 25 characters at most.
+void Ausgangstext_einrichten(Textfeld& feld);
+// Shows a stored value in its list; one that the list does not know, as a damaged file may hold, shows as
+// nothing chosen.
+void Einstellen(Auswahl& liste, int wert);
+
+}  // namespace zav
