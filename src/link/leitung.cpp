@@ -57,8 +57,8 @@ class Frist {
     const double jetzt = Timer();
     return {jetzt, Runden(jetzt) + sekunden};
   }
-  // The end of the pause before a message is sent again. Rounding the half goes by the parity of the second,
-  // so the pause is nothing or up to a second and a half.
+  // The end of the pause before a message is sent again. The half rounds to even: no pause in an even second,
+  // up to the next one in an odd second.
   static Frist Pause() {
     const double jetzt = Timer();
     return {jetzt, Runden(static_cast<double>(Runden(jetzt)) + 0.5)};
