@@ -1,7 +1,6 @@
 // The time rule of one switching time, with its picture on the 24 hours of any day of the year.
 #pragma once
 
-#include <functional>
 #include <optional>
 #include <string>
 

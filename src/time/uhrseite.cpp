@@ -159,6 +159,8 @@ void Uhrseite::Modus_gewaehlt() {
   for (Schild& l : Label1) l.frei = nach_daten;
   for (std::size_t n = 1; n < felder; ++n) Dat[n].frei = Wotag[n].frei = nach_daten;
   Command8.frei = nach_daten;
+  Command8.hinweis = nach_daten ? "" : "Nur bei automatischer Zeitumstellung";
+  if (!nach_daten && feld_ > 0) MonthView1.sichtbar = false;
 }
 
 void Uhrseite::Umstellungen_berechnen() {
