@@ -49,7 +49,8 @@ Konsole::~Konsole() {
 Antwort Konsole::Melden(const Meldung& m) {
   const bool ernst = m.symbol == Symbol::Stopp || m.symbol == Symbol::Warnung;
   if (ernst && m.knoepfe == Knoepfe::OK) fehler_gezeigt_ = true;
-  const std::string text = Ersetzen(m.text, "\r\n", "\n");
+  std::string text = Ersetzen(m.text, "\r\n", "\n");
+  while (text.ends_with('\n')) text.pop_back();
   Zeile(m.titel.empty() ? text : "[" + m.titel + "] " + text);
   return Antwort_holen(m);
 }
