@@ -149,8 +149,12 @@ TEST_F(Funktionen, GroupCommandsSetCodesAndTicks) {
   };
   Actmask m(0, "");
   m.Baugruppe.waehlen(63);
-  for (const Fall& f : {Fall{&Actmask::Alle_8_aus, 1, 1}, {&Actmask::Storen_auf, 5, 0}, {&Actmask::Alle_8_ein, 2, 2},
-                        {&Actmask::Storen_ab, 0, 5}, {&Actmask::Storen_stop, 6, 6}, {&Actmask::Alle_8_neutral, 0, 0}}) {
+  for (const Fall& f : {Fall{&Actmask::Alle_8_aus, 1, 1},
+                        {&Actmask::Storen_auf, 5, 0},
+                        {&Actmask::Alle_8_ein, 2, 2},
+                        {&Actmask::Storen_ab, 0, 5},
+                        {&Actmask::Storen_stop, 6, 6},
+                        {&Actmask::Alle_8_neutral, 0, 0}}) {
     (m.*f.taste).druecken();
     for (int i = 0; i < 8; ++i) {
       const int code = i % 2 == 0 ? f.gerade : f.ungerade;
@@ -161,7 +165,8 @@ TEST_F(Funktionen, GroupCommandsSetCodesAndTicks) {
   EXPECT_EQ(m.Baugruppe.eintrag(63).farbe, Farbe::normal);
   m.Alle_512_aus.druecken();
   const auto& leiste = m.Baugruppe.eintraege();
-  EXPECT_TRUE(std::all_of(leiste.begin(), leiste.end(), [](const auto& e) { return e.farbe == Farbe::belegt; }));
+  EXPECT_TRUE(
+      std::all_of(leiste.begin(), leiste.end(), [](const auto& e) { return e.farbe == Farbe::belegt; }));
   m.Check1[0].haken(false);
   m.Command5.druecken();
   const auto zeile = projekt.Ein_relais.zeile(0);
@@ -212,7 +217,8 @@ TEST_F(Funktionen, AllFourAndAll128) {
   }
   m.Command5.druecken();
   for (int dimmer = 8; dimmer < 12; ++dimmer) {
-    EXPECT_TRUE(std::ranges::equal(projekt.Ein_dimmer.zeile(7).subspan(dimmer * 4, 4), std::array{16, 1, 40, 15}));
+    EXPECT_TRUE(
+        std::ranges::equal(projekt.Ein_dimmer.zeile(7).subspan(dimmer * 4, 4), std::array{16, 1, 40, 15}));
   }
   Actmask aus(7, "");
   aus.Alle_128_aus.druecken();
@@ -220,7 +226,8 @@ TEST_F(Funktionen, AllFourAndAll128) {
   EXPECT_EQ(aus.Tempo[0].position(), 0);
   aus.Command5.druecken();
   for (int dimmer = 0; dimmer < 128; ++dimmer) {
-    EXPECT_TRUE(std::ranges::equal(projekt.Ein_dimmer.zeile(7).subspan(dimmer * 4, 4), std::array{0, 0, 1, 0}));
+    EXPECT_TRUE(
+        std::ranges::equal(projekt.Ein_dimmer.zeile(7).subspan(dimmer * 4, 4), std::array{0, 0, 1, 0}));
   }
   Actmask neutral(7, "");
   neutral.Alle_4_neutral.druecken();
@@ -251,7 +258,7 @@ TEST_F(Funktionen, OnlyAChangedFunctionMarksTheEvent) {
   projekt.Ein_dimmer(53, 6, 0) = 17;
   projekt.Ein_dimmer(53, 6, 1) = 9;  // no legal value: passes through
   projekt.Ein_dimmer(53, 7, 1) = 33;
-  projekt.Ein_relais(53, 3) = 12;    // a code of an older kind
+  projekt.Ein_relais(53, 3) = 12;  // a code of an older kind
   projekt.Ein_timer(53, 2) = 1;
   const Projekt vorher = projekt;
 
@@ -302,9 +309,11 @@ TEST_F(Funktionen, OutputTestNeedsTheNewestGeneration) {
   EXPECT_EQ(geoeffnet, 1);
   Funktionsmaske::ausgangssimulation_oeffnen = nullptr;
   projekt.Datei_version = "900";
-  d.erwarte({.text = "Wenn Sie die neuen Funktionen von ZAVlink-Version 9.102 nutzen möchten, wählen Sie 'Speichern "
-                     "unter' und den Dateityp 910. Achtung: Das Betriebssystem des ZAVmasters muss auf die Version 9 "
-                     "aufgerüstet werden."});
+  d.erwarte(
+      {.text =
+           "Wenn Sie die neuen Funktionen von ZAVlink-Version 9.102 nutzen möchten, wählen Sie 'Speichern "
+           "unter' und den Dateityp 910. Achtung: Das Betriebssystem des ZAVmasters muss auf die Version 9 "
+           "aufgerüstet werden."});
   m.Ausgaenge_testen.druecken();
 }
 
@@ -313,14 +322,17 @@ TEST(Funktionsworte, NamesAndWords) {
     const char* text;
     Ziel ziel;
   };
-  for (const auto& [text, ziel] : {Name{"O3-5", {Ziel::Art::Relais, 29}}, {"O63-7", {Ziel::Art::Relais, 511}},
-                                   {"D1-2", {Ziel::Art::Dimmer, 6}}, {"D31-3", {Ziel::Art::Dimmer, 127}},
+  for (const auto& [text, ziel] : {Name{"O3-5", {Ziel::Art::Relais, 29}},
+                                   {"O63-7", {Ziel::Art::Relais, 511}},
+                                   {"D1-2", {Ziel::Art::Dimmer, 6}},
+                                   {"D31-3", {Ziel::Art::Dimmer, 127}},
                                    {"T15", {Ziel::Art::Timer, 15}}}) {
     EXPECT_EQ(Ziel_name(ziel), text);
     EXPECT_EQ(Ziel_lesen(text), ziel);
   }
   EXPECT_EQ(Ziel_lesen("o0-0"), (Ziel{Ziel::Art::Relais, 0}));
-  for (const char* falsch : {"", "O", "O64-0", "O3-8", "O3", "O3-", "D0-4", "D32-0", "T16", "T1-0", "T-1", "X1", "O3-5 "}) {
+  for (const char* falsch :
+       {"", "O", "O64-0", "O3-8", "O3", "O3-", "D0-4", "D32-0", "T16", "T1-0", "T-1", "X1", "O3-5 "}) {
     EXPECT_EQ(Ziel_lesen(falsch), std::nullopt) << falsch;
   }
   EXPECT_EQ(Relais_in_worten(Ereignisart::Uhr, 11, 3), "Store ab und sperren");

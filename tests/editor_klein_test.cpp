@@ -1,4 +1,5 @@
-// The smaller editors of the installation: timers, restart states, dimmer modes, event search, touchpanel reference.
+// The smaller editors of the installation: timers, restart states, dimmer modes, event search, touchpanel
+// reference.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -10,8 +11,10 @@
 #include "editor/actmask_init.h"
 #include "editor/actmask_timer.h"
 #include "editor/actmask_uhr.h"
+#include "editor/auswahl_taster.h"
 #include "editor/backref.h"
 #include "editor/dimmermode.h"
+#include "editor/einmask.h"
 #include "editor/ereignissuche.h"
 #include "editor/timer_trepp.h"
 #include "editor/touchpanel_referenz.h"
@@ -32,7 +35,8 @@ class Kleine_editoren : public testing::Test {
     Projekt_reset();
   }
   // A Kombination with one device at its place 0.
-  void Apparat_setzen(int k, const std::string& stock, const std::string& raum, int typ, int adresse, int anzahl) {
+  void Apparat_setzen(int k, const std::string& stock, const std::string& raum, int typ, int adresse,
+                      int anzahl) {
     projekt.Komb_typ[k] = 1;
     projekt.Komb_text[k] = stock;
     projekt.Komb_text2[k] = raum;
@@ -61,6 +65,7 @@ TEST_F(Kleine_editoren, EveryControlIsPlacedOnce) {
   Platzierung_pruefen<Actmask_init>();
   Platzierung_pruefen<Dimmermode>();
   Platzierung_pruefen<Backref>();
+  Platzierung_pruefen<Einmask>();
   Platzierung_pruefen<Touchpanel_Referenz>();
 }
 
@@ -72,12 +77,20 @@ TEST_F(Kleine_editoren, TimerTimesAreCheckedOnLeavingTheField) {
     std::string meldung;
   };
   Timer_trepp m;
-  for (const Fall& f : {Fall{"17.59.59", "17.59.59", ""}, {"05.30", "05.30.00", ""}, {"", "HH.MM.SS", ""},
-                        {"HH.MM.SS", "HH.MM.SS", ""}, {"18.00.00", "HH.MM.SS", "Stunde zu gross"},
-                        {"18.00", "HH.MM.SS", "Stunde zu gross"}, {"00.60.00", "HH.MM.SS", "Minute zu gross"},
-                        {"00.00.60", "HH.MM.SS", "Sekunde zu gross"}, {"0.30", "HH.MM.SS", form},
-                        {"12:30", "HH.MM.SS", form}, {"12.30:00", "HH.MM.SS", form}, {"ab.cd.ef", "HH.MM.SS", form},
-                        {"-1.00.00", "HH.MM.SS", form}, {"00.00.1ü", "HH.MM.SS", form}}) {
+  for (const Fall& f : {Fall{"17.59.59", "17.59.59", ""},
+                        {"05.30", "05.30.00", ""},
+                        {"", "HH.MM.SS", ""},
+                        {"HH.MM.SS", "HH.MM.SS", ""},
+                        {"18.00.00", "HH.MM.SS", "Stunde zu gross"},
+                        {"18.00", "HH.MM.SS", "Stunde zu gross"},
+                        {"00.60.00", "HH.MM.SS", "Minute zu gross"},
+                        {"00.00.60", "HH.MM.SS", "Sekunde zu gross"},
+                        {"0.30", "HH.MM.SS", form},
+                        {"12:30", "HH.MM.SS", form},
+                        {"12.30:00", "HH.MM.SS", form},
+                        {"ab.cd.ef", "HH.MM.SS", form},
+                        {"-1.00.00", "HH.MM.SS", form},
+                        {"00.00.1ü", "HH.MM.SS", form}}) {
     SCOPED_TRACE(f.eingabe);
     if (!f.meldung.empty()) d.erwarte({.text = f.meldung});
     m.Ttime[47].ausfuellen(f.eingabe);
@@ -259,6 +272,106 @@ TEST_F(Kleine_editoren, TouchpanelReference) {
   EXPECT_EQ(d.zwischenablage(), text);
   m.Command2.druecken();
   EXPECT_FALSE(m.offen());
+}
+
+TEST_F(Kleine_editoren, TheFlatEditorWorksOnAddressGroups) {
+  projekt.Grp_text[17] = "Küche";
+  projekt.Grp_led[17] = 0;
+  Einmask m;
+  m.TabStrip1.waehlen(1);
+  EXPECT_EQ(m.Text_grp[1].text(), "Küche");
+  m.Text_ein[4 * 1 + 2].eingeben("Licht");  // makes I17 the current group
+  EXPECT_EQ(projekt.Ein_text[70], "Licht");
+  EXPECT_EQ(m.Nummer[1].farbe, Farbe::aktuell);
+  EXPECT_EQ(m.Frame1.titel, "I17  Küche");
+  EXPECT_EQ(m.Label_bild.titel, "Feller (alt): Vierfachtaster mit LED");
+  m.Combo_LED[2].waehlen("LED dauernd ein");
+  m.Check_thermo.haken(true);
+  EXPECT_EQ(projekt.Ein_led[70], 641);
+  EXPECT_EQ(projekt.Grp_led[17], 1);
+  EXPECT_EQ(projekt.Grp_thermo[17], 1);
+
+  d.erwarte_dialog<Actmask>([](Actmask& a) {
+    EXPECT_EQ(a.titel(), "Funktionen für Ereignis: Küche - Licht");
+    a.Alle_8_ein.druecken();
+    a.Text1[0].eingeben("Decke");
+    a.Command5.druecken();
+  });
+  m.Command_fkt[2].druecken();
+  EXPECT_EQ(projekt.Ein_leer[70], 1);
+  EXPECT_EQ(m.Command_fkt[2].farbe, Farbe::belegt);
+  EXPECT_EQ(m.Combo_LED[0].eintrag(0).text, "O0-0: Decke");
+  m.Nummer[0].druecken();
+  EXPECT_EQ(m.Nummer[1].farbe, Farbe::belegt);
+  m.Nummer[1].druecken();
+
+  const Meldung warnung{
+      .text =
+          "Alle Schalt-, Dimm- und Timerfunktionen dieses Ereignisses werden unwiderruflich "
+          "gelöscht. Die Abläufe in den Timern selbst bleiben aber erhalten. Die LEDs werden auf "
+          "'dauernd aus' gesetzt.\nAusführen?",
+      .titel = "Warnung vor dem Löschen",
+      .knoepfe = Knoepfe::Ja_Nein,
+      .symbol = Symbol::Warnung,
+      .standard = 2};
+  const Projekt vorher = projekt;
+  d.erwarte(warnung, Antwort::Nein);
+  m.Command_loeschen.druecken();
+  EXPECT_TRUE(projekt == vorher);
+  d.erwarte(warnung, Antwort::Ja);
+  m.Command_loeschen.druecken();
+  EXPECT_EQ(m.Text_ein[6].text(), "");
+  EXPECT_EQ(m.Combo_LED[2].text(), "LED dauernd aus");
+  EXPECT_FALSE(Hat_funktionen(Ereignisart::Eingang, 70));
+  EXPECT_EQ(projekt.Ein_leer[70], 0);
+  EXPECT_EQ(projekt.Ein_funktext[68], 1);
+  EXPECT_EQ(projekt.Grp_text[17], "Küche");
+}
+
+TEST_F(Kleine_editoren, AMultipleSenderTakesSixGroups) {
+  projekt.Grp_text[40] = "@meZweiter";
+  Einmask m;
+  m.Nummer[11].druecken();
+  d.erwarte({.text = "Der Mehrfachsender belegt 6 aufeinanderfolgende ZAVnummern. Die höchste wählbare "
+                     "Nummer in dieser "
+                     "Gruppe ist somit die I10"});
+  m.Command_mehrfach.druecken();
+  m.Nummer[10].druecken();
+  m.Command_mehrfach.druecken();
+  EXPECT_EQ(projekt.Grp_typ[10], 70);
+  EXPECT_EQ(m.Label_bild.titel, "Feller: IR-Mehrfachsender");
+  m.Nummer[15].druecken();
+  EXPECT_EQ(m.Command_taster.frei, false);
+  EXPECT_EQ(m.Command_taster.hinweis, "Gehört zum Mehrfachsender ab I10");
+
+  m.TabStrip1.waehlen(2);
+  m.Nummer[0].druecken();
+  d.erwarte(
+      {.text =
+           "Es ist bereits ein Mehrfachsender ab I10 definiert. Wie Sie mehrere Mehrfachsender definieren "
+           "können, finden Sie in der Anleitung zum IR-Empfänger."});
+  m.Command_mehrfach.druecken();
+  EXPECT_EQ(projekt.Grp_typ[32], 5);
+  d.erwarte_dialog<Auswahl_Taster>([](Auswahl_Taster& a) { a.Bilder.waehlen("26"); });  // Beo4, another kind
+  m.Command_taster.druecken();
+  EXPECT_EQ(projekt.Grp_typ[32], 26);
+  m.Nummer[8].druecken();
+  EXPECT_EQ(m.Label_bild.titel, "Feller: IR-Mehrfachsender") << "the mark in the text";
+  EXPECT_EQ(m.Command_mehrfach.frei, false);
+
+  m.TabStrip1.waehlen(0);
+  m.Nummer[10].druecken();
+  const Meldung frage{.text = "Mehrfachsender löschen? Alle Texte und Funktionen bleiben erhalten.",
+                      .titel = "Warnung vor dem Löschen",
+                      .knoepfe = Knoepfe::Ja_Nein,
+                      .symbol = Symbol::Warnung,
+                      .standard = 2};
+  d.erwarte(frage, Antwort::Nein);
+  m.Command_mehrfach.druecken();
+  EXPECT_EQ(projekt.Grp_typ[10], 70);
+  d.erwarte(frage, Antwort::Ja);
+  m.Command_mehrfach.druecken();
+  EXPECT_EQ(projekt.Grp_typ[10], 5);
 }
 
 }  // namespace

@@ -272,6 +272,16 @@ TEST_F(Installation, DeletedDevicesDoNotComeBack) {
   m.Image3[4].druecken();
   m.mnuPaste.druecken();
   EXPECT_EQ(projekt.App_typ[16 + 4], 33) << "a socket needs no address";
+
+  // Pasting knows another list of kinds for "Diverse" than placing: 92 in place of 93.
+  for (const int typ : {92, 93}) {
+    apparat(1, 3, typ, -1);
+    m.Image3[3].druecken();
+    m.mnuCut.druecken();
+    if (typ == 92) d.erwarte({.text = "Bitte wählen Sie für diesen Apparat die Kombination 'Diverse'"});
+    m.mnuPaste.druecken();
+    EXPECT_EQ(projekt.App_typ[16 + 3], typ == 92 ? 80 : 93);
+  }
 }
 
 TEST_F(Installation, AThermostatAndTheDeviceBehindItKeepTheirTexts) {

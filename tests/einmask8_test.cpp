@@ -458,7 +458,7 @@ TEST_F(Installation, ImportMakesAKombinationOfEachGroup) {
     EXPECT_EQ(projekt.App_typ[16 * k], f.typ) << f.text;
     EXPECT_EQ(projekt.App_text[16 * k], std::to_string(f.adresse));
     EXPECT_EQ(projekt.App_text2[16 * k], std::to_string(f.anzahl));
-    EXPECT_EQ(projekt.Komb_layout[16], 0);
+    EXPECT_EQ(projekt.Komb_layout[k], layout_diverse);
     ++k;
   }
   EXPECT_EQ(projekt.Komb_text[k], "");

@@ -53,7 +53,6 @@ TEST_F(Zeit, RowGetsTimeAndFunctionsAndTheTextsComeAtClose) {
   EXPECT_EQ(f.titel(), "Schaltuhr 1");
   f.Uhr_auswahl.waehlen(1);
   f.TabStrip1.waehlen("Täglich");
-  EXPECT_EQ(f.Frame1.titel, "Schaltuhr 2");
   EXPECT_EQ(f.Uhr_auswahl.eintrag(1).farbe, Farbe::uhr2);
   f.Schaltzweck_txt[3].eingeben("Storen im Wohnzimmer öffnen");
   EXPECT_EQ(f.Schaltzweck_txt[3].text(), "Storen im Wohnzimmer öffn") << "25 characters";
@@ -99,9 +98,7 @@ TEST_F(Zeit, CutAndPasteMoveARowWithItsRule) {
   projekt.Uhr_text[0] = "Licht";
   projekt.Uhr_zeit[0] = "Untergang";
   projekt.Uhr_astro[0] = 4;
-  projekt.Uhr_tag[0] = 2;
   projekt.Uhr_f1[0] = "00.15.00";
-  projekt.Uhr_f7[0] = 1;
   projekt.Uhr_leer[0] = 1;
   projekt.Uhr_relais(0, 511) = 20;
   projekt.Uhr_timer(0, 15) = 3;
@@ -119,9 +116,7 @@ TEST_F(Zeit, CutAndPasteMoveARowWithItsRule) {
   f.Paste.druecken();
   EXPECT_EQ(f.Schaltzeit_txt[5].text(), "Untergang");
   EXPECT_EQ(projekt.Uhr_astro[21], 4);
-  EXPECT_EQ(projekt.Uhr_tag[21], 2);
   EXPECT_EQ(projekt.Uhr_f1[21], "00.15.00");
-  EXPECT_EQ(projekt.Uhr_f7[21], 1);
   EXPECT_EQ(projekt.Uhr_relais(21, 511), 20);
   EXPECT_EQ(projekt.Uhr_timer(21, 15), 3);
   EXPECT_EQ(projekt.Uhr_dimmer(21, 127, 2), 3);
@@ -179,8 +174,6 @@ TEST_F(Zeit, DeleteAsksAndMarksTheTableWhateverTheAnswer) {
   EXPECT_EQ(projekt.Uhr_relais(0, 1), 0);
   EXPECT_EQ(f.Schaltzeit_txt[0].text(), "");
   EXPECT_EQ(Markiert(), 1);
-  f.Paste.druecken();  // nothing was copied: an empty row
-  EXPECT_EQ(f.Funktion[0].titel, "");
 }
 
 TEST_F(Zeit, SortOrdersByTheTextOfTheTime) {
@@ -286,9 +279,6 @@ TEST_F(Zeit, ClockPageTakesGoodTimesAndRefusesOthers) {
     EXPECT_EQ(f.fokus(), &f.Akt_zeit);
   }
   EXPECT_EQ(d.pieptoene(), 7);
-  f.Akt_zeit.ausfuellen("");
-  f.Command2.druecken();
-  EXPECT_EQ(f.Akt_zeit.text().size(), 8U);
 }
 
 TEST_F(Zeit, ChangeOverDatesAreComputedOrTypedByHand) {
