@@ -111,6 +111,9 @@ TEST_F(Zav, WrongUseIsTwoWithAGermanReason) {
       {{"--heute", "29.02.2025", "uhr"}, "--heute: \"29.02.2025\" ist kein Datum der Form TT.MM.JJJJ"},
       {{"--zufall", "-1", "abbild", "a"}, "--zufall: \"-1\" ist keine Zahl von 0 bis 2147483647"},
       {{"umwandeln", "a", "b", "--als", "710"}, "--als: möglich sind 910, 900 und 800"},
+      {{"suche", "a", "O64-0"}, "AUSGANG: \"O64-0\" ist kein Ausgang wie O3-5, D1-2 oder T4"},
+      {{"ereignis", "256", "0", "kurz"}, "ADRESSE: möglich sind 0 bis 255"},
+      {{"ereignis", "1", "0", "lang"}, "AKTION: möglich sind druecken, loesen und kurz"},
       {{"uhr", "--umstellung", "3"}, "--umstellung: möglich sind 0, 1 und 2"},
   };
   for (const Fall& f : faelle) {
@@ -310,6 +313,39 @@ TEST_F(Zav, ImagesOfOneDayAndSeedAreEqualAndSayWhatIsMarked) {
   EXPECT_EQ(j[6]["von"], "006000");
 }
 
+TEST_F(Zav, ReportsAreLinesOrLists) {
+  Projekt p;
+  p.Datei_version = "910";
+  p.Komb_typ[0] = 1;
+  p.Komb_text[0] = "Erdgeschoss";
+  p.Komb_text2[0] = "Küche";
+  p.App_typ[0] = 14;
+  p.App_text[0] = "12";
+  p.App_text2[0] = "1";
+  p.Dev_text[2] = "Decke";
+  p.Relais_text[29] = "Küche Decke";
+  p.Ein_relais(4 * 12 + 2, 29) = 4;
+  p.Ein_leer[4 * 12 + 2] = 1;
+  schreiben("haus.zav", Projekt_schreiben(p));
+
+  const std::string treffer = "i12 - Erdgeschoss - Küche: Decke";
+  EXPECT_EQ(zav({"suche", pfad("haus"), "O3-5"}).aus, treffer + "\n");
+  EXPECT_EQ(nlohmann::json::parse(zav({"suche", pfad("haus"), "O3-5", "--json"}).aus), nlohmann::json::array({treffer}));
+  const Ergebnis nichts = zav({"suche", pfad("haus"), "T4", "--json"});
+  EXPECT_EQ(nichts.status, 0);
+  EXPECT_EQ(nichts.aus, "[]\n");
+  const std::string referenz = zav({"touchpanel", pfad("haus")}).aus;
+  EXPECT_NE(referenz.find("\nErdgeschoss - Küche\n   Decke ---> GR  C\n"), std::string::npos) << referenz;
+  EXPECT_EQ(zav({"suche", pfad("gibtsnicht"), "O3-5"}).status, 1);
+
+  const auto tag = nlohmann::json::parse(zav({"--heute", "29.03.2026", "sonne", "--json"}).aus);
+  EXPECT_EQ(tag["zeit"], "Sommerzeit");
+  EXPECT_EQ(tag["auf_winterzeit"], "25.10.2026");
+  EXPECT_NE(zav({"--heute", "28.03.2026", "sonne"}).aus.find("Winterzeit\n"), std::string::npos);
+  EXPECT_EQ(nlohmann::json::parse(zav({"--heute", "01.05.2028", "sonne", "--liste", "--json"}).aus).size(), 366U);
+  EXPECT_TRUE(zav({"--heute", "01.05.2028", "sonne", "--liste"}).aus.starts_with("Sonnenauf- und -untergang\nJanuar 2028\n"));
+}
+
 // ---- the master -------------------------------------------------------------------------------------------------------
 
 TEST_F(Zav_mit_master, SendsOverTcpAndOverASerialLine) {
@@ -404,6 +440,21 @@ TEST_F(Zav_mit_master, AsksVersionRestartsAndSetsTheClock) {
   EXPECT_EQ(einstellungen.Richt_modus, 1) << "a later transfer must not take the dates back";
   EXPECT_EQ(einstellungen.Sowi_datum[19], "28.10.2035");
   EXPECT_EQ(einstellungen.Com_art, 0) << "the interface of one call is not stored";
+}
+
+TEST_F(Zav_mit_master, PressesKeys) {
+  for (const char* aktion : {"druecken", "loesen", "kurz"}) {
+    EXPECT_EQ(zav({"--tcp", tcp(), "ereignis", "12", "5", aktion}).status, 0);
+  }
+  using simulator::Tastenaktion;
+  const auto e = master.ereignisse();
+  ASSERT_EQ(e.size(), 3U);
+  EXPECT_EQ(e[0], (simulator::Ereignis{13, 2, Tastenaktion::druecken})) << "offset 5 is key 2 of the second address";
+  EXPECT_EQ(e[1].aktion, Tastenaktion::loesen);
+  EXPECT_EQ(e[2].aktion, Tastenaktion::kurz);
+  EXPECT_EQ(zav({"--tcp", tcp(), "ereignis", "255", "4", "kurz"}).status, 1) << "beyond the last address";
+  master.fehler_setzen({"F12@Y"});
+  EXPECT_EQ(zav({"--tcp", tcp(), "ereignis", "12", "0", "kurz"}).status, 1);
 }
 
 TEST_F(Zav, TheEmbeddedMasterLeavesTheSettingsAlone) {

@@ -46,5 +46,9 @@ Ausfuehrung Befehl_senden(CLI::App& app);
 Ausfuehrung Befehl_master(CLI::App& app);
 Ausfuehrung Befehl_neustart(CLI::App& app);
 Ausfuehrung Befehl_uhr(CLI::App& app);
+Ausfuehrung Befehl_ereignis(CLI::App& app);
+Ausfuehrung Befehl_suche(CLI::App& app);
+Ausfuehrung Befehl_touchpanel(CLI::App& app);
+Ausfuehrung Befehl_sonne(CLI::App& app);
 
 }  // namespace zav

@@ -35,6 +35,12 @@ constexpr std::array befehle{
     Befehl{"neustart", "Startet den ZAVmaster neu", "zav --ja neustart", Befehl_neustart},
     Befehl{"uhr", "Stellt die Uhr des ZAVmasters und die Daten der Zeitumstellung", "zav --nein uhr --umstellung 1",
            Befehl_uhr},
+    Befehl{"ereignis", "Drückt, löst oder tippt eine Taste, als täte es jemand im Haus", "zav --com 1 ereignis 12 0 kurz",
+           Befehl_ereignis},
+    Befehl{"suche", "Listet alle Ereignisse, die auf einen Ausgang oder Timer wirken", "zav suche haus O3-5", Befehl_suche},
+    Befehl{"touchpanel", "Zeigt die Adressen-Referenz für Touchpanels", "zav touchpanel haus", Befehl_touchpanel},
+    Befehl{"sonne", "Zeigt Sonnenzeiten und Zeitumstellung eines Tages oder Jahres", "zav --heute 21.06.2026 sonne",
+           Befehl_sonne},
 };
 
 // What stands before, behind or between the command's own arguments.
@@ -43,20 +49,20 @@ struct Optionen {
   bool simulator = false, ja = false, nein = false, json = false, leise = false;
 };
 
-struct Ziel {
+struct Gegenstelle {
   std::string host;
   i32 port = 0;
 };
 
 // HOST:PORT; the host may be an IPv6 address in brackets.
-std::optional<Ziel> Ziel_lesen(const std::string& text) {
+std::optional<Gegenstelle> Gegenstelle_lesen(const std::string& text) {
   const auto punkt = text.rfind(':');
   if (punkt == std::string::npos || punkt == 0) return std::nullopt;
   const auto port = Zahl_lesen(std::string_view(text).substr(punkt + 1), 1, 65535);
   std::string host = text.substr(0, punkt);
   if (host.starts_with('[') && host.ends_with(']')) host = host.substr(1, host.size() - 2);
   if (!port || host.empty()) return std::nullopt;
-  return Ziel{host, *port};
+  return Gegenstelle{host, *port};
 }
 
 std::optional<i16> Comnummer_lesen(const std::string& text) {
@@ -66,7 +72,7 @@ std::optional<i16> Comnummer_lesen(const std::string& text) {
 
 // The checks of option values: "" when good, else the whole message.
 std::string Pruefe_tcp(const std::string& t) {
-  return Ziel_lesen(t) ? "" : "\"" + t + "\" ist kein HOST:PORT (Port 1 bis 65535)";
+  return Gegenstelle_lesen(t) ? "" : "\"" + t + "\" ist kein HOST:PORT (Port 1 bis 65535)";
 }
 std::string Pruefe_com(const std::string& t) {
   const bool ziffern = !t.empty() && t.find_first_not_of("0123456789") == std::string::npos;
@@ -112,7 +118,7 @@ void Schnittstelle_waehlen(const Optionen& o) {
     const auto nummer = Comnummer_lesen(o.com);
     if (nummer) einstellungen.Com_port = *nummer;
     einstellungen.Com_geraet = nummer ? "" : o.com;
-  } else if (const auto ziel = Ziel_lesen(o.tcp)) {
+  } else if (const auto ziel = Gegenstelle_lesen(o.tcp)) {
     einstellungen.Com_art = 1;
     einstellungen.Host_name = einstellungen.Host_ip = ziel->host;
     einstellungen.Host_port = ziel->port;

@@ -1,10 +1,12 @@
-// senden, master, neustart, uhr: what the transfer and the clock pages of the window do.
+// senden, master, neustart, uhr, ereignis: what the transfer and the clock pages of the window do.
 #include <CLI/CLI.hpp>
 #include <algorithm>
+#include <array>
 #include <memory>
 #include <nlohmann/json.hpp>
 #include <ostream>
 #include <string>
+#include <string_view>
 
 #include "basis/text.h"
 #include "basis/zahl.h"
@@ -164,6 +166,54 @@ Ausfuehrung Befehl_uhr(CLI::App& app) {
     const std::string mangel = Einstellungen_schreiben();
     if (!mangel.empty()) lauf.konsole.Fehler(mangel);
     return true;
+  };
+}
+
+namespace {
+
+// What a key can do, with the number of the action on the line.
+struct Tastenaktion {
+  std::string_view name;
+  int nummer;
+};
+constexpr std::array tastenaktionen{Tastenaktion{"loesen", 0}, Tastenaktion{"druecken", 1}, Tastenaktion{"kurz", 2}};
+
+constexpr int erste_geraetenummer = 1024;  // of an input module on the bus; two for each address
+constexpr int groesster_versatz = 23;      // of a device with six addresses
+
+// An argument that is a whole number of that range.
+void Zahlargument(CLI::App& app, const char* name, std::string& ziel, const char* hilfe, int bis) {
+  app.add_option(name, ziel, hilfe)->required()->each([bis](const std::string& t) {
+    if (!Zahl_lesen(t, 0, bis)) {
+      throw CLI::ValidationError("möglich sind 0 bis " + std::to_string(bis), CLI::ExitCodes::ValidationError);
+    }
+  });
+}
+
+}  // namespace
+
+Ausfuehrung Befehl_ereignis(CLI::App& app) {
+  struct Argumente {
+    std::string adresse, taste, aktion;
+  };
+  const auto a = std::make_shared<Argumente>();
+  Zahlargument(app, "ADRESSE", a->adresse, "erste Adresse des Apparats, 0 bis 255", adressen - 1);
+  Zahlargument(app, "TASTE", a->taste, "Taste des Apparats, von 0 an gezählt", groesster_versatz);
+  const auto aktion_von = [](const std::string& t) { return std::ranges::find(tastenaktionen, t, &Tastenaktion::name); };
+  app.add_option("AKTION", a->aktion, "druecken, loesen oder kurz")->required()->each([aktion_von](const std::string& t) {
+    if (aktion_von(t) == tastenaktionen.end()) {
+      throw CLI::ValidationError("möglich sind druecken, loesen und kurz", CLI::ExitCodes::ValidationError);
+    }
+  });
+  return [a, aktion_von](Lauf& lauf) {
+    const int taste = *Zahl_lesen(a->taste);
+    const int adresse = *Zahl_lesen(a->adresse) + taste / 4;
+    if (adresse >= adressen) {
+      lauf.konsole.Fehler("Adresse " + std::to_string(adresse) + " dieser Taste gibt es nicht, die höchste ist 255.");
+      return false;
+    }
+    Ereignis_erzeugen(Hex4(2 * adresse + erste_geraetenummer), Hex2(aktion_von(a->aktion)->nummer), Hex2(taste % 4 + 1));
+    return leitung.Port_fehler == 0 && Antwort_ist_gut();
   };
 }
 
