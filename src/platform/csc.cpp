@@ -32,7 +32,7 @@ namespace {
 using Uhr = std::chrono::steady_clock;
 using std::chrono::milliseconds;
 
-constexpr double verbindungszeit_s = 10.0;
+constexpr double auskunftszeit_s = 10.0;
 constexpr milliseconds runde{50};  // between two turns of the front end
 
 std::map<int, std::unique_ptr<Bytestrom>> offen;
@@ -43,7 +43,7 @@ Bytestrom* Finden(int socket) {
   return i == offen.end() ? nullptr : i->second.get();
 }
 
-Uhr::time_point Fristende() { return Uhr::now() + milliseconds(Echte_millisekunden(verbindungszeit_s)); }
+Uhr::time_point Fristende(double sekunden) { return Uhr::now() + milliseconds(Echte_millisekunden(sekunden)); }
 
 struct Adresse {
   sockaddr_storage wert{};
@@ -161,12 +161,12 @@ int cscAttach() { return 0; }
 
 void cscRelease() { offen.clear(); }
 
-int cscClient(const std::string& host, int port) {
+int cscClient(const std::string& host, int port, double sekunden) {
   if (port < 0 || port > 65535) {
     ursache = "Der TCP-Port " + std::to_string(port) + " liegt nicht im Bereich von 0 bis 65535.";
     return -EINVAL;
   }
-  const auto ende = Fristende();
+  const auto ende = Fristende(sekunden);
   std::vector<Adresse> adressen;
   if (std::uint32_t adresse = 0; Gepunktet_lesen(host, adresse)) {
     adressen.push_back(Ipv4(adresse, port));
@@ -218,7 +218,7 @@ int cscReadSize(int socket) {
 }
 
 std::uint32_t cscResolve(const std::string& name) {
-  const Auskunft auskunft = Namen_aufloesen(name, AF_INET, 0, Fristende());
+  const Auskunft auskunft = Namen_aufloesen(name, AF_INET, 0, Fristende(auskunftszeit_s));
   if (auskunft.adressen.empty()) return 0;
   return ntohl(reinterpret_cast<const sockaddr_in*>(&auskunft.adressen.front().wert)->sin_addr.s_addr);
 }

@@ -13,8 +13,9 @@ int cscAttach();
 void cscRelease();
 
 // Connects to a host (a dotted address, whose numbers are decimal even with leading zeros, or a name). Gives
-// up after ten seconds; the front end gets its turns meanwhile. The handle, or negative on failure.
-int cscClient(const std::string& host, int port);
+// up after that many seconds of Timer(); the front end gets its turns meanwhile. The handle, or negative on
+// failure.
+int cscClient(const std::string& host, int port, double sekunden = 10);
 void cscClose(int socket);
 // Why the last cscClient failed, as a German sentence; "" after a good one.
 const std::string& cscUrsache();

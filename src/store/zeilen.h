@@ -5,11 +5,10 @@
 
 #include "store/archiv.h"
 #include "store/projekt.h"
+#include "store/projektdatei.h"
 
 namespace zav {
 
-// Line 1 of every file, whatever its generation.
-inline constexpr const char* programm_version = "ZAVlink-Version 9.102";
 // Line 3 of every file since generation 800: the dimmer parameters need no correction.
 inline constexpr const char* marke_neu = "ETB";
 

@@ -1,0 +1,331 @@
+// Replacing the firmware: over a real pseudo-terminal to the simulated bootloader, and over a real device server.
+#include <fcntl.h>
+#include <gtest/gtest.h>
+#include <signal.h>
+#include <stdlib.h>
+#include <sys/wait.h>
+#include <termios.h>
+#include <unistd.h>
+
+#include <chrono>
+#include <memory>
+#include <numeric>
+#include <optional>
+#include <thread>
+
+#include "form/drehbuch.h"
+#include "hilfen.h"
+#include "link/leitung.h"
+#include "platform/csc.h"
+#include "platform/einstellungen.h"
+#include "platform/nsio.h"
+#include "platform/uhrwerk.h"
+#include "service/bootloader.h"
+#include "service/srecord.h"
+#include "simulator/simulator.h"
+
+namespace zav {
+namespace {
+
+// S1 records of 16 bytes each, and the closing one.
+std::string Firmwaredatei(int saetze) {
+  const auto satz = [](char typ, const std::vector<int>& bytes) {
+    std::string text = {'S', typ};
+    int summe = static_cast<int>(bytes.size()) + 1;
+    const auto hex = [&text](int b) {
+      char ziffern[3];
+      std::snprintf(ziffern, sizeof ziffern, "%02X", b & 0xFF);
+      text += ziffern;
+    };
+    hex(summe);
+    for (const int b : bytes) {
+      summe += b;
+      hex(b);
+    }
+    hex(~summe);
+    return text + "\r\n";
+  };
+  std::string text = satz('0', {0, 0, 'Z', 'A', 'V'});
+  for (int n = 0; n < saetze; ++n) {
+    std::vector<int> bytes{n / 16 % 256, n * 16 % 256};
+    for (int i = 0; i < 16; ++i) bytes.push_back((n + i) % 256);
+    text += satz('1', bytes);
+  }
+  return text + satz('9', {0, 0});
+}
+
+TEST(Srecord, NamesTheFirstFault) {
+  const std::string gut = Firmwaredatei(2);
+  EXPECT_EQ(Srecord_mangel(gut), "");
+  EXPECT_EQ(Srecord_mangel("S1030000FC\nS9030000FC"), "") << "other line ends, none at the end";
+  EXPECT_EQ(Srecord_mangel("S205000000AA50\rS804000000FB\r"), "");
+  struct Fall {
+    std::string datei, mangel;
+  };
+  for (const auto& [datei, mangel] : {
+           Fall{"", "Die Datei enthält keine Daten."},
+           Fall{"S9030000FC\r\n", "Die Datei enthält keine Daten."},
+           Fall{gut.substr(0, gut.size() - 12), "Der Schluss-Record fehlt, die Datei ist vielleicht abgeschnitten."},
+           Fall{gut.substr(0, gut.size() - 15), "Zeile 3 hat eine halbe Stelle."},
+           Fall{"S1030000FD\r\n", "Zeile 1 hat eine falsche Prüfsumme."},
+           Fall{"S1040000FB\r\n", "Zeile 1 hat eine falsche Länge."},
+           Fall{"S1030000FC\r\n\r\nS103000ZFC\r\n", "Zeile 3 enthält ein ungültiges Zeichen."},
+           Fall{"\x7f" "ELF\x01\x02", "Zeile 1 ist kein S-Record."},
+           Fall{"S4030000FC\r\n", "Zeile 1 ist kein S-Record."},
+           Fall{gut + "S1030000FC\r\n", "Zeile 5 steht hinter dem Schluss-Record."},
+       }) {
+    EXPECT_EQ(Srecord_mangel(datei), mangel);
+  }
+}
+
+// A line whose other end the test holds itself, raw from the start.
+struct Pty {
+  Pty() {
+    grantpt(master);
+    unlockpt(master);
+    name = ptsname(master);
+    geraet = open(name.c_str(), O_RDWR | O_NOCTTY | O_CLOEXEC);
+    termios t{};
+    tcgetattr(geraet, &t);
+    cfmakeraw(&t);
+    tcsetattr(geraet, TCSANOW, &t);
+  }
+  ~Pty() {
+    close(geraet);
+    close(master);
+  }
+  Pty(const Pty&) = delete;
+  Pty& operator=(const Pty&) = delete;
+
+  int master = posix_openpt(O_RDWR | O_NOCTTY | O_CLOEXEC);
+  int geraet = -1;
+  std::string name;
+};
+
+const Meldung neustartmeldung{.text = "ZAVmaster jetzt neu starten\r\n"};
+
+class Update : public ::testing::Test {
+ protected:
+  Update() {
+    leitung = {};
+    einstellungen = {};
+    Zeitraffer_setzen(30);
+  }
+  ~Update() override {
+    EXPECT_EQ(d.maengel(), "");
+    Zeitraffer_setzen(1);
+  }
+  // A master in its bootloader, on a pseudo-terminal that COM stands for.
+  void Master(bool startladen = true) {
+    sim.emplace(simulator::Optionen{.pty = true, .startladen = startladen});
+    sim->start();
+    einstellungen.Com_geraet = sim->pty_name();
+    Com_art_setzen();
+  }
+  std::string Datei(const std::string& inhalt, const std::string& name = "ZAVMAStER_0905.s19") {
+    Datei_anlegen(ordner / name, inhalt);
+    return ordner / name;
+  }
+  static std::string Schritte(const Bootloader& f) {
+    std::string text;
+    for (const Schild& l : f.Label1) text += *l.titel + "|";
+    return text;
+  }
+  void Erwarte_ganzes_update(Bootloader& f, int saetze) {
+    EXPECT_EQ(Schritte(f),
+              "1. Datei auswählen|2. Jetzt bitte ZAVmaster aus-/einschalten|3. Betriebssystem im ZAVmaster wird gelöscht|"
+              "4. ZAVmaster wird vorbereitet zum Update|5. ZAVmaster update läuft...|"
+              "6. Update erfolgreich, ZAVmaster wird neu gestartet|");
+    EXPECT_TRUE(sim->firmware().gueltig);
+    EXPECT_EQ(sim->firmware().falsche, 0U);
+    EXPECT_EQ(sim->firmware().bytes, static_cast<std::size_t>(16 * saetze));
+    EXPECT_EQ(sim->neustarts(), 1);
+    EXPECT_EQ(f.ProgressBar1.wert, 15.0);
+    EXPECT_TRUE(f.Command8.frei);
+    const std::string& log = f.Text1.text();
+    for (const char* zeile : {"Ablauf-Info\r\n---\r\n", "*: Quit Bootloader and start ZAVmaster-1024\r\n", "ZAVmaster auf Empfang setzen\r\n",
+                              "Datenübertragung fertig\r\n"}) {
+      EXPECT_NE(log.find(zeile), std::string::npos) << zeile;
+    }
+    EXPECT_NE(log.find(" records, 0 bad"), std::string::npos) << log;
+  }
+
+  Testordner ordner;
+  Drehbuch d;
+  std::optional<simulator::Simulator> sim;
+};
+
+TEST_F(Update, OverComInSixSteps) {
+  Master();
+  einstellungen.Com_art = 1;  // the running master is reached over the network: the update takes COM all the same
+  Com_art_setzen();
+  Bootloader f;
+  d.erwarte_datei(Dateiwahl{.pfad = Datei(Firmwaredatei(200))});
+  d.erwarte(neustartmeldung);
+  f.Command9.druecken();
+  EXPECT_EQ(d.dateifragen().front().filter.front(), (Dateifilter{"Update ZAVmaster (*.s19)", "*.s19"}));
+  Erwarte_ganzes_update(f, 200);
+  EXPECT_NE(f.Text1.text().find("ascStartTx 0\r\n"), std::string::npos);
+  EXPECT_EQ(leitung.Link_art, Verbindung::tcp);
+}
+
+TEST_F(Update, RefusesANameWarnsOfAContentAndCanBeLeftWhileTheMasterIsSilent) {
+  Master(false);
+  Bootloader f;
+  d.erwarte_datei(std::nullopt);
+  d.erwarte({.text = "Ungültige Update-Datei"});
+  f.Command9.druecken();
+  d.erwarte_datei(Dateiwahl{.pfad = Datei(Firmwaredatei(1), "ZAVMASTER_0905.s19")});
+  d.erwarte({.text = "Ungültige Update-Datei ZAVMASTER_"});
+  f.Command9.druecken();
+
+  const Meldung warnung{.text = "Das ist keine einwandfreie Update-Datei: Zeile 1 ist kein S-Record.\r\n\r\nDas Betriebssystem im "
+                                "ZAVmaster wird trotzdem gelöscht, wenn Sie fortfahren. Fortfahren?",
+                        .titel = "Update-Assistent",
+                        .knoepfe = Knoepfe::Ja_Nein,
+                        .symbol = Symbol::Warnung,
+                        .standard = 2};
+  const std::string pfad = Datei("<html>");
+  d.erwarte_datei(Dateiwahl{.pfad = pfad});
+  d.erwarte(warnung, Antwort::Nein);
+  f.Command9.druecken();
+  EXPECT_TRUE(f.Command9.frei);
+
+  d.erwarte_datei(Dateiwahl{.pfad = pfad});
+  d.erwarte(warnung, Antwort::Ja);
+  d.bei_doevents = [&] {
+    if (f.Command8.frei) f.schliessen_wuenschen();
+  };
+  f.Command9.druecken();
+  EXPECT_FALSE(f.offen());
+  EXPECT_EQ(Schritte(f), "1. Datei auswählen|2. Jetzt bitte ZAVmaster aus-/einschalten|3.|4.|5.|6.|");
+  EXPECT_EQ(sim->mitschrift(), (std::vector<std::string>{})) << "the master was told something";
+}
+
+TEST_F(Update, LineThatBreaksDownWhileWaitingEndsTheRun) {
+  auto pty = std::make_unique<Pty>();
+  einstellungen.Com_geraet = pty->name;
+  Com_art_setzen();
+  Bootloader f;
+  d.erwarte_datei(Dateiwahl{.pfad = Datei(Firmwaredatei(1))});
+  d.erwarte_text("Die Verbindung zum ZAVmaster ist unterbrochen.");
+  d.bei_doevents = [&] {
+    if (f.Command8.frei) pty.reset();
+  };
+  f.Command9.druecken();
+  EXPECT_TRUE(f.offen());
+}
+
+// ---- device server ----------------------------------------------------------------------------------------------------
+
+// A real device server in front of a pseudo-terminal, on a loopback address of this process's own: its TCP port is
+// fixed, and several tests may run at once.
+class Geraeteserver {
+ public:
+  Geraeteserver(const Testordner& ordner, const std::string& geraet) {
+    const int pid = getpid();
+    adresse = "127." + std::to_string(pid / 65536 % 200 + 20) + "." + std::to_string(pid / 256 % 256) + "." +
+              std::to_string(pid % 254 + 1);
+    const std::string datei = ordner / "ser2net.yaml";
+    Datei_anlegen(datei, "%YAML 1.1\n---\nconnection: &zav\n  accepter: telnet(rfc2217),tcp," + adresse +
+                             ",4001\n  connector: serialdev(nouucplock=true)," + geraet +
+                             ",9600n71,local\n");
+    prozess_ = fork();
+    if (prozess_ == 0) {
+      execlp("ser2net", "ser2net", "-n", "-c", datei.c_str(), nullptr);
+      _exit(127);
+    }
+    for (int n = 0; n < 200; ++n) {
+      const int s = cscClient(adresse, 4001);
+      if (s >= 0) {
+        cscClose(s);
+        return;
+      }
+      std::this_thread::sleep_for(std::chrono::milliseconds(20));
+    }
+    ADD_FAILURE() << "ser2net does not listen on " << adresse;
+  }
+  ~Geraeteserver() {
+    kill(prozess_, SIGTERM);
+    waitpid(prozess_, nullptr, 0);
+  }
+  static bool vorhanden() {
+    const std::string pfade = std::string(getenv("PATH")) + ":/usr/sbin";
+    setenv("PATH", pfade.c_str(), 1);
+    return std::system("command -v ser2net >/dev/null 2>&1") == 0;
+  }
+
+  std::string adresse;
+
+ private:
+  pid_t prozess_ = -1;
+};
+
+#define BRAUCHT_SER2NET() \
+  if (!Geraeteserver::vorhanden()) GTEST_SKIP() << "the package ser2net is not installed"
+
+TEST_F(Update, OverADeviceServerInSixSteps) {
+  BRAUCHT_SER2NET();
+  Master();
+  const Geraeteserver server(ordner, sim->pty_name());
+  einstellungen.Host_ip = server.adresse;
+  Bootloader f;
+  const std::string inhalt = Firmwaredatei(200);
+  d.erwarte_datei(Dateiwahl{.pfad = Datei(inhalt)});
+  d.erwarte(neustartmeldung);
+  f.Command10.druecken();
+  Erwarte_ganzes_update(f, 200);
+  EXPECT_NE(f.Text1.text().find(std::to_string(inhalt.size()) + " Zeichen übermittelt\r\n"), std::string::npos);
+}
+
+TEST_F(Update, DeviceServerPassesEveryByteAndTakesTheLineSettings) {
+  BRAUCHT_SER2NET();
+  Pty pty;
+  const Geraeteserver server(ordner, pty.name);
+  nsio_init();
+  const int port = nsio_open(server.adresse, 1, 3000 * 30);
+  ASSERT_GT(port, 0);
+  EXPECT_EQ(nsio_ioctl(port, nsio_baud_115200, nsio_acht_bits), 0);
+  EXPECT_EQ(nsio_flowctrl(port, 0), 0);
+  termios t{};
+  ASSERT_EQ(tcgetattr(pty.geraet, &t), 0);
+  EXPECT_EQ(cfgetospeed(&t), static_cast<speed_t>(B115200));
+  EXPECT_EQ(t.c_cflag & CSIZE, static_cast<tcflag_t>(CS8));
+  EXPECT_EQ(nsio_ioctl(port, 12, nsio_acht_bits), -EINVAL);
+
+  std::string alle(256, '\0');
+  std::iota(alle.begin(), alle.end(), '\0');
+  alle += "\r\xff\xff\r\n";
+  const int n = static_cast<int>(alle.size());
+  EXPECT_EQ(nsio_write(port, alle.data(), n), n);
+  std::string angekommen;
+  while (angekommen.size() < alle.size()) {
+    char c = 0;
+    if (read(pty.master, &c, 1) == 1) angekommen += c;
+  }
+  EXPECT_EQ(angekommen, alle);
+
+  ASSERT_EQ(write(pty.master, alle.data(), alle.size()), n);
+  std::string zurueck;
+  while (zurueck.size() < alle.size() && nsio_warten(port, 5000) > 0) {
+    char puffer[64];
+    zurueck.append(puffer, static_cast<std::size_t>(nsio_read(port, puffer, sizeof puffer)));
+  }
+  EXPECT_EQ(zurueck, alle);
+  EXPECT_EQ(nsio_close(port), 0);
+  EXPECT_EQ(nsio_write(port, "x", 1), -EBADF);
+  nsio_end();
+}
+
+TEST_F(Update, NoDeviceServerIsToldAndNothingStarts) {
+  einstellungen.Host_ip = "127.0.0.1";
+  const std::string pfad = Datei(Firmwaredatei(1));
+  Bootloader f;
+  d.erwarte_datei(Dateiwahl{.pfad = pfad});
+  d.erwarte({.text = "Serial Device Server nicht gefunden, muss im lokalen Netzwerk sein, über DynDNS nicht möglich!"});
+  f.Command10.druecken();
+  EXPECT_EQ(Schritte(f), "1. Datei auswählen|2.|3.|4.|5.|6.|");
+}
+
+}  // namespace
+}  // namespace zav
