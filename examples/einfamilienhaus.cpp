@@ -1,7 +1,5 @@
 // The family Müller's house, as its installer would tell it: room by room, then the clocks, the weather, the radio
 // senders and the app. Writes the project file whose name is given.
-#include <cstdio>
-
 #include "installateur.h"
 
 using namespace zav::beispiel;  // NOLINT: the story reads in the installer's words
@@ -35,13 +33,7 @@ constexpr int neben = 4;
 
 const std::string eg = "Erdgeschoss", og = "1. Obergeschoss", ug = "Untergeschoss", aussen = "Aussen";
 
-}  // namespace
-
-int main(int argc, char** argv) {
-  if (argc != 2) {
-    std::fputs("Aufruf: einfamilienhaus DATEI.zav\n", stderr);
-    return 2;
-  }
+void haus_mueller() {
   neues_projekt("Haus Müller",
                 "Einfamilienhaus Müller, Höhenweg 7\r\nSchaltschrank im Technikraum, Reserve: O7, D7\r\n"
                 "Nachtabsenkung: 22 bis 6 Uhr, am Wochenende bis 7.30 Uhr");
@@ -243,7 +235,7 @@ int main(int argc, char** argv) {
   taste(ir, 0, "Fernsehen", {aus(wohnen_decke), dimmen(wohnen_wand, 15, 6)});
   taste(ir, 1, "Heller", {dimmen(wohnen_wand, 80)});
   taste(ir, 2, "Storen auf", {auf(wohnen_sued), auf(wohnen_west)});
-  taste(ir, 3, "Storen halt", alle({stop(wohnen_sued), stop(wohnen_west)}));
+  taste(ir, 3, "Storen halt", {stop(wohnen_sued), stop(wohnen_west)});
 
   // ---- radio ----------------------------------------------------------------------------------------------------------
   empfaenger(0, "Technikraum");
@@ -374,5 +366,8 @@ int main(int argc, char** argv) {
           .taste = garten_taste,
           .tastentext = "Gartenlicht"});
 
-  return abgeben(argv[1]) ? 0 : 1;
 }
+
+}  // namespace
+
+int main(int argc, char** argv) { return erzaehlen(argc, argv, haus_mueller); }

@@ -1,7 +1,10 @@
-// What an installer does, as verbs: put up a room, mount a device, program a key, set a switching time. A house is
-// a story told with them. Each verb does the work of one window of the tool, on the project in the store.
+// What an installer does, as verbs: put up a room, mount a device, program a key, set a switching time. A
+// house is a story told with them. Each verb works in the windows of the tool as a person does: it opens
+// them, chooses from their lists, types into their fields and presses their buttons. What a window refuses
+// ends the story.
 #pragma once
 
+#include <functional>
 #include <initializer_list>
 #include <string>
 #include <vector>
@@ -12,7 +15,8 @@ namespace zav::beispiel {
 
 using Text = const std::string&;
 
-// ---- outputs: taken in the order in which they are named -----------------------------------------------------------
+// ---- outputs: taken in the order in which they are named; a name is typed where the output gets its first
+// function --
 
 struct Licht {
   int ausgang;  // relay output
@@ -30,18 +34,17 @@ struct Treppenlicht {
 Licht licht(Text name);          // the next output of a ZAVswitch
 Dimmlicht dimmlicht(Text name);  // the next output of a ZAVdimmer
 Store storen(Text name);         // the next pair of a ZAVmotor
-Licht virtuell(Text name);       // an output that nobody wires: a state that keys and weather functions look at
+Licht virtuell(Text name);  // an output that nobody wires: a state that keys and weather functions look at
 
-// ---- functions: what an event does ---------------------------------------------------------------------------------
+// ---- functions: what an event does
+// ---------------------------------------------------------------------------
 
 struct Wirkung {
   enum class Ziel { relais, dimmer, timer } ziel;
   int nummer;
-  int code = 0;                // relays and timers
-  int hell = 0, tempo = 0;     // dimmers: 0 no change, 1 off, 2 to 100 percent
-  bool auf_ab = false;         // dimmers: a long press dims up and down
-  bool um = false;             // dimmers: every press toggles between the scene and off
-  bool speicher = false;       // dimmers: a short press brings the last brightness
+  int code = 0;             // relays and timers
+  int hell = 0, tempo = 0;  // dimmers: 0 no change, 1 off, 2 to 100 percent
+  bool bedienen = false;    // dimmers: toggle with memory on a short press, up and down on a long one
 };
 using Wirkungen = std::vector<Wirkung>;
 
@@ -52,7 +55,7 @@ Wirkung um(Licht l);
 Wirkung thermo(Licht ventil);  // only for keys
 Wirkung auf(Store s);
 Wirkung ab(Store s);
-Wirkungen stop(Store s);
+Wirkung stop(Store s);
 Wirkung starte(Treppenlicht t);
 Wirkung stoppe(Treppenlicht t);
 Wirkung dimmen(Dimmlicht d, int prozent, int tempo = 4);
@@ -65,17 +68,19 @@ Wirkung entsperrt(Wirkung w);
 // Several after one another.
 Wirkungen alle(std::initializer_list<Wirkungen> teile);
 
-// ---- the building -------------------------------------------------------------------------------------------------
+// ---- the building ---------------------------------------------------------------------------
 
 struct Raum {
   int kombination;
 };
 struct Apparat {
-  int stelle;   // 16 x Kombination + place
-  int adresse;  // first address, -1 none
+  Raum raum;
+  int platz;
+  int art;
 };
 struct Taste {
-  int ereignis;
+  Apparat apparat;
+  int versatz;  // of its event
 };
 
 // Frames by their layout number.
@@ -93,12 +98,12 @@ void heizung(Apparat thermostat, Licht ventil, Licht absenkung);
 // A blind on two keys, up and down, with the stop that a running blind understands.
 void storentasten(Apparat a, int slot_auf, int slot_ab, Text name, Store s);
 
-// ---- radio ---------------------------------------------------------------------------------------------------------
+// ---- radio ---------------------------------------------------------------------------
 
 void empfaenger(int nummer, Text ort);
 void funksender(Apparat a, Text id, Text schluessel, int empfaenger);
 
-// ---- time ----------------------------------------------------------------------------------------------------------
+// ---- time ---------------------------------------------------------------------------
 
 enum Tag { Montag, Dienstag, Mittwoch, Donnerstag, Freitag, Samstag, Sonntag, taeglich };
 inline constexpr std::initializer_list<Tag> werktags{Montag, Dienstag, Mittwoch, Donnerstag, Freitag};
@@ -122,7 +127,8 @@ Zeitregel bei_sonnenaufgang();
 Zeitregel bei_sonnenuntergang();
 
 // The next free row of each of those days; clock 1 or 2.
-void schaltzeit(int uhr, std::initializer_list<Tag> tage, Text name, const Zeitregel& regel, const Wirkungen& w);
+void schaltzeit(int uhr, std::initializer_list<Tag> tage, Text name, const Zeitregel& regel,
+                const Wirkungen& w);
 // From that day on that clock, every year.
 void sequenz(Text ab_datum, int uhr);
 
@@ -131,7 +137,7 @@ Treppenlicht treppenlicht(Text name, const Wirkungen& start, Text zeit, const Wi
 Treppenlicht treppenlicht(Text name, const Wirkungen& start, Text zeit1, const Wirkungen& mitte, Text zeit2,
                           const Wirkungen& ende);
 
-// ---- weather -------------------------------------------------------------------------------------------------------
+// ---- weather ---------------------------------------------------------------------------
 
 // One condition of a weather function: a reading of the station, less or greater than a threshold.
 struct Bedingung {
@@ -151,15 +157,15 @@ Bedingung regen();
 struct Wetterfunktion {
   std::string name;
   std::vector<Bedingung> bedingungen;
-  bool alle_noetig;           // all conditions, else one
-  Licht freigabe;             // works while this output is on
+  bool alle_noetig;  // all conditions, else one
+  Licht freigabe;    // works while this output is on
   std::string warten, warten_danach;
   Wirkungen erfuellt, nicht_erfuellt;
 };
 // The next function of the weather station.
 void wetterfunktion(Apparat station, const Wetterfunktion& f);
 
-// ---- the rest ------------------------------------------------------------------------------------------------------
+// ---- the rest ---------------------------------------------------------------------------
 
 enum class Geraet { telefon = 1, tablet = 2, beide = 3 };
 // Shows the key in the phone app; with a question when it must not be pressed by accident.
@@ -177,9 +183,13 @@ void kamera(const Kamera& k);
 void wie_vorher_nach_neustart(std::initializer_list<Licht> lichter);
 void abschnitt(std::initializer_list<Dimmlicht> lampen);  // trailing edge, for electronic transformers
 
-// An empty project of the present generation, with the owner's notes. Always the same identification.
+// An empty project of the present generation, with the owner's notes. Always the same identification and
+// date.
 void neues_projekt(Text titel, Text notizen);
-// Writes the file; everything is marked as not yet sent. False, with a line on standard error, when that fails.
-bool abgeben(Text datei);
+
+// A program that tells the story and writes the project file that its only argument names. Gives its exit
+// status: 1, with the reason on standard error, where a window refused something or the file cannot be
+// written.
+int erzaehlen(int argc, char** argv, const std::function<void()>& geschichte);
 
 }  // namespace zav::beispiel
