@@ -1,0 +1,26 @@
+// The forms' colours and the program's own look as Qt sees them.
+#pragma once
+
+#include <QColor>
+#include <QPalette>
+#include <QWidget>
+
+#include "form/farbe.h"
+
+namespace zav::fenster {
+
+QColor Farbe_qt(Farbe f);
+// Text on any colour of meaning: dark, in a dark theme too.
+QColor Farbe_schrift();
+
+// Background of a widget by the form's colour; Farbe::normal gives the widget its own look back.
+void Einfaerben(QWidget& w, Farbe f);
+
+// Measures of the grid, in device-independent pixels.
+inline constexpr int raster = 8;
+inline constexpr int gruppenabstand = 16;
+
+// Fonts, focus frame and spacing of the whole program. Follows the desktop's light or dark palette.
+void Aussehen_setzen();
+
+}  // namespace zav::fenster

@@ -1,0 +1,38 @@
+// The window of a form.
+#pragma once
+
+#include <QDialog>
+
+#include "zavlink/renderer.h"
+
+namespace zav::fenster {
+
+class Formfenster final : public QDialog {
+  Q_OBJECT
+ public:
+  Formfenster(Formular& f, QWidget* eltern);
+  ~Formfenster() override;
+
+  // Shows the window and returns when the form has closed.
+  void laufen();
+  const Gebautes& gebautes() const { return gebautes_; }
+  // Brings every widget to the state of its control now.
+  void nachholen() { auffrischer_->nachholen(); }
+
+ protected:
+  void closeEvent(QCloseEvent* e) override;
+  void reject() override;
+
+ private:
+  void nachfuehren();
+
+  Formular& form_;
+  Auffrischer* auffrischer_;
+  Gebautes gebautes_;
+  Steuerelement* fokus_ = nullptr;
+};
+
+// Opens the manual at the place of a form; hung in by the program.
+extern std::function<void(const std::string& form)> handbuch_oeffnen;
+
+}  // namespace zav::fenster
