@@ -1,8 +1,7 @@
 #include "zavlink/baum.h"
 
-#include <QHeaderView>
 #include <QSignalBlocker>
-#include <QVBoxLayout>
+#include <algorithm>
 
 #include "zavlink/bindung.h"
 #include "zavlink/farben.h"
@@ -11,58 +10,59 @@
 
 namespace zav::fenster {
 
-Baumfeld::Baumfeld(Baum& baum, QWidget* eltern)
-    : QWidget(eltern), baum_(baum), suche_(new QLineEdit(this)), zweige_(new QTreeWidget(this)) {
-  suche_->setPlaceholderText("Suchen...");
-  suche_->setClearButtonEnabled(true);
-  suche_->setAccessibleName("Im Baum suchen");
-  zweige_->setHeaderHidden(true);
-  zweige_->setUniformRowHeights(true);
-  zweige_->setMinimumWidth(26 * raster);
-  auto* const spalte = new QVBoxLayout(this);
-  spalte->setContentsMargins(0, 0, 0, 0);
-  spalte->setSpacing(raster);
-  spalte->addWidget(suche_);
-  spalte->addWidget(zweige_, 1);
-  setFocusProxy(zweige_);
-  connect(suche_, &QLineEdit::textChanged, this, &Baumfeld::filtern);
-  connect(zweige_, &QTreeWidget::currentItemChanged, this, [this](QTreeWidgetItem* zweig) {
+Baumfeld::Baumfeld(Baum& baum, QWidget* eltern) : QTreeWidget(eltern), baum_(baum) {
+  setHeaderHidden(true);
+  setUniformRowHeights(true);
+  setIndentation(2 * raster);
+  setMinimumWidth(24 * raster);
+  connect(this, &QTreeWidget::currentItemChanged, this, [this](QTreeWidgetItem* zweig) {
     if (zweig == nullptr) return;
     const std::string schluessel = S(zweig->data(0, Qt::UserRole).toString());
-    Handeln([&] { baum_.waehlen(schluessel); });
+    Handeln(baum_, [&] { baum_.waehlen(schluessel); });
   });
 }
 
-void Baumfeld::auffrischen() {
-  const QSignalBlocker stumm(zweige_);
-  const auto& knoten = baum_.knoten();
-  std::vector<QTreeWidgetItem*> zweige;
-  QTreeWidgetItem* gewaehlt = nullptr;
-  zweige_->clear();
-  for (const Baum::Knoten& k : knoten) {
-    auto* const zweig = k.eltern < 0 ? new QTreeWidgetItem(zweige_)
-                                     : new QTreeWidgetItem(zweige.at(static_cast<std::size_t>(k.eltern)));
-    zweig->setText(0, Q(k.text));
-    zweig->setData(0, Qt::UserRole, Q(k.schluessel));
-    if (!k.bild.empty()) zweig->setIcon(0, Symbolbild(k.bild));
-    if (k.schluessel == baum_.gewaehlt()) gewaehlt = zweig;
-    zweige.push_back(zweig);
-  }
-  for (std::size_t i = 0; i < knoten.size(); ++i) zweige[i]->setExpanded(knoten[i].offen || knoten[i].eltern < 0);
-  filtern(suche_->text());
-  if (gewaehlt != nullptr) zweige_->setCurrentItem(gewaehlt);
+QSize Baumfeld::sizeHint() const { return {30 * raster, 40 * raster}; }
+
+bool Baumfeld::gleiche_knoten() const {
+  return std::ranges::equal(gezeigt_, baum_.knoten(), [](const Baum::Knoten& a, const Baum::Knoten& b) {
+    return a.schluessel == b.schluessel && a.text == b.text && a.eltern == b.eltern && a.bild == b.bild;
+  });
 }
 
-void Baumfeld::filtern(const QString& text) {
-  // A branch shows when it or anything below it matches; below a match everything shows.
-  const std::function<bool(QTreeWidgetItem*, bool)> zeigen = [&](QTreeWidgetItem* zweig, bool oben) {
-    const bool selbst = oben || zweig->text(0).contains(text, Qt::CaseInsensitive);
-    bool sichtbar = selbst;
-    for (int i = 0; i < zweig->childCount(); ++i) sichtbar = zeigen(zweig->child(i), selbst) || sichtbar;
-    zweig->setHidden(!sichtbar);
-    return sichtbar;
-  };
-  for (int i = 0; i < zweige_->topLevelItemCount(); ++i) zeigen(zweige_->topLevelItem(i), text.isEmpty());
+void Baumfeld::neu_fuellen() {
+  gezeigt_ = baum_.knoten();
+  zweige_.clear();
+  clear();
+  std::vector<int> blaetter(gezeigt_.size(), 0);  // leaves so far below each node: they stand before its branches
+  std::vector<bool> hat_kinder(gezeigt_.size(), false);
+  for (const Baum::Knoten& k : gezeigt_) {
+    if (k.eltern >= 0) hat_kinder.at(static_cast<std::size_t>(k.eltern)) = true;
+  }
+  for (const Baum::Knoten& k : gezeigt_) {
+    auto* const zweig = new QTreeWidgetItem;
+    if (k.eltern < 0) {
+      addTopLevelItem(zweig);
+    } else {
+      const auto eltern = static_cast<std::size_t>(k.eltern);
+      QTreeWidgetItem* const ast = zweige_.at(eltern);
+      if (hat_kinder.at(zweige_.size())) ast->addChild(zweig);
+      else ast->insertChild(blaetter.at(eltern)++, zweig);
+    }
+    zweig->setText(0, Q(k.text));
+    zweig->setToolTip(0, Q(k.text));
+    zweig->setData(0, Qt::UserRole, Q(k.schluessel));
+    if (!k.bild.empty()) zweig->setIcon(0, Symbolbild(k.bild));
+    zweige_.push_back(zweig);
+  }
+  for (std::size_t i = 0; i < gezeigt_.size(); ++i) zweige_[i]->setExpanded(gezeigt_[i].offen || gezeigt_[i].eltern < 0);
+}
+
+void Baumfeld::auffrischen() {
+  const QSignalBlocker stumm(this);
+  if (!gleiche_knoten()) neu_fuellen();
+  const int i = baum_.finden(baum_.gewaehlt());
+  setCurrentItem(i < 0 ? nullptr : zweige_.at(static_cast<std::size_t>(i)));
 }
 
 }  // namespace zav::fenster

@@ -1,25 +1,27 @@
-// The building tree with search-as-you-type over it.
+// The tree of a building.
 #pragma once
 
-#include <QLineEdit>
 #include <QTreeWidget>
+#include <vector>
 
 #include "form/steuerelement.h"
 
 namespace zav::fenster {
 
-class Baumfeld final : public QWidget {
+class Baumfeld final : public QTreeWidget {
   Q_OBJECT
  public:
   Baumfeld(Baum& baum, QWidget* eltern);
   // Brings the widget to the state of the control.
   void auffrischen();
+  QSize sizeHint() const override;
 
  private:
-  void filtern(const QString& text);
+  bool gleiche_knoten() const;
+  void neu_fuellen();
   Baum& baum_;
-  QLineEdit* suche_;
-  QTreeWidget* zweige_;
+  std::vector<Baum::Knoten> gezeigt_;
+  std::vector<QTreeWidgetItem*> zweige_;
 };
 
 }  // namespace zav::fenster

@@ -1,32 +1,28 @@
 #include "zavlink/bindung.h"
 
-#include <QButtonGroup>
 #include <QCalendarWidget>
 #include <QCheckBox>
-#include <QComboBox>
-#include <QGridLayout>
 #include <QLabel>
-#include <QLineEdit>
-#include <QListWidget>
 #include <QMessageBox>
-#include <QPlainTextEdit>
+#include <QMouseEvent>
 #include <QProgressBar>
 #include <QPushButton>
-#include <QRadioButton>
+#include <QRegularExpression>
 #include <QSignalBlocker>
 #include <QSlider>
-#include <QTabBar>
+#include <QTableView>
 #include <QTimer>
 #include <QToolButton>
-#include <QVBoxLayout>
+#include <QWheelEvent>
 #include <cmath>
 #include <exception>
 
 #include "zavlink/baum.h"
 #include "zavlink/farben.h"
-#include "zavlink/kartenfeld.h"
 #include "zavlink/qt_text.h"
 #include "zavlink/symbole.h"
+#include "zavlink/textfelder.h"
+#include "zavlink/wahlfelder.h"
 
 namespace zav::fenster {
 
@@ -37,9 +33,13 @@ Auffrischer::~Auffrischer() {
 }
 
 void Auffrischer::binden(Steuerelement& e, std::function<void()> auffrischen) {
-  auto& eintrag = *eintraege_.emplace_back(std::make_unique<Eintrag>(Eintrag{&e, std::move(auffrischen)}));
-  e.beobachter = [this, &eintrag] { vormerken(eintrag); };
-  eintrag.auffrischen();
+  auto [stelle, neu] = nach_element_.try_emplace(&e);
+  if (neu) {
+    stelle->second = eintraege_.emplace_back(std::make_unique<Eintrag>(Eintrag{&e})).get();
+    e.beobachter = [this, eintrag = stelle->second] { vormerken(*eintrag); };
+  }
+  stelle->second->auffrischen.push_back(std::move(auffrischen));
+  stelle->second->auffrischen.back()();
 }
 
 void Auffrischer::vormerken(Eintrag& e) {
@@ -54,7 +54,7 @@ void Auffrischer::nachholen() {
   for (const auto& e : eintraege_) {
     if (!e->wartet) continue;
     e->wartet = false;
-    e->auffrischen();
+    for (const auto& auffrischen : e->auffrischen) auffrischen();
   }
 }
 
@@ -68,39 +68,47 @@ void Handeln(const std::function<void()>& tat) {
   }
 }
 
-namespace {
+void Handeln(Steuerelement& e, const std::function<void()>& tat) {
+  Handeln(tat);
+  e.geaendert();
+}
 
-// What every widget takes from its control.
 void Gemeinsames(QWidget& w, const Steuerelement& e) {
   w.setEnabled(e.frei);
-  w.setVisible(e.sichtbar);
+  if (w.isVisibleTo(w.parentWidget()) != *e.sichtbar || w.isHidden() == *e.sichtbar) w.setVisible(e.sichtbar);
   w.setToolTip(Q(*e.hinweis));
   w.setObjectName(Q(e.name()));
   const QString titel = Ohne_kuerzel(Q(*e.titel));
-  w.setAccessibleName(titel.isEmpty() ? Q(*e.hinweis) : titel);
+  if (!titel.isEmpty()) {
+    w.setAccessibleName(titel);
+  } else if (w.accessibleName().isEmpty()) {
+    w.setAccessibleName(Q(*e.hinweis));
+  }
 }
+
+namespace {
 
 QWidget* Taste_bauen(Taste& t, Auffrischer& auf, QWidget* eltern) {
   auto* const w = new QPushButton(eltern);
-  w->setAutoDefault(t.standard);
+  w->setAutoDefault(false);
   w->setDefault(t.standard);
   QObject::connect(w, &QPushButton::clicked, w, [&t] { Handeln([&t] { t.druecken(); }); });
-  if (t.wenn_rechts_gedrueckt) {
-    w->setContextMenuPolicy(Qt::CustomContextMenu);
-    QObject::connect(w, &QWidget::customContextMenuRequested, w, [&t] { Handeln([&t] { t.rechts_druecken(); }); });
-  }
   auf.binden(t, [&t, w] {
     Gemeinsames(*w, t);
     w->setText(Q(*t.titel));
     if (!t.bild.empty()) w->setIcon(Symbolbild(t.bild));
     Einfaerben(*w, t.farbe);
   });
+  if (t.bild.starts_with("layout-")) {
+    w->setIconSize(QSize(5 * raster, 5 * raster));
+    w->setProperty("links", true);
+  }
   return w;
 }
 
 QWidget* Kaestchen_bauen(Kaestchen& k, Auffrischer& auf, QWidget* eltern) {
   auto* const w = new QCheckBox(eltern);
-  QObject::connect(w, &QCheckBox::toggled, w, [&k](bool an) { Handeln([&k, an] { k.haken(an); }); });
+  QObject::connect(w, &QCheckBox::toggled, w, [&k](bool an) { Handeln(k, [&k, an] { k.haken(an); }); });
   auf.binden(k, [&k, w] {
     const QSignalBlocker stumm(w);
     Gemeinsames(*w, k);
@@ -111,224 +119,24 @@ QWidget* Kaestchen_bauen(Kaestchen& k, Auffrischer& auf, QWidget* eltern) {
   return w;
 }
 
-QWidget* Klappliste_bauen(Auswahl& a, Auffrischer& auf, QWidget* eltern) {
-  auto* const w = new QComboBox(eltern);
-  w->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-  w->setMinimumContentsLength(8);
-  w->setMaxVisibleItems(20);
-  w->setFocusPolicy(Qt::StrongFocus);
-  QObject::connect(w, &QComboBox::activated, w, [&a](int i) { Handeln([&a, i] { a.waehlen(i); }); });
-  auf.binden(a, [&a, w] {
-    const QSignalBlocker stumm(w);
-    Gemeinsames(*w, a);
-    bool gleich = w->count() == a.anzahl();
-    for (int i = 0; gleich && i < a.anzahl(); ++i) gleich = w->itemText(i) == Q(a.eintrag(i).text);
-    if (!gleich) {
-      QStringList texte;
-      texte.reserve(a.anzahl());
-      for (const auto& e : a.eintraege()) texte << Q(e.text);
-      w->clear();
-      w->addItems(texte);
-    }
-    w->setCurrentIndex(a.position());
-    Einfaerben(*w, a.farbe);
-  });
-  return w;
-}
-
-QWidget* Liste_bauen(Auswahl& a, Auffrischer& auf, QWidget* eltern) {
-  auto* const w = new QListWidget(eltern);
-  w->setUniformItemSizes(true);
-  QObject::connect(w, &QListWidget::currentRowChanged, w, [&a](int i) {
-    if (i >= 0) Handeln([&a, i] { a.waehlen(i); });
-  });
-  auf.binden(a, [&a, w] {
-    const QSignalBlocker stumm(w);
-    Gemeinsames(*w, a);
-    if (w->count() != a.anzahl()) {
-      w->clear();
-      for (int i = 0; i < a.anzahl(); ++i) w->addItem(QString());
-    }
-    for (int i = 0; i < a.anzahl(); ++i) {
-      auto* const zeile = w->item(i);
-      zeile->setText(Q(a.eintrag(i).text));
-      zeile->setToolTip(Q(a.eintrag(i).hinweis));
-    }
-    w->setCurrentRow(a.position());
-  });
-  return w;
-}
-
-QWidget* Optionen_bauen(Auswahl& a, Auffrischer& auf, QWidget* eltern) {
-  auto* const w = new QWidget(eltern);
-  auto* const spalte = new QVBoxLayout(w);
-  spalte->setContentsMargins(0, 0, 0, 0);
-  spalte->setSpacing(raster / 2);
-  auto* const gruppe = new QButtonGroup(w);
-  for (int i = 0; i < a.anzahl(); ++i) {
-    auto* const knopf = new QRadioButton(w);
-    gruppe->addButton(knopf, i);
-    spalte->addWidget(knopf);
-  }
-  QObject::connect(gruppe, &QButtonGroup::idClicked, w, [&a](int i) { Handeln([&a, i] { a.waehlen(i); }); });
-  auf.binden(a, [&a, w, gruppe] {
-    Gemeinsames(*w, a);
-    gruppe->setExclusive(false);  // so that none may be chosen
-    for (int i = 0; i < a.anzahl() && gruppe->button(i) != nullptr; ++i) {
-      auto* const knopf = gruppe->button(i);
-      const QSignalBlocker stumm(knopf);
-      const auto& e = a.eintrag(i);
-      knopf->setText(Q(e.text));
-      knopf->setToolTip(Q(e.hinweis));
-      knopf->setEnabled(a.frei && e.frei);
-      knopf->setChecked(i == a.position());
-      Einfaerben(*knopf, e.farbe);
-    }
-    gruppe->setExclusive(true);
-  });
-  return w;
-}
-
-QWidget* Reiter_bauen(Auswahl& a, Auffrischer& auf, QWidget* eltern) {
-  auto* const w = new QTabBar(eltern);
-  w->setExpanding(false);
-  w->setDocumentMode(true);
-  QObject::connect(w, &QTabBar::currentChanged, w, [&a](int i) {
-    if (i >= 0 && i != a.position()) Handeln([&a, i] { a.waehlen(i); });
-  });
-  auf.binden(a, [&a, w] {
-    const QSignalBlocker stumm(w);
-    Gemeinsames(*w, a);
-    while (w->count() > a.anzahl()) w->removeTab(w->count() - 1);
-    while (w->count() < a.anzahl()) w->addTab(QString());
-    for (int i = 0; i < a.anzahl(); ++i) {
-      const auto& e = a.eintrag(i);
-      w->setTabText(i, Q(e.text));
-      w->setTabToolTip(i, Q(e.hinweis));
-      w->setTabEnabled(i, e.frei);
-      w->setTabIcon(i, e.farbe == Farbe::belegt ? Symbolbild("belegt") : QIcon());
-    }
-    w->setCurrentIndex(a.position());
-  });
-  return w;
-}
-
-// A strip of small buttons, sixteen a row: relay and dimmer groups, clocks. A used one is coloured and has a dot.
-QWidget* Leiste_bauen(Auswahl& a, Auffrischer& auf, QWidget* eltern) {
-  auto* const w = new QWidget(eltern);
-  auto* const gitter = new QGridLayout(w);
-  gitter->setContentsMargins(0, 0, 0, 0);
-  gitter->setSpacing(2);
-  auto* const gruppe = new QButtonGroup(w);
-  for (int i = 0; i < a.anzahl(); ++i) {
-    auto* const knopf = new QToolButton(w);
-    knopf->setCheckable(true);
-    knopf->setProperty("leiste", true);
-    knopf->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-    gruppe->addButton(knopf, i);
-    gitter->addWidget(knopf, i / 16, i % 16);
-  }
-  QObject::connect(gruppe, &QButtonGroup::idClicked, w, [&a](int i) { Handeln([&a, i] { a.waehlen(i); }); });
-  auf.binden(a, [&a, w, gruppe] {
-    Gemeinsames(*w, a);
-    for (int i = 0; i < a.anzahl() && gruppe->button(i) != nullptr; ++i) {
-      auto* const knopf = gruppe->button(i);
-      const auto& e = a.eintrag(i);
-      const bool belegt = e.farbe == Farbe::belegt;
-      knopf->setText(Q(e.text) + (belegt ? QStringLiteral(" •") : QString()));
-      knopf->setToolTip(Q(e.hinweis));
-      knopf->setEnabled(a.frei && e.frei);
-      knopf->setChecked(i == a.position());
-      Einfaerben(*knopf, e.farbe);
-    }
-  });
-  return w;
-}
-
-QWidget* Auswahl_bauen(Auswahl& a, Auffrischer& auf, QWidget* eltern) {
-  switch (a.form) {
-    case Auswahl::Form::Klappliste: return Klappliste_bauen(a, auf, eltern);
-    case Auswahl::Form::Liste: return Liste_bauen(a, auf, eltern);
-    case Auswahl::Form::Optionen: return Optionen_bauen(a, auf, eltern);
-    case Auswahl::Form::Reiter: return Reiter_bauen(a, auf, eltern);
-    case Auswahl::Form::Leiste: return Leiste_bauen(a, auf, eltern);
-    case Auswahl::Form::Raster: break;
-  }
-  auto* const w = new Kartenfeld(a, eltern);
-  auf.binden(a, [&a, w] {
-    Gemeinsames(*w, a);
-    w->auffrischen();
-  });
-  return w;
-}
-
-// A one-line field that tells when the focus leaves it.
-class Zeilenfeld final : public QLineEdit {
+// A slider that leaves the wheel to the page under it unless it has the keyboard.
+class Reglerfeld final : public QSlider {
  public:
-  Zeilenfeld(Textfeld& t, QWidget* eltern) : QLineEdit(eltern), t_(t) {}
+  explicit Reglerfeld(QWidget* eltern) : QSlider(Qt::Horizontal, eltern) {
+    setFocusPolicy(Qt::StrongFocus);
+    setMinimumWidth(12 * raster);
+  }
 
  protected:
-  void focusOutEvent(QFocusEvent* e) override {
-    QLineEdit::focusOutEvent(e);
-    // A popup or another window is no leaving; nor is a control that went away meanwhile.
-    if (e->reason() == Qt::PopupFocusReason || e->reason() == Qt::ActiveWindowFocusReason) return;
-    if (t_.frei && t_.sichtbar) Handeln([this] { t_.verlassen(); });
+  void wheelEvent(QWheelEvent* e) override {
+    if (hasFocus()) QSlider::wheelEvent(e);
+    else e->ignore();
   }
-
- private:
-  Textfeld& t_;
 };
 
-QWidget* Zeile_bauen(Textfeld& t, Auffrischer& auf, QWidget* eltern) {
-  auto* const w = new Zeilenfeld(t, eltern);
-  QObject::connect(w, &QLineEdit::textEdited, w, [&t](const QString& s) { Handeln([&] { t.eingeben(S(s)); }); });
-  auf.binden(t, [&t, w] {
-    const QSignalBlocker stumm(w);
-    Gemeinsames(*w, t);
-    w->setReadOnly(t.nur_lesen);
-    const QString text = Q(t.text());
-    if (w->text() != text) {
-      const int stelle = w->cursorPosition();
-      w->setText(text);
-      w->setCursorPosition(std::min(stelle, static_cast<int>(text.size())));
-    }
-    Einfaerben(*w, t.farbe);
-  });
-  return w;
-}
-
-QWidget* Mehrzeilig_bauen(Textfeld& t, Auffrischer& auf, QWidget* eltern) {
-  auto* const w = new QPlainTextEdit(eltern);
-  w->setMinimumHeight(10 * raster);
-  w->setTabChangesFocus(true);
-  // The store keeps CR LF, the widget LF.
-  QObject::connect(w, &QPlainTextEdit::textChanged, w, [&t, w] {
-    if (!t.nur_lesen) Handeln([&] { t.eingeben(S(w->toPlainText().replace("\n", "\r\n"))); });
-  });
-  auf.binden(t, [&t, w] {
-    const QSignalBlocker stumm(w);
-    Gemeinsames(*w, t);
-    w->setReadOnly(t.nur_lesen);
-    QString text = Q(t.text());
-    text.replace("\r\n", "\n").remove('\r');
-    const QString alt = w->toPlainText();
-    if (alt == text) return;
-    if (text.startsWith(alt)) {  // a log that grows
-      w->moveCursor(QTextCursor::End);
-      w->insertPlainText(text.mid(alt.size()));
-      w->ensureCursorVisible();
-    } else {
-      w->setPlainText(text);
-    }
-  });
-  return w;
-}
-
 QWidget* Schieber_bauen(Schieber& s, Auffrischer& auf, QWidget* eltern) {
-  auto* const w = new QSlider(Qt::Horizontal, eltern);
-  w->setMinimumWidth(12 * raster);
-  w->setFocusPolicy(Qt::StrongFocus);
-  QObject::connect(w, &QSlider::valueChanged, w, [&s](int wert) { Handeln([&s, wert] { s.schieben(wert); }); });
+  auto* const w = new Reglerfeld(eltern);
+  QObject::connect(w, &QSlider::valueChanged, w, [&s](int wert) { Handeln(s, [&s, wert] { s.schieben(wert); }); });
   auf.binden(s, [&s, w] {
     const QSignalBlocker stumm(w);
     Gemeinsames(*w, s);
@@ -355,17 +163,19 @@ class Klickschild final : public QLabel {
 };
 
 QWidget* Schild_bauen(Schild& s, Auffrischer& auf, QWidget* eltern) {
+  static constexpr int satz = 60;  // characters from which a text may wrap
+  static const QRegularExpression zahl("^[-+]?\\d+([.,:]\\d+)*( ?(%|s|m/s|Lux|°C))?$");
   auto* const w = new Klickschild(s, eltern);
-  w->setWordWrap(true);
   w->setTextFormat(Qt::PlainText);
-  w->setTextInteractionFlags(Qt::TextSelectableByMouse);
   if (s.wenn_angeklickt) w->setCursor(Qt::PointingHandCursor);
   auf.binden(s, [&s, w] {
     Gemeinsames(*w, s);
     const QString text = Q(*s.titel);
+    // Wrapping is settled before the text: it decides how the label is measured.
+    w->setWordWrap(text.size() > satz);
+    w->setMinimumWidth(text.size() > satz ? 40 * raster : 0);
+    w->setAlignment((zahl.match(text).hasMatch() ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
     w->setText(text);
-    // Short texts stand on one line; only sentences wrap.
-    w->setWordWrap(text.size() > 40);
     Einfaerben(*w, s.farbe);
   });
   return w;
@@ -374,6 +184,7 @@ QWidget* Schild_bauen(Schild& s, Auffrischer& auf, QWidget* eltern) {
 QWidget* Balken_bauen(Balken& b, Auffrischer& auf, QWidget* eltern) {
   auto* const w = new QProgressBar(eltern);
   w->setRange(0, 1000);
+  w->setMinimumWidth(16 * raster);
   auf.binden(b, [&b, w] {
     Gemeinsames(*w, b);
     const double anteil = b.bis > b.von ? (*b.wert - b.von) / (b.bis - b.von) : 0.0;
@@ -385,13 +196,17 @@ QWidget* Balken_bauen(Balken& b, Auffrischer& auf, QWidget* eltern) {
 QWidget* Kalender_bauen(Kalender& k, Auffrischer& auf, QWidget* eltern) {
   auto* const w = new QCalendarWidget(eltern);
   w->setFirstDayOfWeek(Qt::Monday);
-  w->setGridVisible(false);
-  QObject::connect(w, &QCalendarWidget::clicked, w, [&k](QDate d) {
-    Handeln([&] { k.waehlen({d.year(), d.month(), d.day()}); });
-  });
-  QObject::connect(w, &QCalendarWidget::activated, w, [&k](QDate d) {
-    Handeln([&] { k.waehlen({d.year(), d.month(), d.day()}); });
-  });
+  w->setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
+  w->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+  for (const auto& [name, pfeil] : {std::pair{"qt_calendar_prevmonth", Qt::LeftArrow}, {"qt_calendar_nextmonth", Qt::RightArrow}}) {
+    if (auto* const knopf = w->findChild<QToolButton*>(name)) {
+      knopf->setIcon(QIcon());
+      knopf->setArrowType(pfeil);
+    }
+  }
+  const auto waehlen = [&k](QDate d) { Handeln([&] { k.waehlen({d.year(), d.month(), d.day()}); }); };
+  QObject::connect(w, &QCalendarWidget::clicked, w, waehlen);
+  QObject::connect(w, &QCalendarWidget::activated, w, waehlen);
   auf.binden(k, [&k, w] {
     const QSignalBlocker stumm(w);
     Gemeinsames(*w, k);
@@ -415,11 +230,8 @@ QWidget* Bauen(Steuerelement& e, Auffrischer& auf, QWidget* eltern) {
   switch (e.art) {
     case Art::Taste: return Taste_bauen(static_cast<Taste&>(e), auf, eltern);
     case Art::Kaestchen: return Kaestchen_bauen(static_cast<Kaestchen&>(e), auf, eltern);
-    case Art::Auswahl: return Auswahl_bauen(static_cast<Auswahl&>(e), auf, eltern);
-    case Art::Textfeld: {
-      auto& t = static_cast<Textfeld&>(e);
-      return t.mehrzeilig ? Mehrzeilig_bauen(t, auf, eltern) : Zeile_bauen(t, auf, eltern);
-    }
+    case Art::Auswahl: return Wahlfeld_bauen(static_cast<Auswahl&>(e), auf, eltern);
+    case Art::Textfeld: return Textfeld_bauen(static_cast<Textfeld&>(e), auf, eltern);
     case Art::Schieber: return Schieber_bauen(static_cast<Schieber&>(e), auf, eltern);
     case Art::Schild: return Schild_bauen(static_cast<Schild&>(e), auf, eltern);
     case Art::Balken: return Balken_bauen(static_cast<Balken&>(e), auf, eltern);
@@ -442,7 +254,7 @@ QAction* Aktion_bauen(Steuerelement& e, Auffrischer& auf, QObject* eltern) {
   if (e.art == Art::Kaestchen) {
     auto& k = static_cast<Kaestchen&>(e);
     aktion->setCheckable(true);
-    QObject::connect(aktion, &QAction::toggled, aktion, [&k](bool an) { Handeln([&k, an] { k.haken(an); }); });
+    QObject::connect(aktion, &QAction::toggled, aktion, [&k](bool an) { Handeln(k, [&k, an] { k.haken(an); }); });
     auf.binden(e, [&k, aktion, gemeinsames] {
       const QSignalBlocker stumm(aktion);
       gemeinsames();

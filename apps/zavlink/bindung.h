@@ -5,6 +5,7 @@
 #include <QWidget>
 #include <functional>
 #include <memory>
+#include <unordered_map>
 #include <vector>
 
 #include "form/steuerelement.h"
@@ -19,7 +20,8 @@ class Auffrischer final : public QObject {
   explicit Auffrischer(QObject* eltern);
   ~Auffrischer() override;
 
-  // auffrischen() brings the widget to the state of the control. Runs once at once, later after every change.
+  // auffrischen() brings a widget to the state of the control. Runs once at once, later after every change. A
+  // control may have several: its own widget's first, then captions and the like in the order of binding.
   void binden(Steuerelement& e, std::function<void()> auffrischen);
   // Refreshes what is waiting now.
   void nachholen();
@@ -27,11 +29,12 @@ class Auffrischer final : public QObject {
  private:
   struct Eintrag {
     Steuerelement* element;
-    std::function<void()> auffrischen;
+    std::vector<std::function<void()>> auffrischen{};
     bool wartet = false;
   };
   void vormerken(Eintrag& e);
   std::vector<std::unique_ptr<Eintrag>> eintraege_;
+  std::unordered_map<const Steuerelement*, Eintrag*> nach_element_;
   bool bestellt_ = false;
 };
 
@@ -43,5 +46,10 @@ QAction* Aktion_bauen(Steuerelement& e, Auffrischer& auffrischer, QObject* elter
 
 // Runs a user's act on a form. An error in a rule shows as a box and does not end the program.
 void Handeln(const std::function<void()>& tat);
+// Handeln() for an act on a control; brings the widget back where the form has refused.
+void Handeln(Steuerelement& e, const std::function<void()>& tat);
+
+// What every widget takes from its control: enabled, visible, tool tip, names.
+void Gemeinsames(QWidget& w, const Steuerelement& e);
 
 }  // namespace zav::fenster

@@ -1,8 +1,8 @@
 #include "zavlink/farben.h"
 
 #include <QApplication>
-#include <QStyle>
-#include <QStyleFactory>
+#include <array>
+#include <utility>
 
 namespace zav::fenster {
 
@@ -14,30 +14,61 @@ QColor Farbe_qt(Farbe f) {
 QColor Farbe_schrift() { return {32, 33, 36}; }
 
 void Einfaerben(QWidget& w, Farbe f) {
-  // A property that the style sheet of the program matches: cheap to set, and undone by clearing it.
-  static constexpr const char* namen[] = {"", "belegt", "frei", "aktuell", "uhr1", "uhr2"};
-  const QString name = namen[static_cast<int>(f)];
-  if (w.property("farbe").toString() == name) return;
-  w.setProperty("farbe", name);
-  w.style()->unpolish(&w);
-  w.style()->polish(&w);
+  static constexpr const char* merker = "farbe";
+  if (w.property(merker).toInt() == static_cast<int>(f)) return;
+  w.setProperty(merker, static_cast<int>(f));
+  if (f == Farbe::normal) {
+    w.setPalette(QPalette());
+    w.setAutoFillBackground(false);
+    return;
+  }
+  QPalette p = QApplication::palette(&w);
+  for (const auto rolle : {QPalette::Base, QPalette::Button, QPalette::Window}) p.setColor(rolle, Farbe_qt(f));
+  for (const auto rolle : {QPalette::Text, QPalette::ButtonText, QPalette::WindowText}) {
+    p.setColor(rolle, Farbe_schrift());
+    p.setColor(QPalette::Disabled, rolle, QColor(96, 98, 104));
+  }
+  w.setPalette(p);
+  // Labels and boxes have no background of their own.
+  w.setAutoFillBackground(w.inherits("QLabel") || w.inherits("QCheckBox") || w.inherits("QRadioButton"));
 }
 
-void Aussehen_setzen() {
-  qApp->setStyle(QStyleFactory::create("Fusion"));
-  QString blatt;
-  for (const auto& [name, farbe] : {std::pair{"belegt", Farbe::belegt}, {"frei", Farbe::frei}, {"aktuell", Farbe::aktuell},
-                                    {"uhr1", Farbe::uhr1}, {"uhr2", Farbe::uhr2}}) {
-    blatt += QString("*[farbe=\"%1\"] { background-color: %2; color: %3; }\n")
-                 .arg(name, Farbe_qt(farbe).name(), Farbe_schrift().name());
+namespace {
+
+using Tabelle = std::array<std::pair<QPalette::ColorRole, const char*>, 15>;
+
+QPalette Aus(const Tabelle& farben, const char* gesperrt) {
+  QPalette p;
+  for (const auto& [rolle, farbe] : farben) p.setColor(rolle, QColor(farbe));
+  for (const auto rolle : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
+    p.setColor(QPalette::Disabled, rolle, QColor(gesperrt));
   }
-  blatt +=
-      "QPushButton { min-height: 22px; padding: 3px 12px; }\n"
-      "QPushButton[kompakt=\"true\"] { padding: 3px 6px; }\n"
-      "QToolButton[leiste=\"true\"] { min-width: 34px; min-height: 22px; padding: 1px; }\n"
-      "QLabel[gruppentitel=\"true\"] { font-weight: bold; font-size: 11px; }\n"
-      "QLineEdit, QComboBox { min-height: 22px; }\n";
-  qApp->setStyleSheet(blatt);
+  return p;
+}
+
+}  // namespace
+
+QPalette Palette_hell() {
+  return Aus({{{QPalette::Window, "#f4f5f7"}, {QPalette::WindowText, "#1f2328"}, {QPalette::Base, "#ffffff"},
+               {QPalette::AlternateBase, "#f7f8fa"}, {QPalette::Text, "#1f2328"}, {QPalette::Button, "#ffffff"},
+               {QPalette::ButtonText, "#1f2328"}, {QPalette::Highlight, "#1d6fb8"}, {QPalette::HighlightedText, "#ffffff"},
+               {QPalette::PlaceholderText, "#79808a"}, {QPalette::ToolTipBase, "#ffffff"}, {QPalette::ToolTipText, "#1f2328"},
+               {QPalette::Link, "#1d6fb8"}, {QPalette::Mid, "#c3c8cf"}, {QPalette::Midlight, "#e3e6ea"}}},
+             "#8d949d");
+}
+
+QPalette Palette_dunkel() {
+  return Aus({{{QPalette::Window, "#22262b"}, {QPalette::WindowText, "#e6e8eb"}, {QPalette::Base, "#191c20"},
+               {QPalette::AlternateBase, "#1e2226"}, {QPalette::Text, "#e6e8eb"}, {QPalette::Button, "#2e343a"},
+               {QPalette::ButtonText, "#e6e8eb"}, {QPalette::Highlight, "#3f8fd6"}, {QPalette::HighlightedText, "#ffffff"},
+               {QPalette::PlaceholderText, "#8b929b"}, {QPalette::ToolTipBase, "#2e343a"}, {QPalette::ToolTipText, "#e6e8eb"},
+               {QPalette::Link, "#6cb2ec"}, {QPalette::Mid, "#4a525b"}, {QPalette::Midlight, "#363d44"}}},
+             "#7c848d");
+}
+
+bool Dunkel_gewuenscht() {
+  // The desktop's platform theme has put its own palette in place before ours.
+  return QApplication::palette().color(QPalette::Window).lightness() < 128;
 }
 
 }  // namespace zav::fenster

@@ -1,4 +1,4 @@
-// The forms' colours and the program's own look as Qt sees them.
+// The forms' colours and the program's own palette as Qt sees them.
 #pragma once
 
 #include <QColor>
@@ -16,11 +16,13 @@ QColor Farbe_schrift();
 // Background of a widget by the form's colour; Farbe::normal gives the widget its own look back.
 void Einfaerben(QWidget& w, Farbe f);
 
+// The two palettes, and which of them the desktop asks for.
+QPalette Palette_hell();
+QPalette Palette_dunkel();
+bool Dunkel_gewuenscht();
+
 // Measures of the grid, in device-independent pixels.
 inline constexpr int raster = 8;
 inline constexpr int gruppenabstand = 16;
-
-// Fonts, focus frame and spacing of the whole program. Follows the desktop's light or dark palette.
-void Aussehen_setzen();
 
 }  // namespace zav::fenster

@@ -1,13 +1,16 @@
 #include "zavlink/formfenster.h"
 
 #include <QCloseEvent>
-#include <QEventLoop>
+#include <QGuiApplication>
 #include <QMenuBar>
 #include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QSettings>
 #include <QShortcut>
 #include <QTimer>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "zavlink/farben.h"
 #include "zavlink/qt_text.h"
@@ -18,6 +21,10 @@ std::function<void(const std::string&)> handbuch_oeffnen;
 
 namespace {
 
+// The smallest screen that a dialog must fit, and what a title bar takes of it.
+constexpr QSize kleiner_schirm{1366, 768};
+constexpr QSize schirmrand{16, 28};
+
 // Sizes of windows are the window program's own matter and stand in a file of their own.
 QSettings Fenstergroessen() { return QSettings(QSettings::IniFormat, QSettings::UserScope, "ZAVlink", "Fenster"); }
 
@@ -27,21 +34,22 @@ Formfenster::Formfenster(Formular& f, QWidget* eltern) : QDialog(eltern), form_(
   setObjectName(Q(f.name()));
   setWindowFlag(Qt::WindowMaximizeButtonHint);
   auto* const spalte = new QVBoxLayout(this);
-  spalte->setContentsMargins(gruppenabstand, gruppenabstand, gruppenabstand, gruppenabstand);
-  gebautes_ = Aufbauen(f.anordnung(), *auffrischer_, this);
+  spalte->setContentsMargins(gruppenabstand, gruppenabstand - raster / 2, gruppenabstand, gruppenabstand);
+  spalte->setSpacing(gruppenabstand);
+  Aufbauen(f.anordnung(), *auffrischer_, this, gebautes_);
   if (!gebautes_.menues.empty()) {
     auto* const leiste = new QMenuBar(this);
     for (QMenu* m : gebautes_.menues) leiste->addMenu(m);
     spalte->setMenuBar(leiste);
   }
-  if (gebautes_.inhalt != nullptr) spalte->addWidget(gebautes_.inhalt);
+  spalte->addWidget(gebautes_.inhalt, 1);
+  if (gebautes_.knopfzeile != nullptr) spalte->addWidget(gebautes_.knopfzeile);
   connect(new QShortcut(QKeySequence::HelpContents, this), &QShortcut::activated, this, [this] {
     if (handbuch_oeffnen) handbuch_oeffnen(form_.name());
   });
   form_.beobachter = [this] { nachfuehren(); };
   nachfuehren();
-  QSettings groessen = Fenstergroessen();
-  restoreGeometry(groessen.value(objectName()).toByteArray());
+  einpassen();
 }
 
 Formfenster::~Formfenster() {
@@ -50,12 +58,33 @@ Formfenster::~Formfenster() {
   groessen.setValue(objectName(), saveGeometry());
 }
 
+// What does not fit a small screen scrolls; the buttons below stay in sight.
+void Formfenster::einpassen() {
+  const QSize platz = kleiner_schirm - schirmrand;
+  layout()->activate();
+  const QSize noetig = minimumSizeHint();
+  if (noetig.height() > platz.height() || noetig.width() > platz.width()) {
+    auto* const rollen = new QScrollArea(this);
+    rollen->setFrameShape(QFrame::NoFrame);
+    rollen->setWidgetResizable(true);
+    auto* const spalte = static_cast<QVBoxLayout*>(layout());
+    delete spalte->replaceWidget(gebautes_.inhalt, rollen);
+    rollen->setWidget(gebautes_.inhalt);
+    spalte->setStretchFactor(rollen, 1);
+    resize(noetig.boundedTo(platz) + QSize(rollen->verticalScrollBar()->sizeHint().width(), 0));
+  } else {
+    resize(sizeHint().boundedTo(platz));
+  }
+  const QByteArray gemerkt = Fenstergroessen().value(objectName()).toByteArray();
+  if (!gemerkt.isEmpty()) restoreGeometry(gemerkt);
+}
+
 void Formfenster::laufen() {
   setWindowModality(Qt::ApplicationModal);
   show();
-  QEventLoop schleife;
   QTimer::singleShot(0, this, [this] { Handeln([this] { form_.beim_oeffnen(); }); });
-  while (form_.offen()) schleife.processEvents(QEventLoop::WaitForMoreEvents | QEventLoop::AllEvents);
+  // A rule may have closed the form already, and a stray end of the loop is no close.
+  while (form_.offen()) schleife_.exec(QEventLoop::AllEvents);
   hide();
 }
 
@@ -66,15 +95,19 @@ void Formfenster::nachfuehren() {
     const auto w = gebautes_.widgets.find(fokus_);
     if (w != gebautes_.widgets.end()) QTimer::singleShot(0, w->second, [ziel = w->second] { ziel->setFocus(); });
   }
-  if (!form_.offen()) {
-    // Wakes the loop of laufen().
-    QTimer::singleShot(0, this, [] {});
-  }
+  if (!form_.offen()) schleife_.quit();
+}
+
+void Formfenster::showEvent(QShowEvent* e) {
+  QDialog::showEvent(e);
+  if (e->spontaneous()) return;
+  // Fields that only show are no place to begin.
+  if (fokus_ == nullptr && gebautes_.inhalt != nullptr) focusNextChild();
 }
 
 void Formfenster::closeEvent(QCloseEvent* e) {
-  e->ignore();
   Handeln([this] { form_.schliessen_wuenschen(); });
+  e->setAccepted(!form_.offen());
 }
 
 void Formfenster::reject() {

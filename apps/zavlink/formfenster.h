@@ -2,12 +2,13 @@
 #pragma once
 
 #include <QDialog>
+#include <QEventLoop>
 
 #include "zavlink/renderer.h"
 
 namespace zav::fenster {
 
-class Formfenster final : public QDialog {
+class Formfenster : public QDialog {
   Q_OBJECT
  public:
   Formfenster(Formular& f, QWidget* eltern);
@@ -15,6 +16,7 @@ class Formfenster final : public QDialog {
 
   // Shows the window and returns when the form has closed.
   void laufen();
+  Formular& formular() const { return form_; }
   const Gebautes& gebautes() const { return gebautes_; }
   // Brings every widget to the state of its control now.
   void nachholen() { auffrischer_->nachholen(); }
@@ -22,14 +24,17 @@ class Formfenster final : public QDialog {
  protected:
   void closeEvent(QCloseEvent* e) override;
   void reject() override;
+  void showEvent(QShowEvent* e) override;
 
  private:
   void nachfuehren();
+  void einpassen();
 
   Formular& form_;
   Auffrischer* auffrischer_;
   Gebautes gebautes_;
   Steuerelement* fokus_ = nullptr;
+  QEventLoop schleife_;
 };
 
 // Opens the manual at the place of a form; hung in by the program.

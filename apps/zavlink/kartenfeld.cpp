@@ -13,8 +13,7 @@
 namespace zav::fenster {
 
 namespace {
-constexpr int kleinste_breite = 36;
-constexpr int kleinste_hoehe = 24;
+constexpr double rundung = 4;
 }  // namespace
 
 Kartenfeld::Kartenfeld(Auswahl& auswahl, QWidget* eltern) : QWidget(eltern), auswahl_(auswahl) {
@@ -29,21 +28,26 @@ void Kartenfeld::auffrischen() {
   update();
 }
 
-// The full address map is square; smaller sets of cells stay readable.
 int Kartenfeld::spalten() const { return auswahl_.anzahl() >= 128 ? 16 : auswahl_.anzahl() > 24 ? 8 : 4; }
 int Kartenfeld::zeilen() const { return std::max(1, (auswahl_.anzahl() + spalten() - 1) / spalten()); }
 
-QSize Kartenfeld::sizeHint() const {
-  int breite = kleinste_breite;
+QSize Kartenfeld::zellmass() const {
+  int breite = 36;
   for (const auto& e : auswahl_.eintraege()) breite = std::max(breite, std::min(150, fontMetrics().horizontalAdvance(Q(e.text)) + 12));
-  return {spalten() * breite, zeilen() * (kleinste_hoehe + 4)};
+  return {breite, 28};
 }
-QSize Kartenfeld::minimumSizeHint() const { return {spalten() * kleinste_breite, zeilen() * kleinste_hoehe}; }
+
+QSize Kartenfeld::sizeHint() const { return {spalten() * zellmass().width(), zeilen() * zellmass().height()}; }
+QSize Kartenfeld::minimumSizeHint() const {
+  return {spalten() * std::min(zellmass().width(), 60), zeilen() * std::min(zellmass().height(), 56)};
+}
 
 QRectF Kartenfeld::zelle(int i) const {
   const double b = width() / static_cast<double>(spalten());
   const double h = height() / static_cast<double>(zeilen());
-  return QRectF(i % spalten() * b, i / spalten() * h, b, h).adjusted(1, 1, -1, -1);
+  const double links = i % spalten() * b;
+  const double oben = i / spalten() * h;  // NOLINT(bugprone-integer-division): the row
+  return QRectF(links, oben, b, h).adjusted(1, 1, -1, -1);
 }
 
 int Kartenfeld::zelle_bei(QPointF p) const {
@@ -56,9 +60,21 @@ int Kartenfeld::zelle_bei(QPointF p) const {
 
 void Kartenfeld::nehmen(int i) {
   if (i < 0) return;
+  zeigen(i);
+  if (auswahl_.eintrag(i).frei) Handeln(auswahl_, [&] { auswahl_.waehlen(i); });
+}
+
+void Kartenfeld::zeigen(int i) {
   zeiger_ = i;
+  setAccessibleDescription(Q(auswahl_.eintrag(i).text + " " + auswahl_.eintrag(i).hinweis));
+  Q_EMIT gezeigt(i);
   update();
-  if (auswahl_.eintrag(i).frei) Handeln([&] { auswahl_.waehlen(i); });
+}
+
+QColor Kartenfeld::schriftfarbe(int i) const {
+  const auto& e = auswahl_.eintrag(i);
+  if (!isEnabled() || !e.frei) return palette().color(QPalette::Disabled, QPalette::ButtonText);
+  return e.farbe != Farbe::normal ? Farbe_schrift() : palette().color(QPalette::ButtonText);
 }
 
 void Kartenfeld::paintEvent(QPaintEvent*) {
@@ -67,20 +83,22 @@ void Kartenfeld::paintEvent(QPaintEvent*) {
   for (int i = 0; i < auswahl_.anzahl(); ++i) {
     const auto& e = auswahl_.eintrag(i);
     const QRectF r = zelle(i);
-    const bool farbig = e.farbe != Farbe::normal;
     p.setPen(Qt::NoPen);
-    p.setBrush(farbig ? Farbe_qt(e.farbe) : palette().button().color());
-    p.drawRoundedRect(r, 3, 3);
-    if (i == auswahl_.position() || (hasFocus() && i == zeiger_)) {
+    p.setBrush(e.farbe != Farbe::normal ? Farbe_qt(e.farbe) : palette().color(QPalette::Button));
+    p.drawRoundedRect(r, rundung, rundung);
+    zelle_malen(p, r, i);
+    const bool tastatur = hasFocus() && i == zeiger_;
+    if (i == auswahl_.position() || tastatur || i == ueber_) {
       p.setBrush(Qt::NoBrush);
-      p.setPen(QPen(palette().highlight().color(), 2));
-      p.drawRoundedRect(r.adjusted(1, 1, -1, -1), 3, 3);
+      p.setPen(QPen(palette().color(QPalette::Highlight), tastatur || i == auswahl_.position() ? 2.5 : 1));
+      p.drawRoundedRect(r.adjusted(1, 1, -1, -1), rundung, rundung);
     }
-    p.setPen(!isEnabled() || !e.frei ? palette().color(QPalette::Disabled, QPalette::ButtonText)
-             : farbig                ? Farbe_schrift()
-                                     : palette().buttonText().color());
-    p.drawText(r.adjusted(3, 0, -3, 0), Qt::AlignCenter | Qt::TextWordWrap, Q(e.text));
   }
+}
+
+void Kartenfeld::zelle_malen(QPainter& p, const QRectF& r, int i) {
+  p.setPen(schriftfarbe(i));
+  p.drawText(r.adjusted(3, 0, -3, 0), Qt::AlignCenter | Qt::TextWordWrap, Q(auswahl_.eintrag(i).text));
 }
 
 void Kartenfeld::mousePressEvent(QMouseEvent* e) {
@@ -88,7 +106,19 @@ void Kartenfeld::mousePressEvent(QMouseEvent* e) {
 }
 
 void Kartenfeld::mouseMoveEvent(QMouseEvent* e) {
-  setCursor(zelle_bei(e->position()) >= 0 ? Qt::PointingHandCursor : Qt::ArrowCursor);
+  const int i = zelle_bei(e->position());
+  if (i == ueber_) return;
+  ueber_ = i;
+  setCursor(i >= 0 ? Qt::PointingHandCursor : Qt::ArrowCursor);
+  Q_EMIT gezeigt(i);
+  update();
+}
+
+void Kartenfeld::leaveEvent(QEvent* e) {
+  QWidget::leaveEvent(e);
+  ueber_ = -1;
+  Q_EMIT gezeigt(hasFocus() ? zeiger_ : -1);
+  update();
 }
 
 void Kartenfeld::keyPressEvent(QKeyEvent* e) {
@@ -105,14 +135,16 @@ void Kartenfeld::keyPressEvent(QKeyEvent* e) {
     case Qt::Key_Enter: nehmen(zeiger_); return;
     default: QWidget::keyPressEvent(e); return;
   }
-  if (ziel >= 0 && ziel < auswahl_.anzahl()) zeiger_ = ziel;
-  setAccessibleDescription(Q(auswahl_.eintrag(zeiger_).text + " " + auswahl_.eintrag(zeiger_).hinweis));
-  QToolTip::showText(mapToGlobal(zelle(zeiger_).center().toPoint()), Q(auswahl_.eintrag(zeiger_).hinweis), this);
-  update();
+  if (ziel >= 0 && ziel < auswahl_.anzahl()) zeigen(ziel);
 }
 
 void Kartenfeld::focusInEvent(QFocusEvent* e) {
   QWidget::focusInEvent(e);
+  if (zeiger_ < auswahl_.anzahl()) zeigen(zeiger_);
+}
+
+void Kartenfeld::focusOutEvent(QFocusEvent* e) {
+  QWidget::focusOutEvent(e);
   update();
 }
 

@@ -1,24 +1,22 @@
 #include "zavlink/renderer.h"
 
-#include <QFormLayout>
+#include <QFrame>
 #include <QGridLayout>
 #include <QLabel>
-#include <QScrollArea>
 #include <QStackedWidget>
-#include <QTabBar>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "zavlink/farben.h"
 #include "zavlink/qt_text.h"
+#include "zavlink/textfelder.h"
+#include "zavlink/wahlfelder.h"
 
 namespace zav::fenster {
 
 namespace {
 
-std::map<std::string, Besonderer_bau>& Besondere() {
-  static std::map<std::string, Besonderer_bau> tabelle;
-  return tabelle;
-}
+enum class Richtung { waagrecht, senkrecht };
 
 // Controls that carry their caption beside them and not in themselves.
 bool Hat_beschriftung(const Anordnung& a) {
@@ -30,33 +28,98 @@ bool Hat_beschriftung(const Anordnung& a) {
     case Art::Kalender: return true;
     case Art::Auswahl: {
       const auto form = static_cast<const Auswahl&>(*a.element).form;
-      return form == Auswahl::Form::Klappliste || form == Auswahl::Form::Liste;
+      return form == Auswahl::Form::Klappliste || form == Auswahl::Form::Liste || form == Auswahl::Form::Optionen;
     }
     default: return false;
   }
+}
+
+bool Element_waechst(const Steuerelement& e, Richtung r) {
+  switch (e.art) {
+    case Art::Baum: return true;
+    case Art::Textfeld: {
+      const auto& t = static_cast<const Textfeld&>(e);
+      return r == Richtung::senkrecht ? t.mehrzeilig : Textfeld_waechst(t);
+    }
+    case Art::Auswahl: {
+      const auto& a = static_cast<const Auswahl&>(e);
+      if (a.form == Auswahl::Form::Raster || a.form == Auswahl::Form::Liste) return true;
+      return r == Richtung::waagrecht &&
+             ((a.form == Auswahl::Form::Leiste && a.anzahl() >= leiste_breit) || a.form == Auswahl::Form::Reiter);
+    }
+    case Art::Schieber:
+    case Art::Balken: return r == Richtung::waagrecht;
+    default: return false;
+  }
+}
+
+// What takes the space that is left: trees, texts of several lines, maps and painted areas.
+bool Waechst(const Anordnung& a, Richtung r) {
+  if (a.art == Anordnung::Art::Element) return Element_waechst(*a.element, r);
+  if (a.art == Anordnung::Art::Besonders) return true;
+  if (a.art == Anordnung::Art::Knopfzeile) return r == Richtung::waagrecht;
+  return std::ranges::any_of(a.kinder, [r](const Anordnung& k) { return Waechst(k, r); });
+}
+
+bool Ist_menue(const Anordnung& a) {
+  return a.art == Anordnung::Art::Menue || a.art == Anordnung::Art::Kontextmenue;
+}
+
+// Higher than one line: what stands beside it is aligned to its top.
+bool Ist_hoch(const Anordnung& a) {
+  using A = Anordnung::Art;
+  if (a.art == A::Element) return Element_waechst(*a.element, Richtung::senkrecht) || a.element->art == Art::Kalender;
+  if (a.art == A::Zeile) return std::ranges::any_of(a.kinder, Ist_hoch);
+  return a.art == A::Spalte || a.art == A::Gruppe || a.art == A::Raster || a.art == A::Reiter || a.art == A::Besonders;
+}
+
+// A part of the window: a widget or a layout.
+struct Teil {
+  QWidget* widget = nullptr;
+  QLayout* layout = nullptr;
+  explicit operator bool() const { return widget != nullptr || layout != nullptr; }
+};
+
+void Einsetzen(QBoxLayout& l, Teil t, int dehnung, Qt::Alignment lage = {}) {
+  if (t.widget != nullptr) l.addWidget(t.widget, dehnung, lage);
+  if (t.layout != nullptr) l.addLayout(t.layout, dehnung);
+}
+void Einsetzen(QGridLayout& l, Teil t, int zeile, int spalte, Qt::Alignment lage = {}) {
+  if (t.widget != nullptr) l.addWidget(t.widget, zeile, spalte, lage);
+  if (t.layout != nullptr) l.addLayout(t.layout, zeile, spalte);
 }
 
 class Baumeister {
  public:
   Baumeister(Auffrischer& auf, Gebautes& ergebnis) : auf_(auf), ergebnis_(ergebnis) {}
 
-  // The widget of a node; nullptr for what has none in the layout (menus).
-  QWidget* Bau(const Anordnung& a, QWidget* eltern) {
+  // A whole tree as one widget.
+  QWidget* Als_widget(const Anordnung& a, QWidget* eltern) {
+    using A = Anordnung::Art;
+    auto* const w = new QWidget(eltern);
+    // A grid alone would spread its rows over the whole height.
+    if (a.art == A::Spalte) w->setLayout(Spalte_bauen(a.kinder, w));
+    else if (a.art == A::Knopfzeile) w->setLayout(Knopfzeile_bauen(a, w));
+    else w->setLayout(Spalte_bauen({a}, w));
+    return w;
+  }
+
+  Teil Bau(const Anordnung& a, QWidget* eltern) {
     switch (a.art) {
-      case Anordnung::Art::Element: return Element(*a.element, eltern);
-      case Anordnung::Art::Zeile: return Reihe(a, eltern, new QHBoxLayout);
-      case Anordnung::Art::Spalte: return Reihe(a, eltern, new QVBoxLayout);
-      case Anordnung::Art::Knopfzeile: return Knopfzeile_bauen(a, eltern);
-      case Anordnung::Art::Gruppe: return Gruppe_bauen(a, eltern);
-      case Anordnung::Art::Raster: return Raster_bauen(a, eltern);
-      case Anordnung::Art::Reiter: return Reiter_bauen(a, eltern);
-      case Anordnung::Art::Besonders: return Besonders_bauen(a, eltern);
-      case Anordnung::Art::Menue: ergebnis_.menues.push_back(Menue_bauen(a, eltern)); return nullptr;
-      case Anordnung::Art::Kontextmenue: ergebnis_.kontextmenues[a.titel] = Menue_bauen(a, eltern); return nullptr;
+      case Anordnung::Art::Element: return {Element(*a.element, eltern)};
+      case Anordnung::Art::Zeile: return {nullptr, Zeile_bauen(a, eltern)};
+      case Anordnung::Art::Spalte: return {nullptr, Spalte_bauen(a.kinder, eltern)};
+      case Anordnung::Art::Knopfzeile: return {nullptr, Knopfzeile_bauen(a, eltern)};
+      case Anordnung::Art::Gruppe: return {Gruppe_bauen(a, eltern)};
+      case Anordnung::Art::Raster: return {nullptr, Raster_bauen(a, eltern)};
+      case Anordnung::Art::Reiter: return {Reiter_bauen(a, eltern)};
+      case Anordnung::Art::Besonders: return {Besonders_bauen(a, eltern)};
+      case Anordnung::Art::Menue: ergebnis_.menues.push_back(Menue_bauen(a, eltern)); break;
+      case Anordnung::Art::Kontextmenue: ergebnis_.kontextmenues[a.titel] = Menue_bauen(a, eltern); break;
       case Anordnung::Art::Feder:
       case Anordnung::Art::Leer: break;
     }
-    return nullptr;
+    return {};
   }
 
  private:
@@ -70,184 +133,213 @@ class Baumeister {
   QLabel* Beschriftung(Steuerelement& e, QWidget* feld, QWidget* eltern) {
     auto* const schild = new QLabel(eltern);
     schild->setBuddy(feld);
-    const auto eigenes = e.beobachter;
-    const auto nachfuehren = [&e, schild] {
+    auf_.binden(e, [&e, schild] {
       schild->setText(Q(*e.titel));
       schild->setVisible(e.sichtbar);
       schild->setEnabled(e.frei);
-    };
-    e.beobachter = [eigenes, nachfuehren] {
-      if (eigenes) eigenes();
-      nachfuehren();
-    };
-    nachfuehren();
+    });
     return schild;
   }
 
   template <class L>
-  static L* Ausrichten(L* layout) {
+  static L* Ohne_rand(L* layout) {
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(raster);
     return layout;
   }
 
-  QWidget* Reihe(const Anordnung& a, QWidget* eltern, QBoxLayout* layout) {
-    auto* const w = new QWidget(eltern);
-    w->setLayout(Ausrichten(layout));
-    const bool spalte = a.art != Anordnung::Art::Zeile;
-    QFormLayout* form = nullptr;  // captions of neighbouring fields stand in line
-    for (const Anordnung& k : a.kinder) {
-      if (k.art == Anordnung::Art::Feder) {
-        layout->addStretch(1);
-        form = nullptr;
-        continue;
-      }
-      QWidget* const kind = Bau(k, w);
-      if (kind == nullptr) continue;
-      if (Hat_beschriftung(k)) {
-        QLabel* const schild = Beschriftung(*k.element, kind, w);
-        if (spalte) {
-          if (form == nullptr) {
-            form = new QFormLayout;
-            form->setContentsMargins(0, 0, 0, 0);
-            form->setSpacing(raster);
-            layout->addLayout(form);
-          }
-          form->addRow(schild, kind);
-        } else {
-          layout->addWidget(schild);
-          layout->addWidget(kind, 1);
-        }
-        continue;
-      }
-      form = nullptr;
-      if (spalte && k.art == Anordnung::Art::Gruppe && layout->count() > 0) layout->addSpacing(gruppenabstand - raster);
-      layout->addWidget(kind, Dehnung(k, spalte));
-    }
-    return w;
-  }
-
-  // What takes the free space: trees, texts of several lines, maps and painted areas.
-  static int Dehnung(const Anordnung& a, bool senkrecht) {
-    if (a.art == Anordnung::Art::Besonders || a.art == Anordnung::Art::Reiter) return 1;
-    if (a.art == Anordnung::Art::Element) {
-      switch (a.element->art) {
-        case Art::Baum: return 1;
-        case Art::Textfeld: return senkrecht ? (static_cast<const Textfeld&>(*a.element).mehrzeilig ? 1 : 0) : 1;
-        case Art::Auswahl: {
-          const auto form = static_cast<const Auswahl&>(*a.element).form;
-          return form == Auswahl::Form::Raster || form == Auswahl::Form::Liste ? 1 : 0;
-        }
-        case Art::Schieber:
-        case Art::Balken: return senkrecht ? 0 : 1;
-        default: return 0;
-      }
-    }
-    for (const Anordnung& k : a.kinder) {
-      if (Dehnung(k, senkrecht) > 0) return 1;
-    }
-    return 0;
-  }
-
-  QWidget* Knopfzeile_bauen(const Anordnung& a, QWidget* eltern) {
-    auto* const w = new QWidget(eltern);
-    auto* const zeile = Ausrichten(new QHBoxLayout(w));
-    zeile->addStretch(1);
+  QHBoxLayout* Zeile_bauen(const Anordnung& a, QWidget* eltern) {
+    auto* const zeile = Ohne_rand(new QHBoxLayout);
+    const bool hoch = std::ranges::any_of(a.kinder, Ist_hoch);
+    if (hoch) zeile->setSpacing(gruppenabstand);
+    bool gefuellt = false;
     for (const Anordnung& k : a.kinder) {
       if (k.art == Anordnung::Art::Feder) {
         zeile->addStretch(1);
-      } else if (QWidget* const kind = Bau(k, w)) {
-        zeile->addWidget(kind);
+        gefuellt = true;
+        continue;
       }
+      const bool waechst = Waechst(k, Richtung::waagrecht);
+      gefuellt = gefuellt || waechst;
+      const bool oben = hoch && k.art == Anordnung::Art::Element && !Waechst(k, Richtung::senkrecht);
+      const Qt::Alignment lage = oben ? Qt::AlignTop : Qt::Alignment{};
+      const bool beschriftet = Hat_beschriftung(k);
+      // The caption stands before its field, but needs it to lead to.
+      const int stelle = zeile->count();
+      const Teil t = Bau(k, eltern);
+      if (!t) continue;
+      if (beschriftet) zeile->insertWidget(stelle, Beschriftung(*k.element, t.widget, eltern), 0, lage);
+      Einsetzen(*zeile, t, waechst ? 1 : 0, lage);
     }
-    return w;
+    if (!gefuellt) zeile->addStretch(1);
+    return zeile;
+  }
+
+  QVBoxLayout* Spalte_bauen(const std::vector<Anordnung>& kinder, QWidget* eltern) {
+    auto* const spalte = Ohne_rand(new QVBoxLayout);
+    QGridLayout* felder = nullptr;  // captions of neighbouring fields stand in line
+    bool gefuellt = false;
+    for (const Anordnung& k : kinder) {
+      const bool waechst = Waechst(k, Richtung::senkrecht);
+      if (k.art == Anordnung::Art::Feder) {
+        spalte->addStretch(1);
+        gefuellt = true;
+        felder = nullptr;
+        continue;
+      }
+      if (Ist_menue(k)) {
+        Bau(k, eltern);
+        continue;
+      }
+      // The dialog's buttons stay at the bottom.
+      if (k.art == Anordnung::Art::Knopfzeile) {
+        if (!gefuellt) spalte->addStretch(1);
+        gefuellt = true;
+        spalte->addSpacing(raster);
+      }
+      gefuellt = gefuellt || waechst;
+      if (Hat_beschriftung(k)) {
+        if (felder == nullptr) {
+          felder = Ohne_rand(new QGridLayout);
+          felder->setVerticalSpacing(raster / 2);
+          felder->setColumnStretch(1, 1);
+          spalte->addLayout(felder, waechst ? 1 : 0);
+        }
+        const int zeile = felder->rowCount();
+        QWidget* const feld = Element(*k.element, eltern);
+        felder->addWidget(Beschriftung(*k.element, feld, eltern), zeile, 0, waechst ? Qt::AlignTop : Qt::Alignment{});
+        felder->addWidget(feld, zeile, 1, Waechst(k, Richtung::waagrecht) ? Qt::Alignment{} : Qt::AlignLeft);
+        if (waechst) felder->setRowStretch(zeile, 1);
+        continue;
+      }
+      felder = nullptr;
+      const Teil t = Bau(k, eltern);
+      const bool knopf = k.art == Anordnung::Art::Element && k.element->art == Art::Taste && kinder.size() < 4;
+      Einsetzen(*spalte, t, waechst ? 1 : 0, knopf ? Qt::AlignLeft : Qt::Alignment{});
+    }
+    if (!gefuellt) spalte->addStretch(1);
+    return spalte;
+  }
+
+  QHBoxLayout* Knopfzeile_bauen(const Anordnung& a, QWidget* eltern) {
+    auto* const zeile = Ohne_rand(new QHBoxLayout);
+    const auto ist_feder = [](const Anordnung& k) { return k.art == Anordnung::Art::Feder; };
+    if (std::ranges::none_of(a.kinder, ist_feder)) zeile->addStretch(1);
+    for (const Anordnung& k : a.kinder) {
+      if (ist_feder(k)) zeile->addStretch(1);
+      else Einsetzen(*zeile, Bau(k, eltern), 0);
+    }
+    return zeile;
   }
 
   QWidget* Gruppe_bauen(const Anordnung& a, QWidget* eltern) {
     auto* const w = new QWidget(eltern);
-    auto* const spalte = Ausrichten(new QVBoxLayout(w));
-    spalte->setSpacing(raster / 2);
-    auto* const titel = new QLabel(w);
-    titel->setProperty("gruppentitel", true);
-    spalte->addWidget(titel);
-    Anordnung inhalt(Anordnung::Art::Spalte);
-    inhalt.kinder = a.kinder;
-    QWidget* const kind = Bau(inhalt, w);
-    spalte->addWidget(kind, 1);
-    w->setAccessibleName(Q(a.titel));
+    auto* const spalte = Ohne_rand(new QVBoxLayout(w));
+    spalte->setContentsMargins(0, raster / 2, 0, 0);
+    spalte->setSpacing(raster / 2 + 2);
+    auto* const kopf = new QWidget(w);
+    auto* const kopfzeile = Ohne_rand(new QHBoxLayout(kopf));
+    auto* const titel = new QLabel(kopf);
+    QFont schrift = titel->font();
+    schrift.setBold(true);
+    schrift.setPointSizeF(schrift.pointSizeF() * 0.92);
+    titel->setFont(schrift);
+    auto* const linie = new QFrame(kopf);
+    linie->setFrameShape(QFrame::HLine);
+    linie->setForegroundRole(QPalette::Midlight);
+    linie->setFrameShadow(QFrame::Plain);
+    kopfzeile->addWidget(titel);
+    kopfzeile->addWidget(linie, 1);
+    spalte->addWidget(kopf);
+    QWidget* const inhalt = new QWidget(w);
+    inhalt->setLayout(Spalte_bauen(a.kinder, inhalt));
+    spalte->addWidget(inhalt, 1);
     if (a.element == nullptr) {
-      titel->setText(Q(a.titel));
-    } else {
-      Steuerelement& e = *a.element;
-      ergebnis_.widgets[&e] = w;
-      auf_.binden(e, [&e, w, titel, kind] {
-        titel->setText(Ohne_kuerzel(Q(*e.titel)));
-        titel->setVisible(!e.titel->empty());
-        w->setObjectName(Q(e.name()));
-        w->setAccessibleName(titel->text());
-        w->setToolTip(Q(*e.hinweis));
-        w->setVisible(e.sichtbar);
-        kind->setEnabled(e.frei);
-        Einfaerben(*titel, e.farbe);
-      });
+      w->setAccessibleName(Q(a.titel));
+      titel->setText(Ohne_kuerzel(Q(a.titel)));
+      return w;
     }
+    Steuerelement& e = *a.element;
+    ergebnis_.widgets[&e] = w;
+    auf_.binden(e, [&e, w, kopf, titel, inhalt] {
+      Gemeinsames(*w, e);
+      w->setEnabled(true);
+      inhalt->setEnabled(e.frei);
+      titel->setText(Ohne_kuerzel(Q(*e.titel)));
+      kopf->setVisible(!e.titel->empty());
+      Einfaerben(*titel, e.farbe);
+    });
     return w;
   }
 
-  QWidget* Raster_bauen(const Anordnung& a, QWidget* eltern) {
-    auto* const w = new QWidget(eltern);
-    auto* const gitter = Ausrichten(new QGridLayout(w));
-    gitter->setVerticalSpacing(raster / 2);
-    int i = 0;
-    for (const Anordnung& k : a.kinder) {
-      const int zeile = i / a.spalten;
-      const int spalte = i % a.spalten;
-      ++i;
-      QWidget* kind = nullptr;
-      if (Hat_beschriftung(k)) {
-        auto* const zelle = new QWidget(w);
-        auto* const reihe = Ausrichten(new QHBoxLayout(zelle));
-        QWidget* const feld = Bau(k, zelle);
-        reihe->addWidget(Beschriftung(*k.element, feld, zelle));
-        reihe->addWidget(feld, 1);
-        kind = zelle;
-      } else {
-        kind = Bau(k, w);
-      }
-      if (kind == nullptr) continue;
-      gitter->addWidget(kind, zeile, spalte);
-      if (Dehnung(k, false) > 0) gitter->setColumnStretch(spalte, 1);
+  QGridLayout* Raster_bauen(const Anordnung& a, QWidget* eltern) {
+    auto* const gitter = Ohne_rand(new QGridLayout);
+    gitter->setVerticalSpacing(static_cast<int>(a.kinder.size()) >= 16 * a.spalten ? 2 : raster / 2);
+    // Columns with captions take two columns of the grid.
+    const auto spalten = static_cast<std::size_t>(a.spalten);
+    std::vector<bool> beschriftet(spalten, false), waechst(spalten, false);
+    for (std::size_t i = 0; i < a.kinder.size(); ++i) {
+      beschriftet[i % spalten] = beschriftet[i % spalten] || Hat_beschriftung(a.kinder[i]);
+      waechst[i % spalten] = waechst[i % spalten] || Waechst(a.kinder[i], Richtung::waagrecht);
     }
-    return w;
+    std::vector<int> ort(spalten + 1, 0);
+    for (std::size_t s = 0; s < spalten; ++s) {
+      if (beschriftet[s]) ++ort[s];
+      ort[s + 1] = ort[s] + 1;
+      if (waechst[s]) gitter->setColumnStretch(ort[s], 1);
+    }
+    const QWidget* zeilenname = nullptr;
+    for (std::size_t i = 0; i < a.kinder.size(); ++i) {
+      const Anordnung& k = a.kinder[i];
+      const int zeile = static_cast<int>(i / spalten);
+      const int spalte = ort[i % spalten];
+      if (i % spalten == 0) zeilenname = nullptr;
+      const bool frei = Waechst(k, Richtung::waagrecht) || k.art != Anordnung::Art::Element;
+      const Teil t = Bau(k, eltern);
+      if (!t) continue;
+      const bool fuellt = k.art == Anordnung::Art::Element &&
+                          (k.element->art == Art::Schild || k.element->art == Art::Taste ||
+                           (k.element->art == Art::Auswahl &&
+                            static_cast<const Auswahl&>(*k.element).form == Auswahl::Form::Klappliste));
+      Einsetzen(*gitter, t, zeile, spalte, frei || fuellt ? Qt::Alignment{} : Qt::AlignLeft);
+      if (Hat_beschriftung(k)) {
+        gitter->addWidget(Beschriftung(*k.element, t.widget, eltern), zeile, spalte - 1);
+      }
+      if (Waechst(k, Richtung::senkrecht)) gitter->setRowStretch(zeile, 1);
+      // Fields without a caption are called by the label that opens their row.
+      if (k.art != Anordnung::Art::Element) continue;
+      if (k.element->art == Art::Schild) {
+        zeilenname = t.widget;
+      } else if (zeilenname != nullptr && k.element->titel->empty()) {
+        t.widget->setAccessibleName(Q(*static_cast<const Steuerelement&>(*k.element).hinweis).isEmpty()
+                                        ? static_cast<const QLabel*>(zeilenname)->text()
+                                        : static_cast<const QLabel*>(zeilenname)->text() + ", " + Q(*k.element->hinweis));
+      }
+    }
+    if (std::ranges::none_of(waechst, [](bool b) { return b; })) gitter->setColumnStretch(ort[spalten], 1);
+    return gitter;
   }
 
   QWidget* Reiter_bauen(const Anordnung& a, QWidget* eltern) {
-    auto* const w = new QWidget(eltern);
-    auto* const spalte = Ausrichten(new QVBoxLayout(w));
     auto& wahl = static_cast<Auswahl&>(*a.element);
+    if (a.kinder.empty()) return Element(wahl, eltern);
+    auto* const w = new QWidget(eltern);
+    auto* const spalte = Ohne_rand(new QVBoxLayout(w));
     spalte->addWidget(Element(wahl, w));
     auto* const stapel = new QStackedWidget(w);
-    for (const Anordnung& k : a.kinder) {
-      QWidget* const seite = Bau(k, stapel);
-      stapel->addWidget(seite != nullptr ? seite : new QWidget(stapel));
-    }
+    for (const Anordnung& k : a.kinder) stapel->addWidget(Als_widget(k, stapel));
     spalte->addWidget(stapel, 1);
-    const auto eigenes = wahl.beobachter;
-    const auto blaettern = [&wahl, stapel] {
+    auf_.binden(wahl, [&wahl, stapel] {
       if (wahl.position() >= 0 && wahl.position() < stapel->count()) stapel->setCurrentIndex(wahl.position());
-    };
-    wahl.beobachter = [eigenes, blaettern] {
-      if (eigenes) eigenes();
-      blaettern();
-    };
-    blaettern();
+    });
     return w;
   }
 
   QWidget* Besonders_bauen(const Anordnung& a, QWidget* eltern) {
-    const auto bau = Besondere().find(a.titel);
-    if (bau != Besondere().end()) return bau->second(a, auf_, eltern, ergebnis_);
-    return Reihe(a, eltern, new QVBoxLayout);
+    if (const Besonderer_bau bau = Besonderer_bau_von(a.titel)) return bau(a, auf_, eltern, ergebnis_);
+    auto* const w = new QWidget(eltern);
+    w->setLayout(Spalte_bauen(a.kinder, w));
+    return w;
   }
 
   QMenu* Menue_bauen(const Anordnung& a, QWidget* eltern) {
@@ -269,14 +361,55 @@ class Baumeister {
   Gebautes& ergebnis_;
 };
 
-}  // namespace
+// `Command15` of `Command15(3)`.
+std::string Stamm(const std::string& name) { return name.substr(0, name.find('(')); }
 
-Gebautes Aufbauen(const Anordnung& a, Auffrischer& auf, QWidget* eltern) {
-  Gebautes ergebnis;
-  ergebnis.inhalt = Baumeister(auf, ergebnis).Bau(a, eltern);
-  return ergebnis;
+// Right button and menu key on the controls that have a popup menu or listen for it.
+void Kontextmenues_anhaengen(Auffrischer& auf, Gebautes& g) {
+  for (const auto& [element, widget] : g.widgets) {
+    if (widget->property("eigenes_menue").toBool()) continue;  // several controls in one painted widget
+    auto* const e = const_cast<Steuerelement*>(element);  // the map holds the form's own controls
+    const bool hoert = e->art == Art::Taste && static_cast<Taste*>(e)->wenn_rechts_gedrueckt != nullptr;
+    if (!hoert && !g.kontextmenues.contains(Stamm(e->name()))) continue;
+    widget->setContextMenuPolicy(Qt::CustomContextMenu);
+    QObject::connect(widget, &QWidget::customContextMenuRequested, widget, [e, w = widget, &g, &auf](QPoint p) {
+      Kontextmenue_zeigen(*e, g, auf, w->mapToGlobal(p));
+    });
+  }
 }
 
-void Besonders_anmelden(const std::string& name, Besonderer_bau bau) { Besondere()[name] = std::move(bau); }
+}  // namespace
+
+void Kontextmenue_zeigen(Steuerelement& e, const Gebautes& g, Auffrischer& auf, QPoint stelle) {
+  if (!e.frei || !e.sichtbar) return;
+  if (e.art == Art::Taste && static_cast<Taste&>(e).wenn_rechts_gedrueckt) {
+    Handeln([&e] { static_cast<Taste&>(e).rechts_druecken(); });
+  }
+  const auto menue = g.kontextmenues.find(Stamm(e.name()));
+  if (menue == g.kontextmenues.end()) return;
+  auf.nachholen();
+  menue->second->popup(stelle);
+}
+
+QWidget* Teil_bauen(const Anordnung& a, Auffrischer& auf, QWidget* eltern, Gebautes& ergebnis) {
+  return Baumeister(auf, ergebnis).Als_widget(a, eltern);
+}
+
+void Aufbauen(const Anordnung& a, Auffrischer& auf, QWidget* eltern, Gebautes& ergebnis) {
+  Baumeister meister(auf, ergebnis);
+  // The dialog's buttons stay outside of what may have to scroll.
+  Anordnung inhalt = a;
+  Anordnung knoepfe;
+  if (a.art == Anordnung::Art::Spalte) {
+    const auto zeile = std::ranges::find(inhalt.kinder, Anordnung::Art::Knopfzeile, &Anordnung::art);
+    if (zeile != inhalt.kinder.end()) {
+      knoepfe = *zeile;
+      inhalt.kinder.erase(zeile);
+    }
+  }
+  ergebnis.inhalt = meister.Als_widget(inhalt, eltern);
+  if (knoepfe.art == Anordnung::Art::Knopfzeile) ergebnis.knopfzeile = meister.Als_widget(knoepfe, eltern);
+  Kontextmenues_anhaengen(auf, ergebnis);
+}
 
 }  // namespace zav::fenster

@@ -1,6 +1,7 @@
 // Turns a form's layout tree into widgets.
 #pragma once
 
+#include <QLayout>
 #include <QMenu>
 #include <QWidget>
 #include <functional>
@@ -17,16 +18,25 @@ namespace zav::fenster {
 // What came of a layout tree.
 struct Gebautes {
   QWidget* inhalt = nullptr;
+  QWidget* knopfzeile = nullptr;                     // the dialog's own buttons, when they end the tree
   std::vector<QMenu*> menues;                        // top-level menus, in order
   std::map<std::string, QMenu*> kontextmenues;       // by title
   std::map<const Steuerelement*, QWidget*> widgets;  // of every control but menu items
 };
 
-Gebautes Aufbauen(const Anordnung& a, Auffrischer& auffrischer, QWidget* eltern);
+// Fills `ergebnis`, which painted widgets keep: it must live as long as they do. A popup menu opens on the
+// controls whose name is its title ("Command15" for Command15(0) to Command15(23)).
+void Aufbauen(const Anordnung& a, Auffrischer& auffrischer, QWidget* eltern, Gebautes& ergebnis);
+
+// Opens the popup menu of a control at a place of the screen, after the control's own handler for the right button.
+void Kontextmenue_zeigen(Steuerelement& e, const Gebautes& g, Auffrischer& auffrischer, QPoint stelle);
 
 // A painted widget for a node Besonders(name, ...): gets the node (its children are the controls that it shows and
-// serves) and builds the widget. Registered once at program start; an unknown name is laid out as a column.
-using Besonderer_bau = std::function<QWidget*(const Anordnung&, Auffrischer&, QWidget* eltern, Gebautes&)>;
-void Besonders_anmelden(const std::string& name, Besonderer_bau bau);
+// serves) and builds the widget; adds to `widgets` what it shows. An unknown name is laid out as a column.
+using Besonderer_bau = QWidget* (*)(const Anordnung&, Auffrischer&, QWidget* eltern, Gebautes&);
+Besonderer_bau Besonderer_bau_von(const std::string& name);
+
+// For the builders of painted widgets: the tree below a node as one widget.
+QWidget* Teil_bauen(const Anordnung& a, Auffrischer& auffrischer, QWidget* eltern, Gebautes& ergebnis);
 
 }  // namespace zav::fenster

@@ -5,9 +5,12 @@
 #include <QPainter>
 #include <QPalette>
 #include <QSvgRenderer>
+#include <algorithm>
 #include <array>
+#include <functional>
 #include <string_view>
 
+#include "zavlink/apparatbild.h"
 #include "zavlink/qt_text.h"
 
 namespace zav::fenster {
@@ -51,40 +54,59 @@ constexpr std::array zeichnungen{
     Zeichnung{"kopieren", "M8 8h12v12H8z", "M4 16V4h12"},
     Zeichnung{"ausschneiden", "M6 15a3 3 0 1 0 .1 0z M18 15a3 3 0 1 0 .1 0z", "M8 16L18 3 M16 16L6 3"},
     Zeichnung{"einfuegen", "M6 5H4v16h16V5h-2", "M8 3h8v4H8z"},
+    Zeichnung{"glocke", "M6 17V11a6 6 0 0 1 12 0v6l2 2H4z", "M10 21h4"},
+    Zeichnung{"wand", "M4 4h16v16H4z M12 4v16 M4 12h16", "M8 8h.1 M16 8h.1"},
+    Zeichnung{"punkt", "M12 9a3 3 0 1 0 .1 0z", ""},
     Zeichnung{"belegt", "", "M12 8a4 4 0 1 0 .1 0z"},
 };
 
-QPixmap Malen(const Zeichnung& z, int groesse, QColor linie, QColor akzent) {
+QPixmap Gemalt(int groesse, const std::function<void(QPainter&, const QRectF&)>& malen) {
+  QPixmap bild(groesse, groesse);
+  bild.fill(Qt::transparent);
+  QPainter p(&bild);
+  malen(p, QRectF(0, 0, groesse, groesse));
+  return bild;
+}
+
+// Number behind a prefix ("layout-" in "layout-3"); -1 when the name does not begin so.
+int Nummer_nach(const std::string& name, std::string_view vorsilbe) {
+  return name.starts_with(vorsilbe) ? Q(name).mid(static_cast<qsizetype>(vorsilbe.size())).toInt() : -1;
+}
+
+void Bild_malen(QPainter& p, const QRectF& r, const std::string& name, const QColor& linie, const QColor& akzent) {
+  if (const int typ = Nummer_nach(name, "apparat-"); typ >= 0) return Apparat_malen(p, r, {.typ = typ});
+  if (const int nummer = Nummer_nach(name, "layout-"); nummer >= 0) return Layout_malen(p, r, nummer, linie, akzent);
+  Symbol_malen(p, r, name, linie, akzent);
+}
+
+}  // namespace
+
+void Symbol_malen(QPainter& p, const QRectF& r, std::string_view name, const QColor& linie, const QColor& akzent) {
+  const auto z = std::ranges::find(zeichnungen, name, &Zeichnung::name);
+  if (z == zeichnungen.end()) return;
   const auto pfad = [](std::string_view d, const QColor& farbe) {
     return QString("<path d='%1' fill='none' stroke='%2' stroke-width='1.8' stroke-linecap='round' "
                    "stroke-linejoin='round'/>")
         .arg(Q(d), farbe.name());
   };
-  const QString svg = "<svg xmlns='http://www.w3.org/2000/svg' viewBox='0 0 24 24'>" + pfad(z.linien, linie) +
-                      pfad(z.akzent, akzent) + "</svg>";
-  QSvgRenderer maler(svg.toUtf8());
-  QPixmap bild(groesse, groesse);
-  bild.fill(Qt::transparent);
-  QPainter p(&bild);
-  maler.render(&p);
-  return bild;
+  const QString svg = "<svg xmlns='http://www.w3.org/2000/svg' viewBox='0 0 24 24'>" + pfad(z->linien, linie) +
+                      pfad(z->akzent, akzent) + "</svg>";
+  QSvgRenderer(svg.toUtf8()).render(&p, r);
 }
-
-}  // namespace
 
 QIcon Symbolbild(const std::string& name) {
   static QHash<QString, QIcon> fertige;
   const QPalette palette = QApplication::palette();
-  const QString schluessel = Q(name) + palette.windowText().color().name();
+  const QColor linie = palette.color(QPalette::WindowText);
+  const QString schluessel = Q(name) + linie.name();
   if (const auto i = fertige.constFind(schluessel); i != fertige.constEnd()) return *i;
+  const QColor akzent = palette.color(QPalette::Highlight);
+  const QColor blass = palette.color(QPalette::Disabled, QPalette::WindowText);
   QIcon symbol;
-  for (const Zeichnung& z : zeichnungen) {
-    if (z.name != name) continue;
-    const QColor blass = palette.color(QPalette::Disabled, QPalette::WindowText);
-    for (const int groesse : {16, 24, 32, 48, 64}) {
-      symbol.addPixmap(Malen(z, groesse, palette.windowText().color(), palette.highlight().color()));
-      symbol.addPixmap(Malen(z, groesse, blass, blass), QIcon::Disabled);
-    }
+  for (const int groesse : {18, 24, 36, 48}) {
+    symbol.addPixmap(Gemalt(groesse, [&](QPainter& p, const QRectF& r) { Bild_malen(p, r, name, linie, akzent); }));
+    symbol.addPixmap(Gemalt(groesse, [&](QPainter& p, const QRectF& r) { Bild_malen(p, r, name, blass, blass); }),
+                     QIcon::Disabled);
   }
   fertige.insert(schluessel, symbol);
   return symbol;

@@ -3,11 +3,17 @@
 #pragma once
 
 #include <QIcon>
+#include <QRectF>
 #include <string>
+#include <string_view>
+
+class QPainter;
 
 namespace zav::fenster {
 
-// The icon of that name; an empty icon for an unknown one.
+// The icon of that name; an empty icon for an unknown one. "apparat-N" and "layout-N" are pictures of the catalogue.
 QIcon Symbolbild(const std::string& name);
+// Paints a symbol in two given tones; nothing for an unknown name.
+void Symbol_malen(QPainter& p, const QRectF& r, std::string_view name, const QColor& linie, const QColor& akzent);
 
 }  // namespace zav::fenster

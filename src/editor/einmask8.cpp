@@ -13,8 +13,10 @@ Einmask8::Einmask8(Tueren tueren)
   Elemente_anmelden();
   Handler_setzen();
 
-  Text6.nur_lesen = true;
-  Text7.nur_lesen = true;
+  for (Textfeld* t : {&Text6, &Text7}) {
+    t->nur_lesen = true;
+    t->breite = 3;
+  }
   Cancel.abbruch = true;
   for (Auswahl& liste : Combo_LED) liste.hinweis = "Tasten-LED mit einem Ausgang in dieser Liste verknüpfen";
   Command2.hinweis = "Adresse des Apparats vergeben oder ändern";

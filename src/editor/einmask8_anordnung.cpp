@@ -17,15 +17,14 @@ Anordnung Einmask8::anordnung() {
   }
   return Spalte(
       Menue("&Kombination", mnuImport, mnuSend),
-      Zeile(Spalte(Text_Suche, TreeView1, Zeile(Text6, Text7), Zeile(Command9, Command_Layout, Command13),
-                   Label1),
-            Gruppe(Frame1, Besonders("apparaterahmen", Alle(Image3)),
-                   Zeile(Command11, Command12, Command4, Command3)),
+      Zeile(Spalte(Text_Suche, TreeView1, Zeile(Text6, Text7), Label1),
+            Gruppe(Frame1, Besonders("apparaterahmen", Alle(Image3))),
             Gruppe(Frame2, Zeile(Label_Adresse, Command2), Zeile(Command_Wetter, Command_Enocean),
                    Zeile(Slider20, Label_Lux), std::move(zeilen))),
       Kontextmenue("Image3", mnuChoose, mnuChooseEnocean, mnuCut, mnuCopy, mnuPaste, mnuDelete),
       Kontextmenue("Command15", mnuCommand7, mnuEigenschaften, mnuRucksuch, mnuOn, mnuOff, mnuShort),
-      Knopfzeile(Cancel));
+      Knopfzeile(Command9, Command_Layout, Command13, Feder(), Command11, Command12, Command4, Command3, Feder(),
+                 Cancel));
 }
 
 }  // namespace zav

@@ -56,7 +56,7 @@ void Einmask8::Baum_zeigen() {
     knoten.push_back({.schluessel = Schluessel(k),
                       .text = projekt.Komb_text2[k],
                       .eltern = standorte.at(projekt.Komb_text[k]),
-                      .bild = "wetter",
+                      .bild = "eingaenge",
                       .offen = true});
   }
   TreeView1.fuellen(std::move(knoten));

@@ -20,18 +20,19 @@ Anordnung Funktionsmaske::anordnung() {
               Intens[i], Tempo[i]);
   }
   dimmer.spalten = static_cast<int>(dimmer.kinder.size() / dimmer_je_gruppe);
-  Anhaengen(dimmer.kinder, Zusatzzellen(dimmer_je_gruppe), Leer(), Leer(), Leer(), Slider2, Leer(),
-            Tempo.back());
 
   const Anordnung seite_schalten =
       Spalte(Gruppe("ZAVswitch, ZAVmotor: Oxx", Baugruppe),
-             Gruppe(Frame1, Raster(3, Zeilenweise(Check1, Text1, Combo1))),
-             Gruppe("Auswahl gilt für ZAVswitch und ZAVmotor",
-                    Zeile(Alle_8_aus, Alle_8_ein, Alle_8_neutral, Feder()),
-                    Zeile(Storen_auf, Storen_ab, Storen_stop, Feder()),
-                    Zeile(Alle_512_aus, Alle_512_neutral, Feder(), Ausgaenge_testen, Ansicht[0])));
+             Zeile(Gruppe(Frame1, Raster(3, Zeilenweise(Check1, Text1, Combo1))),
+                   Gruppe("Auswahl gilt für ZAVswitch und ZAVmotor",
+                          Raster(3, Alle_8_aus, Alle_8_ein, Alle_8_neutral, Storen_auf, Storen_ab, Storen_stop,
+                                 Alle_512_aus, Alle_512_neutral),
+                          Feder(), Zeile(Ausgaenge_testen, Ansicht[0], Feder()))));
+  Anordnung alle_dimmer = Zeile(Slider2, Tempo.back());
+  Anhaengen(alle_dimmer.kinder, Zusatzzellen(dimmer_je_gruppe));
   const Anordnung seite_dimmen =
-      Spalte(Gruppe("ZAVdimmer, ZAVmodul: Dxx", Dimmbaugruppe), Gruppe(Frame2, std::move(dimmer)),
+      Spalte(Gruppe("ZAVdimmer, ZAVmodul: Dxx", Dimmbaugruppe),
+             Gruppe(Frame2, std::move(dimmer), std::move(alle_dimmer)),
              Zeile(Alle_4_neutral, Alle_128_aus, Alle_128_neutral, Feder(), Ansicht[1]));
 
   return Spalte(Zeile(Label1, Label2, Label3, Feder()),

@@ -62,6 +62,7 @@ Timer_trepp::Timer_trepp() : Formular("Timer_trepp", "Timer Manager") {
   }
   for (int z = 0; z < timeranzahl * zeiten_je_timer; ++z) {
     Ttime[z].setzen(projekt.Timer_zeit[z].empty() ? maske : projekt.Timer_zeit[z]);
+    Ttime[z].breite = 12;
     Ttime[z].hinweis = "Zeit in Stunden, Minuten und Sekunden des Ereignisses";
     Ttime[z].wenn_verlassen = [this, z] { Zeit_pruefen(z); };
   }

@@ -180,6 +180,7 @@ class Textfeld final : public Steuerelement {
   std::function<void()> wenn_verlassen;  // the focus leaves the field
   Eigenschaft<bool> nur_lesen{*this, false};
   std::size_t hoechstlaenge = 0;  // in characters, 0 = no limit
+  std::size_t breite = 0;         // characters to show at a time, 0 = by hoechstlaenge
   bool mehrzeilig = false;
 
   const std::string& text() const { return text_; }

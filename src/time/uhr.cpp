@@ -58,6 +58,7 @@ void Uhr::Verdrahten() {
     Schaltzweck_txt[i].hinweis = "Bezeichung der Aufgabe, z. B. 'Weck-Szene' oder 'Aussenlicht'";
     Schaltzweck_txt[i].wenn_betreten = Schaltzweck_txt[i].wenn_geaendert = [this, r] { Zeile_waehlen(r); };
     Schaltzeit_txt[i].nur_lesen = true;
+    Schaltzeit_txt[i].breite = 20;
     Schaltzeit_txt[i].hinweis = "Anzeige der Schaltzeit";
     Zeitsetz[i].bild = "uhr";
     Zeitsetz[i].hinweis = "Eingabe der Schaltzeit";

@@ -21,6 +21,7 @@ Uhr_Astro_Rechner::Uhr_Astro_Rechner() : Formular("Uhr_Astro_Rechner", "Sonnen-I
   anmelden("Command1", Command1);
 
   for (Textfeld* t : {&Text4, &Text5, &Text6, &Text7, &Text8, &Text9}) t->nur_lesen = true;
+  for (Textfeld* t : {&Text4, &Text5, &Text6, &Text7, &Text8}) t->breite = 10;
   Text1.hoechstlaenge = 10;
   Text9.mehrzeilig = true;
   Text9.setzen(

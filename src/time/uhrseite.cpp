@@ -50,6 +50,7 @@ void Uhrseite::Verdrahten() {
   Dat[0].titel = "Datum";
   Label1[0].titel = "Auf Sommerzeit";
   Label1[1].titel = "Auf Winterzeit";
+  Akt_zeit.breite = 12;
   Akt_zeit.hinweis = "HH.MM.SS oder HH.MM";
   Akt_zeit.wenn_geaendert = [this] { zeit_getippt_ = true; };
   Akt_zeit.wenn_verlassen = [this] { Zeit_eingegeben(); };

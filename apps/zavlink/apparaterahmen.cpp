@@ -1,0 +1,203 @@
+#include "zavlink/apparaterahmen.h"
+
+#include <QContextMenuEvent>
+#include <QHelpEvent>
+#include <QKeyEvent>
+#include <QPainter>
+#include <QShortcut>
+#include <QToolTip>
+#include <algorithm>
+
+#include "editor/einmask8.h"
+#include "store/katalog.h"
+#include "zavlink/apparatbild.h"
+#include "zavlink/farben.h"
+#include "zavlink/qt_text.h"
+
+namespace zav::fenster {
+
+namespace {
+
+constexpr double platz_kleinst = 64, platz_groesst = 176;
+constexpr double abstand = 6;
+constexpr double rahmenrand = 12;
+
+class Apparaterahmen final : public QWidget {
+ public:
+  Apparaterahmen(Einmask8& form, Auffrischer& auf, Gebautes& g, QWidget* eltern)
+      : QWidget(eltern), form_(form), auf_(auf), gebautes_(g) {
+    setFocusPolicy(Qt::StrongFocus);
+    setMouseTracking(true);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+    setAccessibleName("Apparate der Kombination");
+    tastenkuerzel(QKeySequence::Cut, form.Command11);
+    tastenkuerzel(QKeySequence::Copy, form.Command12);
+    tastenkuerzel(QKeySequence::Paste, form.Command4);
+    tastenkuerzel(QKeySequence::Delete, form.Command3);
+  }
+
+  QSize sizeHint() const override { return {46 * raster, 72 * raster}; }
+  QSize minimumSizeHint() const override { return {36 * raster, 36 * raster}; }
+
+  void beschreiben() {
+    const int p = form_.platz();
+    if (p >= 0) setAccessibleDescription("Platz " + QString::number(p + 1) + ": " + titel(p));
+    update();
+  }
+
+ protected:
+  void paintEvent(QPaintEvent*) override {
+    QPainter p(this);
+    p.setRenderHint(QPainter::Antialiasing);
+    if (form_.kombination() < 0) {
+      p.setPen(palette().color(QPalette::PlaceholderText));
+      p.drawText(rect(), Qt::AlignCenter | Qt::TextWordWrap, "Links eine Kombination wählen\noder eine neue anlegen.");
+      return;
+    }
+    // The frame is as large as its plates.
+    QRectF rahmen;
+    for (int i = 0; i < plaetze; ++i) {
+      if (da(i)) rahmen = rahmen.united(ort(i));
+    }
+    const bool dunkel = palette().color(QPalette::Window).lightness() < 128;
+    p.setPen(QPen(palette().color(QPalette::Mid), 1));
+    p.setBrush(dunkel ? QColor(70, 76, 84) : QColor(232, 234, 237));
+    p.drawRoundedRect(rahmen.adjusted(-rahmenrand, -rahmenrand, rahmenrand, rahmenrand), 8, 8);
+    for (int i = 0; i < plaetze; ++i) {
+      if (!da(i)) continue;
+      Apparat_malen(p, ort(i), bild(i));
+      if (i != form_.platz()) continue;
+      p.setBrush(Qt::NoBrush);
+      p.setPen(QPen(palette().color(QPalette::Highlight), hasFocus() ? 4 : 3));
+      p.drawRoundedRect(ort(i).adjusted(-2, -2, 2, 2), 7, 7);
+    }
+  }
+
+  void mousePressEvent(QMouseEvent* e) override {
+    if (e->button() == Qt::LeftButton) waehlen(platz_bei(e->position()));
+  }
+  void mouseDoubleClickEvent(QMouseEvent* e) override {
+    const int i = platz_bei(e->position());
+    if (i >= 0 && Apparat_art(typ(i)) == nullptr) Handeln([this] { druecken(form_.mnuChoose); });
+  }
+  void contextMenuEvent(QContextMenuEvent* e) override {
+    const bool maus = e->reason() == QContextMenuEvent::Mouse;
+    const int i = maus ? platz_bei(e->pos()) : form_.platz();
+    if (i < 0) return;
+    setFocus();
+    Kontextmenue_zeigen(form_.Image3.at(static_cast<std::size_t>(i)), gebautes_, auf_,
+                        maus ? e->globalPos() : mapToGlobal(ort(i).center().toPoint()));
+  }
+  void keyPressEvent(QKeyEvent* e) override {
+    int spalte = 0;
+    int zeile = 0;
+    switch (e->key()) {
+      case Qt::Key_Left: spalte = -1; break;
+      case Qt::Key_Right: spalte = 1; break;
+      case Qt::Key_Up: zeile = -1; break;
+      case Qt::Key_Down: zeile = 1; break;
+      case Qt::Key_Return:
+      case Qt::Key_Enter:
+      case Qt::Key_Space:
+        if (form_.platz() >= 0 && Apparat_art(typ(form_.platz())) == nullptr) Handeln([this] { druecken(form_.mnuChoose); });
+        return;
+      default: QWidget::keyPressEvent(e); return;
+    }
+    const int platz = std::max(0, form_.platz());
+    const int neue_spalte = platz % 4 + spalte;
+    const int neu = 4 * (platz / 4 + zeile) + neue_spalte;
+    if (neue_spalte >= 0 && neue_spalte < 4 && neu >= 0 && neu < plaetze) waehlen(neu);
+  }
+  void focusInEvent(QFocusEvent* e) override {
+    QWidget::focusInEvent(e);
+    update();
+  }
+  void focusOutEvent(QFocusEvent* e) override {
+    QWidget::focusOutEvent(e);
+    update();
+  }
+  bool event(QEvent* e) override {
+    if (e->type() != QEvent::ToolTip) return QWidget::event(e);
+    auto* const hilfe = static_cast<QHelpEvent*>(e);
+    const int i = platz_bei(hilfe->pos());
+    QToolTip::showText(hilfe->globalPos(), i < 0 ? QString() : titel(i), this);
+    return true;
+  }
+
+ private:
+  void tastenkuerzel(QKeySequence::StandardKey folge, Taste& t) {
+    auto* const kuerzel = new QShortcut(QKeySequence(folge), this);
+    kuerzel->setContext(Qt::WidgetShortcut);
+    connect(kuerzel, &QShortcut::activated, this, [this, &t] { Handeln([this, &t] { druecken(t); }); });
+  }
+  static void druecken(Taste& t) {
+    if (t.frei && t.sichtbar) t.druecken();
+  }
+
+  bool da(int i) const { return form_.Image3.at(static_cast<std::size_t>(i)).sichtbar; }
+  int apparat(int i) const { return plaetze * form_.kombination() + i; }
+  int typ(int i) const { return projekt.App_typ[apparat(i)]; }
+  QString titel(int i) const {
+    const Taste& t = form_.Image3.at(static_cast<std::size_t>(i));
+    return t.titel->empty() ? QStringLiteral("Leerer Platz: Doppelklick wählt einen Apparat") : Q(*t.titel);
+  }
+
+  QRectF ort(int i) const {
+    const Layout* const layout = Layout_von(projekt.Komb_layout[form_.kombination()]);
+    const int spalten = layout == nullptr ? 4 : layout->spalten;
+    const int zeilen = layout == nullptr ? 4 : layout->zeilen;
+    const double mass = std::clamp(std::min((width() - 2 * rahmenrand - 4) / spalten, (height() - 2 * rahmenrand - 4) / zeilen) - abstand,
+                                   platz_kleinst, platz_groesst);
+    const double links = (width() - spalten * (mass + abstand) + abstand) / 2;
+    const int zeile = i / 4;
+    return {links + i % 4 * (mass + abstand), rahmenrand + 2 + zeile * (mass + abstand), mass, mass};
+  }
+  int platz_bei(QPointF p) const {
+    if (form_.kombination() < 0) return -1;
+    for (int i = 0; i < plaetze; ++i) {
+      if (da(i) && ort(i).contains(p)) return i;
+    }
+    return -1;
+  }
+  void waehlen(int i) {
+    if (i < 0 || !da(i)) return;
+    Handeln([this, i] { form_.Image3.at(static_cast<std::size_t>(i)).druecken(); });
+  }
+
+  Apparatbild bild(int i) const {
+    Apparatbild b{.typ = typ(i)};
+    for (int n = 0; n < 8; ++n) {
+      const int slot = Apparat_textslot(projekt, apparat(i), n);
+      auto& taste = b.tasten.at(static_cast<std::size_t>(n));
+      taste.text = slot < 0 ? QString() : Q(projekt.Dev_text[slot]);
+      taste.belegt = form_.Taste_belegt(i, n);
+    }
+    if (const auto lauf = Apparat_adressen(projekt, apparat(i)); lauf && lauf->anzahl > 0) {
+      b.adresse = "i" + QString::number(lauf->von);
+    }
+    return b;
+  }
+
+  Einmask8& form_;
+  Auffrischer& auf_;
+  Gebautes& gebautes_;
+};
+
+}  // namespace
+
+QWidget* Apparaterahmen_bauen(const Anordnung& a, Auffrischer& auf, QWidget* eltern, Gebautes& ergebnis) {
+  auto& form = dynamic_cast<Einmask8&>(*a.kinder.at(0).element->formular());
+  auto* const w = new Apparaterahmen(form, auf, ergebnis, eltern);
+  w->setProperty("eigenes_menue", true);
+  for (Taste& platz : form.Image3) {
+    ergebnis.widgets[&platz] = w;
+    auf.binden(platz, [w] { w->beschreiben(); });
+  }
+  // Texts and events of the page beside it show on the keys.
+  for (Textfeld& t : form.TTxt) auf.binden(t, [w] { w->update(); });
+  for (Taste& t : form.Command15) auf.binden(t, [w] { w->update(); });
+  auf.binden(form.Frame1, [w] { w->update(); });
+  return w;
+}
+
+}  // namespace zav::fenster

@@ -1,0 +1,121 @@
+#include "zavlink/aussehen.h"
+
+#include <QApplication>
+#include <QLibraryInfo>
+#include <QLocale>
+#include <QPainter>
+#include <QStyleOption>
+#include <QTranslator>
+#include <algorithm>
+
+#include "zavlink/farben.h"
+
+namespace zav::fenster {
+
+namespace {
+
+constexpr int hoehe_ziel = 28;  // of buttons, fields and lists
+constexpr double rundung = 4;
+
+// A flat key: face, line around it, and a ring in the highlight's colour when it has the keyboard.
+void Flaeche_malen(QPainter& p, const QStyleOption& o, bool vorgabe) {
+  const QStyle::State z = o.state;
+  const bool frei = z.testFlag(QStyle::State_Enabled);
+  QColor flaeche = o.palette.color(QPalette::Button);
+  if (!frei) flaeche = o.palette.color(QPalette::Window);
+  if (z.testFlag(QStyle::State_Sunken)) flaeche = flaeche.darker(115);
+  else if (frei && z.testFlag(QStyle::State_MouseOver)) flaeche = flaeche.lightness() < 128 ? flaeche.lighter(115) : flaeche.darker(104);
+  const bool gedrueckt = z.testFlag(QStyle::State_On);
+  const bool ring = frei && (vorgabe || gedrueckt || (z.testFlag(QStyle::State_HasFocus) && z.testFlag(QStyle::State_KeyboardFocusChange)));
+  p.save();
+  p.setRenderHint(QPainter::Antialiasing);
+  p.setBrush(flaeche);
+  p.setPen(QPen(ring ? QApplication::palette().color(QPalette::Highlight) : QApplication::palette().color(QPalette::Mid), gedrueckt ? 2 : 1));
+  p.drawRoundedRect(QRectF(o.rect).adjusted(1, 1, -1, -1), rundung, rundung);
+  p.restore();
+}
+
+}  // namespace
+
+Stil::Stil() : QProxyStyle("Fusion") {}
+
+int Stil::pixelMetric(PixelMetric m, const QStyleOption* o, const QWidget* w) const {
+  switch (m) {
+    case PM_ButtonIconSize: return 18;
+    case PM_SmallIconSize: return 18;
+    case PM_TabBarTabHSpace: return static_cast<int>(2.5 * raster);
+    default: return QProxyStyle::pixelMetric(m, o, w);
+  }
+}
+
+int Stil::styleHint(StyleHint h, const QStyleOption* o, const QWidget* w, QStyleHintReturn* r) const {
+  if (h == SH_EtchDisabledText) return 0;
+  if (h == SH_DialogButtonBox_ButtonsHaveIcons) return 0;
+  return QProxyStyle::styleHint(h, o, w, r);
+}
+
+QSize Stil::sizeFromContents(ContentsType t, const QStyleOption* o, const QSize& s, const QWidget* w) const {
+  QSize g = QProxyStyle::sizeFromContents(t, o, s, w);
+  switch (t) {
+    case CT_PushButton:
+      if (w != nullptr && w->property("links").toBool()) g.setWidth(g.width() + 2 * raster);
+      g.setHeight(std::max(g.height(), hoehe_ziel));
+      break;
+    case CT_LineEdit:
+    case CT_ComboBox: g.setHeight(std::max(g.height(), hoehe_ziel)); break;
+    case CT_MenuItem:
+    case CT_MenuBarItem:
+    case CT_TabBarTab: g.setHeight(std::max(g.height(), hoehe_ziel + 2)); break;
+    default: break;
+  }
+  return g;
+}
+
+void Stil::drawControl(ControlElement e, const QStyleOption* o, QPainter* p, const QWidget* w) const {
+  if (e == CE_PushButtonBevel) {
+    const auto* const knopf = qstyleoption_cast<const QStyleOptionButton*>(o);
+    if (knopf != nullptr && !knopf->features.testFlag(QStyleOptionButton::HasMenu)) {
+      Flaeche_malen(*p, *o, knopf->features.testFlag(QStyleOptionButton::DefaultButton));
+      return;
+    }
+  }
+  if (e == CE_PushButtonLabel && w != nullptr && w->property("links").toBool()) {
+    // A picture with its name: in a column they stand in line.
+    const auto& knopf = *qstyleoption_cast<const QStyleOptionButton*>(o);
+    QRect platz = o->rect.adjusted(raster, 0, -raster, 0);
+    knopf.icon.paint(p, QRect(platz.topLeft(), QSize(knopf.iconSize.width(), platz.height())));
+    platz.setLeft(platz.left() + knopf.iconSize.width() + raster);
+    drawItemText(p, platz, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextShowMnemonic, o->palette,
+                 o->state.testFlag(State_Enabled), knopf.text, QPalette::ButtonText);
+    return;
+  }
+  if (e == CE_TabBarTabShape) {
+    // The chosen page is underlined; the strip itself is one line.
+    const bool gewaehlt = o->state.testFlag(State_Selected);
+    const QRect r = o->rect;
+    p->fillRect(QRect(r.left(), r.bottom(), r.width(), 1), o->palette.color(QPalette::Mid));
+    if (o->state.testFlag(State_MouseOver) && !gewaehlt) p->fillRect(r.adjusted(0, 0, 0, -1), o->palette.color(QPalette::Midlight));
+    if (gewaehlt) p->fillRect(QRect(r.left(), r.bottom() - 2, r.width(), 3), o->palette.color(QPalette::Highlight));
+    return;
+  }
+  QProxyStyle::drawControl(e, o, p, w);
+}
+
+void Stil::drawPrimitive(PrimitiveElement e, const QStyleOption* o, QPainter* p, const QWidget* w) const {
+  if (e == PE_PanelButtonTool && w != nullptr && w->property("leiste").toBool()) {
+    Flaeche_malen(*p, *o, false);
+    return;
+  }
+  QProxyStyle::drawPrimitive(e, o, p, w);
+}
+
+void Aussehen_setzen(Thema thema) {
+  const bool dunkel = thema == Thema::dunkel || (thema == Thema::wie_arbeitsplatz && Dunkel_gewuenscht());
+  QApplication::setStyle(new Stil);
+  QApplication::setPalette(dunkel ? Palette_dunkel() : Palette_hell());
+  QLocale::setDefault(QLocale(QLocale::German, QLocale::Switzerland));
+  static QTranslator texte;
+  if (texte.load("qtbase_de", QLibraryInfo::path(QLibraryInfo::TranslationsPath))) QApplication::installTranslator(&texte);
+}
+
+}  // namespace zav::fenster

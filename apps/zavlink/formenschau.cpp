@@ -1,0 +1,92 @@
+#include "zavlink/formenschau.h"
+
+#include <algorithm>
+
+#include "editor/actmask.h"
+#include "editor/actmask_init.h"
+#include "editor/actmask_timer.h"
+#include "editor/actmask_uhr.h"
+#include "editor/apparatwahl.h"
+#include "editor/auswahl_taster.h"
+#include "editor/backref.h"
+#include "editor/dialog_kombination.h"
+#include "editor/dimmermode.h"
+#include "editor/einmask.h"
+#include "editor/einmask8.h"
+#include "editor/layoutwahl.h"
+#include "editor/timer_trepp.h"
+#include "editor/touchpanel_referenz.h"
+#include "store/projekt.h"
+#include "time/form_setup_uhr.h"
+#include "time/uhr.h"
+#include "time/uhr_astro.h"
+#include "time/uhr_astro_rechner.h"
+#include "time/uhrseite.h"
+
+namespace zav::fenster {
+
+namespace {
+
+// The first index of a field that holds something, 0 when none does.
+template <class F>
+int Erstes(const F& leer, int anzahl) {
+  for (int i = 0; i < anzahl; ++i) {
+    if (leer[i] != 0) return i;
+  }
+  return 0;
+}
+
+template <class F, class... A>
+std::function<std::unique_ptr<Formular>()> Stueck(A... argumente) {
+  return [=] { return std::make_unique<F>(argumente...); };
+}
+
+// A form, brought to a state by the user's acts.
+template <class F, class... A>
+std::function<std::unique_ptr<Formular>()> Stueck_nach(std::function<void(F&)> taten, A... argumente) {
+  return [=]() -> std::unique_ptr<Formular> {
+    auto f = std::make_unique<F>(argumente...);
+    taten(*f);
+    return f;
+  };
+}
+
+}  // namespace
+
+std::vector<Schaustueck> Formenschau() {
+  const int ereignis = Erstes(projekt.Ein_leer, 1024);
+  const int uhr_sonne = Erstes(projekt.Uhr_astro, 256);
+  const auto seite = [](int n) { return [n](Actmask& f) { f.TabStrip1.waehlen(n); }; };
+  return {
+      {"einmask8", Stueck<Einmask8>()},
+      {"einmask8-wetter", Stueck_nach<Einmask8>([](Einmask8& f) {
+         for (const auto& k : f.TreeView1.knoten()) {
+           if (k.text.find("etter") != std::string::npos) return f.TreeView1.waehlen(k.schluessel);
+         }
+       })},
+      {"layoutwahl", Stueck<Layoutwahl>(0)},
+      {"apparatwahl", Stueck<Apparatwahl>(std::string("Feller + Diverse auswählen"), Apparate_feller())},
+      {"apparatwahl-enocean", Stueck<Apparatwahl>(std::string("Enocean + Diverse auswählen"), Apparate_enocean())},
+      {"adressen", Stueck<Dialog_Kombination>(std::string("12"), 2)},
+      {"funktionen-schalten", Stueck<Actmask>(ereignis, std::string("Erdgeschoss - Küche - Licht"))},
+      {"funktionen-dimmen", Stueck_nach<Actmask>(seite(1), ereignis, std::string("Erdgeschoss - Küche - Licht"))},
+      {"funktionen-timer", Stueck_nach<Actmask>(seite(2), ereignis, std::string("Erdgeschoss - Küche - Licht"))},
+      {"neustart", Stueck<Actmask_init>()},
+      {"neustart-dimmen", Stueck_nach<Actmask_init>([](Actmask_init& f) { f.TabStrip1.waehlen(1); })},
+      {"dimmermodus", Stueck<Dimmermode>()},
+      {"timer", Stueck<Timer_trepp>()},
+      {"gruppen", Stueck<Einmask>()},
+      {"taster", Stueck<Auswahl_Taster>()},
+      {"taster-2005", Stueck<Auswahl_Taster_2>()},
+      {"suche", Stueck<Backref>()},
+      {"touchpanel", Stueck<Touchpanel_Referenz>()},
+      {"schaltuhren", Stueck<Uhr>()},
+      {"sequenzer", Stueck<Form_Setup_uhr>()},
+      {"schaltzeit", Stueck<Uhr_Astro>(uhr_sonne, std::string("Aussenlicht"), std::string("Untergang"))},
+      {"schaltzeit-fest", Stueck<Uhr_Astro>(0, std::string("Storen auf"), std::string("06.30.00"))},
+      {"sonnen-info", Stueck<Uhr_Astro_Rechner>()},
+      {"uhr-stellen", Stueck<Uhrseite>()},
+  };
+}
+
+}  // namespace zav::fenster

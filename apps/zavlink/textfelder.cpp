@@ -1,0 +1,154 @@
+#include "zavlink/textfelder.h"
+
+#include <QFocusEvent>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QScrollBar>
+#include <QSignalBlocker>
+#include <algorithm>
+
+#include "zavlink/farben.h"
+#include "zavlink/qt_text.h"
+
+namespace zav::fenster {
+
+namespace {
+
+// In characters: fields up to the first hold times, dates and numbers; beyond the second they grow with the window.
+constexpr int laenge_zahl = 10;
+constexpr int laenge_wachsend = 36;
+constexpr int laenge_unbegrenzt = 24;
+
+// Characters that a field shows at a time, 0 = as many as there is room for.
+std::size_t Zeichen(const Textfeld& t) { return t.breite != 0 ? t.breite : t.hoechstlaenge; }
+
+// A one-line field that tells when the focus comes and goes.
+class Zeilenfeld final : public QLineEdit {
+ public:
+  Zeilenfeld(Textfeld& t, QWidget* eltern) : QLineEdit(eltern), t_(t) {
+    const bool waechst = Textfeld_waechst(t);
+    setTextMargins(3, 0, 3, 0);
+    setSizePolicy(waechst ? QSizePolicy::Expanding : QSizePolicy::Fixed, QSizePolicy::Fixed);
+  }
+
+  QSize sizeHint() const override { return {breite(hint_zeichen()), QLineEdit::sizeHint().height()}; }
+  QSize minimumSizeHint() const override {
+    return {breite(std::min(hint_zeichen(), Textfeld_waechst(t_) ? 12 : laenge_wachsend)), QLineEdit::minimumSizeHint().height()};
+  }
+
+ protected:
+  void focusInEvent(QFocusEvent* e) override {
+    QLineEdit::focusInEvent(e);
+    if (wechsel(e)) Handeln([this] { t_.betreten(); });
+  }
+  void focusOutEvent(QFocusEvent* e) override {
+    QLineEdit::focusOutEvent(e);
+    if (wechsel(e)) Handeln([this] { t_.verlassen(); });
+  }
+
+ private:
+  // A popup or another window is no change of field; nor is a control that went away meanwhile.
+  bool wechsel(const QFocusEvent* e) const {
+    return e->reason() != Qt::PopupFocusReason && e->reason() != Qt::ActiveWindowFocusReason && t_.frei && t_.sichtbar;
+  }
+  int hint_zeichen() const {
+    const std::size_t zeichen = Zeichen(t_);
+    return zeichen == 0 ? laenge_unbegrenzt : std::min(static_cast<int>(zeichen), laenge_wachsend);
+  }
+  int breite(int zeichen) const {
+    const int je = zeichen <= laenge_zahl ? fontMetrics().horizontalAdvance('0') : fontMetrics().averageCharWidth() + 1;
+    return zeichen * je + 3 * raster;
+  }
+  Textfeld& t_;
+};
+
+// A field that only shows lies in the window, not above it.
+void Lesefarbe(QWidget& w, const Textfeld& t) {
+  Einfaerben(w, t.farbe);
+  if (*t.farbe != Farbe::normal) return;
+  QPalette p;
+  if (t.nur_lesen) p.setColor(QPalette::Base, w.palette().color(QPalette::Window));
+  w.setPalette(p);
+}
+
+QWidget* Zeile_bauen(Textfeld& t, Auffrischer& auf, QWidget* eltern) {
+  auto* const w = new Zeilenfeld(t, eltern);
+  QObject::connect(w, &QLineEdit::textEdited, w, [&t](const QString& s) { Handeln(t, [&] { t.eingeben(S(s)); }); });
+  auf.binden(t, [&t, w] {
+    const QSignalBlocker stumm(w);
+    Gemeinsames(*w, t);
+    w->setReadOnly(t.nur_lesen);
+    w->setFocusPolicy(t.nur_lesen && !t.wenn_betreten ? Qt::ClickFocus : Qt::StrongFocus);
+    const QString text = Q(t.text());
+    if (w->text() != text) {
+      const int stelle = w->cursorPosition();
+      w->setText(text);
+      w->setCursorPosition(w->hasFocus() ? std::min(stelle, static_cast<int>(text.size())) : 0);
+    }
+    Lesefarbe(*w, t);
+  });
+  return w;
+}
+
+class Absatzfeld final : public QPlainTextEdit {
+ public:
+  explicit Absatzfeld(Textfeld& t, QWidget* eltern) : QPlainTextEdit(eltern), t_(t) { setTabChangesFocus(true); }
+  QSize sizeHint() const override { return {56 * raster, 30 * raster}; }
+  QSize minimumSizeHint() const override { return {20 * raster, 8 * raster}; }
+
+ protected:
+  void focusOutEvent(QFocusEvent* e) override {
+    QPlainTextEdit::focusOutEvent(e);
+    if (e->reason() != Qt::PopupFocusReason && e->reason() != Qt::ActiveWindowFocusReason && t_.frei && t_.sichtbar) {
+      Handeln([this] { t_.verlassen(); });
+    }
+  }
+
+ private:
+  Textfeld& t_;
+};
+
+QWidget* Absatz_bauen(Textfeld& t, Auffrischer& auf, QWidget* eltern) {
+  auto* const w = new Absatzfeld(t, eltern);
+  // The store keeps CR LF, the widget LF.
+  QObject::connect(w, &QPlainTextEdit::textChanged, w, [&t, w] {
+    if (!t.nur_lesen) Handeln(t, [&] { t.eingeben(S(w->toPlainText().replace("\n", "\r\n"))); });
+  });
+  auf.binden(t, [&t, w] {
+    const QSignalBlocker stumm(w);
+    Gemeinsames(*w, t);
+    w->setReadOnly(t.nur_lesen);
+    Lesefarbe(*w, t);
+    QString text = Q(t.text());
+    text.replace("\r\n", "\n").remove('\r');
+    const QString alt = w->toPlainText();
+    if (alt == text) return;
+    const bool am_ende = w->verticalScrollBar()->value() == w->verticalScrollBar()->maximum();
+    if (!alt.isEmpty() && text.startsWith(alt)) {  // a log that grows
+      QTextCursor stelle(w->document());
+      stelle.movePosition(QTextCursor::End);
+      stelle.insertText(text.mid(alt.size()));
+      if (am_ende) w->verticalScrollBar()->setValue(w->verticalScrollBar()->maximum());
+    } else {
+      const int stelle = w->textCursor().position();
+      w->setPlainText(text);
+      if (!w->hasFocus()) return;
+      QTextCursor zeiger = w->textCursor();
+      zeiger.setPosition(std::min(stelle, static_cast<int>(text.size())));
+      w->setTextCursor(zeiger);
+    }
+  });
+  return w;
+}
+
+}  // namespace
+
+bool Textfeld_waechst(const Textfeld& t) {
+  return t.mehrzeilig || Zeichen(t) == 0 || Zeichen(t) > static_cast<std::size_t>(laenge_wachsend);
+}
+
+QWidget* Textfeld_bauen(Textfeld& t, Auffrischer& auf, QWidget* eltern) {
+  return t.mehrzeilig ? Absatz_bauen(t, auf, eltern) : Zeile_bauen(t, auf, eltern);
+}
+
+}  // namespace zav::fenster
