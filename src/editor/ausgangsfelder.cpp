@@ -20,6 +20,4 @@ void Ausgangstext_einrichten(Textfeld& feld) {
   feld.hinweis = "Text: Bezeichnug des Ausgangs, z.B. 'Küchenlicht Decke'";
 }
 
-void Einstellen(Auswahl& liste, int wert) { liste.setzen(wert >= 0 && wert < liste.anzahl() ? wert : -1); }
-
 }  // namespace zav

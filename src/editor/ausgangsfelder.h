@@ -10,8 +10,5 @@ namespace zav {
 void Gruppenleiste_einrichten(Auswahl& leiste, Ziel::Art art);
 // The text of an output, 25 characters at most.
 void Ausgangstext_einrichten(Textfeld& feld);
-// Shows a stored value in its list; one that the list does not know, as a damaged file may hold, shows as
-// nothing chosen.
-void Einstellen(Auswahl& liste, int wert);
 
 }  // namespace zav

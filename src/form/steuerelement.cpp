@@ -96,6 +96,8 @@ void Auswahl::freigeben(int i, bool frei_jetzt) {
   if (std::exchange(aendern(i).frei, frei_jetzt) != frei_jetzt) geaendert();
 }
 
+void Einstellen(Auswahl& liste, int wert) { liste.setzen(wert >= 0 && wert < liste.anzahl() ? wert : -1); }
+
 void Textfeld::setzen(std::string text) {
   if (text == text_) return;
   text_ = std::move(text);

@@ -170,6 +170,10 @@ class Auswahl final : public Steuerelement {
   int position_ = -1;
 };
 
+// Shows a stored value in its list; one that the list does not know, as a damaged file may hold, shows as nothing
+// chosen.
+void Einstellen(Auswahl& liste, int wert);
+
 // A text field of one or several lines.
 class Textfeld final : public Steuerelement {
  public:

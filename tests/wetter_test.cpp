@@ -1,0 +1,261 @@
+// The weather station: what its reply means, the read-out and the eight weather functions, as a person uses them.
+#include <gtest/gtest.h>
+
+#include "form/drehbuch.h"
+#include "link/leitung.h"
+#include "platform/einstellungen.h"
+#include "platform/uhrwerk.h"
+#include "simulator/simulator.h"
+#include "store/sitzung.h"
+#include "weather/wetterdisplay.h"
+#include "weather/wetterlogik.h"
+
+namespace zav {
+namespace {
+
+using Stand = Wetterwerte::Stand;
+
+class Wetter : public ::testing::Test {
+ protected:
+  Wetter() {
+    Projekt_reset();
+    sitzung = {};
+    einstellungen = {};
+    leitung = {};
+  }
+  ~Wetter() override {
+    Zeitraffer_setzen(1);
+    EXPECT_EQ(d.maengel(), "");
+  }
+  void verbinden() {
+    sim.start();
+    einstellungen.Com_art = 1;
+    einstellungen.Host_ip = "127.0.0.1";
+    einstellungen.Host_port = sim.tcp_port();
+    Com_art_setzen();
+  }
+
+  Drehbuch d;
+  simulator::Simulator sim;
+};
+
+TEST_F(Wetter, ReplyIsDecodedByPosition) {
+  // outside 0A00 = 2560, south 0A, west 0B, east FF, daylight F9, inside 15, wind 0022 = 34
+  const Wetterwerte w = Wetter_entschluesseln("11E...0A000A0BFFF9150022");
+  EXPECT_EQ(w.stand, Stand::gut);
+  EXPECT_TRUE(w.niederschlag);
+  EXPECT_EQ(w.werte, (std::array<double, 7>{255, 10, 11, 249, -17, 21, 3.4}));
+  EXPECT_EQ(Wetterwert_text(aussentemperatur, -17), "-17 °C");
+  EXPECT_EQ(Wetterwert_text(aussentemperatur, -0.5), "-0.5 °C");
+  EXPECT_EQ(Wind_in_kmh(3.4), "12.2 km/h") << "12.24, cut";
+  EXPECT_EQ(Wetter_entschluesseln("108...0AAA00000000000000").werte[aussentemperatur], 0);
+}
+
+TEST_F(Wetter, RepliesWithoutValuesTellWhatIsWrong) {
+  struct Fall {
+    const char* antwort;
+    Stand stand;
+  };
+  for (const auto& [antwort, stand] : {
+           Fall{"000000000000000000000000", Stand::keine_station},
+           {"", Stand::keine_station},
+           {"800000000000000000000000", Stand::keine_daten},
+           {"110...0AAA00000000000000", Stand::defekt},   // quality
+           {"118...0aaa00000000000000", Stand::defekt},   // lower case is no digit
+           {"118...0AAA000000000000", Stand::defekt},     // cut off
+       }) {
+    EXPECT_EQ(Wetter_entschluesseln(antwort).stand, stand) << antwort;
+  }
+}
+
+TEST_F(Wetter, DisplayShowsLiveValuesAndLimitsOnlyTheBars) {
+  verbinden();
+  simulator::Wetter w;
+  w.regen = true;
+  w.ost = 120;
+  w.aussen = -30.5;
+  w.wind = 25;
+  sim.wetter_setzen(w);
+  Wetterdisplay f;
+  f.beim_oeffnen();
+  EXPECT_EQ(f.Label24[sonne_ost].titel, "120 kLux");
+  EXPECT_EQ(f.ProgressBar[sonne_ost].wert, 95.0);
+  EXPECT_EQ(f.ProgressBar[sonne_ost].hinweis, "Sonne Ost: 95 kLux");
+  EXPECT_EQ(f.Label24[aussentemperatur].titel, "-30.5 °C");
+  EXPECT_EQ(f.ProgressBar[aussentemperatur].wert, 0.0);
+  EXPECT_EQ(f.ProgressBar[aussentemperatur].hinweis, "Aussentemperatur: -20 °C");
+  EXPECT_EQ(f.ProgressBar[windgeschwindigkeit].hinweis, "Windgeschwindigkeit: 20 m/s = 72 km/h");
+  EXPECT_EQ(f.Label1.titel, "72 km/h");
+  EXPECT_EQ(f.Label24[7].titel, "---");
+  EXPECT_EQ(f.Label24[8].titel, "Niederschlag");
+
+  // Nothing of the former values stays when there are none any more.
+  w = {};
+  w.gueltig = false;
+  sim.wetter_setzen(w);
+  d.erwarte({.text = "Wetterstation defekt"});
+  f.Command2.druecken();
+  EXPECT_EQ(f.Label24[sonne_ost].titel, "---");
+  EXPECT_EQ(f.Label24[8].titel, "Trocken");
+  EXPECT_EQ(f.ProgressBar[sonne_ost].wert, 0.0);
+  w.station = simulator::Station::ohne_daten;
+  sim.wetter_setzen(w);
+  d.erwarte({.text = "Keine Daten von der Wetterstation"});
+  f.Command2.druecken();
+}
+
+TEST_F(Wetter, SilentMasterLeavesTheDisplayOpen) {
+  Zeitraffer_setzen(100);
+  verbinden();
+  sim.fehler_setzen({"stumm@s1x9"});
+  d.erwarte({.text = "Abfrage nicht möglich. Versuchen Sie es bitte noch einmal."});
+  Wetterdisplay f;
+  f.beim_oeffnen();
+  EXPECT_EQ(f.Text2.text(), "---");
+  EXPECT_TRUE(f.offen());
+  EXPECT_TRUE(f.Command1.frei);
+  sim.stop();
+  d.erwarte_text("TCP-Fehler -111: Fehler beim Öffnen. 127.0.0.1 (Port " + std::to_string(einstellungen.Host_port) +
+                 ") nimmt keine Verbindung an.");
+  d.erwarte({.text = "SIO: Fehler 1 bei Open Port"});
+  f.Command2.druecken();
+}
+
+TEST_F(Wetter, FunctionIsEditedOnBothPages) {
+  int geoeffnet = -1;
+  std::string titel;
+  Wetterlogik f(12, [&](int e, const std::string& t) {
+    geoeffnet = e;
+    titel = t;
+    projekt.Ein_relais(e, 7) = 2;
+    projekt.Ein_dimmer(e, 1, 3) = 4;  // the tempo alone does nothing
+    projekt.Ein_timer(e, 3) = 1;
+  });
+  f.TabStrip1.waehlen(5);
+  EXPECT_EQ(f.Frame2.titel, "Wetterfunktion 5");
+  EXPECT_EQ(f.Combo2.text(), "O0-6: ") << "reset value 6";
+  EXPECT_EQ(f.Command5[1].titel, "Funktion leer");
+  f.Command5[1].druecken();
+  EXPECT_EQ(geoeffnet, 4 * 12 + 2 * 5 + 1);
+  EXPECT_EQ(titel, "Wetterfunktion 5");
+  EXPECT_EQ(f.Command5[1].titel, "Verwendet: OT");
+  EXPECT_EQ(projekt.Ein_leer[59], 1);
+
+  f.Text3.eingeben("Sturm");
+  f.Check1.haken(false);
+  f.Command2.druecken();
+  EXPECT_FALSE(f.Slider1[windgeschwindigkeit].frei);
+  f.Combo1[windgeschwindigkeit].waehlen("grösser als");
+  f.Slider1[windgeschwindigkeit].schieben(99);
+  EXPECT_EQ(f.Text1[windgeschwindigkeit].text(), "20");
+  EXPECT_EQ(f.Slider1[windgeschwindigkeit].hinweis, "20 m/s = 72 km/h");
+  f.Combo1[aussentemperatur].waehlen("kleiner als");
+  f.Slider1[aussentemperatur].schieben(-20);
+  EXPECT_EQ(f.Label25[aussentemperatur].titel, "-20 °C");
+  f.Combo1[7].waehlen("Nordost");
+  f.Combo1[Wetterlogik::und_oder].waehlen("UND");
+  EXPECT_FALSE(f.Command1.frei) << "nothing closes over conditions that are not taken over";
+  f.Command3.druecken();
+  EXPECT_EQ(f.Label4[windgeschwindigkeit].titel, "grösser als");
+  EXPECT_EQ(f.Text0[windgeschwindigkeit].titel, "20 m/s");
+  EXPECT_EQ(f.Label4[sonne_ost].titel, "---");
+  EXPECT_EQ(f.Label4[10].titel, "UND: Auslösen nur wenn ALLE alle Bedingungen erfüllt sind");
+  EXPECT_EQ(projekt.Wetter_wind[5], "20");
+  EXPECT_EQ(projekt.Wetter_aussen[5], "-20");
+  EXPECT_EQ(projekt.Wetter_v_richtung[5], 7);
+  EXPECT_EQ(projekt.Wetter_aktiv[5], "1") << "the page itself is not taken over yet";
+
+  f.Command2.druecken();
+  f.Combo1[8].waehlen("ja");
+  f.schliessen_wuenschen();
+  EXPECT_TRUE(f.offen());
+  EXPECT_EQ(projekt.Wetter_v_regen[5], 0);
+  f.TabStrip1.waehlen(0);
+  EXPECT_EQ(projekt.Wetter_aktiv[5], "0");
+  EXPECT_EQ(f.TabStrip1.eintrag(5).text, "5: Sturm");
+  EXPECT_EQ(f.Combo1[windgeschwindigkeit].position(), 0);
+  f.Command1.druecken();
+  EXPECT_FALSE(f.offen());
+  EXPECT_EQ(sitzung.Projekt_geaendert, 1);
+}
+
+TEST_F(Wetter, TimesAreTestedWhenLeftAndWhenClosed) {
+  Wetterlogik f(0, {});
+  d.erwarte({.text = "Minimalwert eingesetzt"});
+  f.Text10.ausfuellen("00.00.00");
+  EXPECT_EQ(f.Text10.text(), "00.00.01");
+  f.Text11.ausfuellen("");
+  f.Text12.ausfuellen("nicht warten");
+  d.erwarte({.text = "Bitte Eingabe korrigieren"});
+  f.Text13.ausfuellen("nicht warten");  // the word of another field
+  EXPECT_EQ(f.Text13.text(), "Richtig: hh.mm.ss");
+  EXPECT_EQ(f.fokus(), &f.Text13);
+  // Neither closing nor another function gets past it.
+  d.erwarte({.text = "Bitte Eingabe korrigieren"});
+  f.TabStrip1.waehlen(3);
+  EXPECT_EQ(f.TabStrip1.position(), 0);
+  d.erwarte({.text = "Bitte Eingabe korrigieren"});
+  f.Command1.druecken();
+  EXPECT_TRUE(f.offen());
+  EXPECT_EQ(projekt.Wetter_warte1[0], "nicht warten");
+  f.Command9.druecken();
+  EXPECT_EQ(f.Text13.text(), "nicht wiederholen");
+  // A broken bound is put in on the way, and closing goes on.
+  f.Text12.eingeben("02.00.00");
+  d.erwarte({.text = "Maximalwert eingesetzt"});
+  f.Command1.druecken();
+  EXPECT_FALSE(f.offen());
+  EXPECT_EQ(projekt.Wetter_warte1[0], "00.00.01");
+  EXPECT_EQ(projekt.Wetter_wiederh1[0], "");
+  EXPECT_EQ(projekt.Wetter_warte2[0], "01.59.59");
+}
+
+TEST_F(Wetter, DamagedValuesShowAsFarAsTheyCanAndStay) {
+  projekt.Wetter_licht[0] = "900";
+  projekt.Wetter_wind[0] = "Sturm";
+  projekt.Wetter_v_ost[0] = 9;
+  projekt.Wetter_ausgang[0] = 700;
+  Wetterlogik f(0, {});
+  EXPECT_EQ(f.Slider1[tageslicht].wert(), 249);
+  EXPECT_EQ(f.Text0[tageslicht].titel, "900 Lux");
+  EXPECT_EQ(f.Combo2.position(), -1);
+  f.Command1.druecken();
+  EXPECT_EQ(projekt.Wetter_licht[0], "900");
+  EXPECT_EQ(projekt.Wetter_ausgang[0], 700);
+  EXPECT_EQ(projekt.Wetter_v_ost[0], 9);
+  EXPECT_EQ(sitzung.Projekt_geaendert, 0);
+}
+
+TEST_F(Wetter, OpensOnlyForAStationWithRoomForItsEvents) {
+  for (const char* adresse : {"", "253", "x"}) {
+    projekt.App_typ[77] = 75;
+    projekt.App_text[77] = adresse;
+    d.erwarte({.text = "Bitte Adresse definieren"});
+    Wetterlogik_oeffnen({});
+  }
+  projekt.App_text[77] = "252";
+  d.erwarte_dialog<Wetterlogik>([](Wetterlogik& f) {
+    f.TabStrip1.waehlen(7);
+    f.Command5[1].druecken();  // the last event of all
+    f.Command1.druecken();
+  });
+  Wetterlogik_oeffnen({});
+}
+
+TEST_F(Wetter, ConditionPageShowsTheLiveBars) {
+  verbinden();
+  Wetterlogik f(0, {});
+  f.Command2.druecken();
+  f.Command10.druecken();
+  EXPECT_EQ(f.ProgressBar[aussentemperatur].wert, 32.5);
+  EXPECT_EQ(f.ProgressBar[aussentemperatur].hinweis, "Aussentemperatur: 12.5 °C");
+  simulator::Wetter w;
+  w.station = simulator::Station::fehlt;
+  sim.wetter_setzen(w);
+  d.erwarte({.text = "Keine oder defekte Wetterstation"});
+  f.Command10.druecken();
+  EXPECT_EQ(f.ProgressBar[aussentemperatur].wert, 0.0);
+}
+
+}  // namespace
+}  // namespace zav
