@@ -7,6 +7,7 @@ paketgruppe() {
     bauen) echo "cmake ninja-build g++ libcli11-dev nlohmann-json3-dev" ;;
     fenster) echo "qt6-base-dev qt6-svg-dev" ;;
     pruefen) echo "libgtest-dev libbenchmark-dev ser2net" ;;
+    packen) echo "dpkg-dev file gzip pandoc" ;;
     *) echo "pakete.sh: unbekannte Gruppe $1" >&2; return 1 ;;
   esac
 }
