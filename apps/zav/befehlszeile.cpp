@@ -8,6 +8,7 @@
 
 #include "basis/datum.h"
 #include "basis/text.h"
+#include "basis/version.h"
 #include "basis/zahl.h"
 #include "befehl.h"
 #include "hilfe.h"
@@ -170,7 +171,7 @@ int Befehlszeile(std::vector<std::string> argumente, Endgeraet geraet) {
   CLI::App app("zav richtet die Gebäudesteuerung ZAVnet ein und wartet sie, wie das Fensterprogramm ZAVlink");
   app.formatter(std::make_shared<Hilfeseite>());
   app.set_help_flag("--hilfe", "diese Hilfe zeigen");
-  app.set_version_flag("--version", zav_version, "die Version zeigen");
+  app.set_version_flag("--version", "zav " + std::string(version), "die Version zeigen");
   app.footer("zav BEFEHL --hilfe zeigt die Argumente eines Befehls.\nBeispiel: zav --simulator --ja senden haus");
   app.fallthrough();
   app.require_subcommand(1);
@@ -190,7 +191,7 @@ int Befehlszeile(std::vector<std::string> argumente, Endgeraet geraet) {
     geraet.aus << app.help() << std::flush;
     return geraet.aus ? 0 : 1;
   } catch (const CLI::CallForVersion&) {
-    geraet.aus << zav_version << '\n' << std::flush;
+    geraet.aus << "zav " << version << '\n' << std::flush;
     return geraet.aus ? 0 : 1;
   } catch (const CLI::ParseError& fehler) {
     geraet.fehler << Bedienfehler(fehler, app) << "\nzav --hilfe zeigt alle Befehle und Optionen.\n" << std::flush;

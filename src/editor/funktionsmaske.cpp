@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "basis/version.h"
 #include "editor/ausgangsfelder.h"
 #include "form/oberflaeche.h"
 #include "store/sitzung.h"
@@ -404,10 +405,9 @@ void Funktionsmaske::Befehle_einrichten() {
 void Funktionsmaske::Testen() {
   if (projekt.Datei_version != "910") {
     Melden(
-        "Wenn Sie die neuen Funktionen von ZAVlink-Version 9.102 nutzen möchten, wählen Sie 'Speichern "
-        "unter' und den "
-        "Dateityp 910. Achtung: Das Betriebssystem des ZAVmasters muss auf die Version 9 aufgerüstet "
-        "werden.");
+        std::string("Wenn Sie die neuen Funktionen von ") + programm_version +
+        " nutzen möchten, wählen Sie 'Speichern unter' und den Dateityp 910. Achtung: Das Betriebssystem des "
+        "ZAVmasters muss auf die Version 9 aufgerüstet werden.");
   } else {
     ausgangssimulation_oeffnen();
   }

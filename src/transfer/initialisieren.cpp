@@ -4,6 +4,7 @@
 
 #include "basis/melder.h"
 #include "basis/text.h"
+#include "basis/version.h"
 #include "basis/windows1252.h"
 #include "link/leitung.h"
 #include "link/protokoll.h"
@@ -123,7 +124,7 @@ bool Uebertragung::Loeschen() {
   }
   if (!Version_holen()) return true;
   if (!Version_vertraeglich("Version ZAVmaster (" + Links(leitung.Empfang_text, 9) +
-                            ") ist nicht kompatibel zur PC-Software ZAVlink-Version 9.102")) {
+                            ") ist nicht kompatibel zur PC-Software " + programm_version)) {
     return false;
   }
   const std::string befehl = "EI";
