@@ -8,7 +8,6 @@
 
 #include "basis/datum.h"
 #include "basis/text.h"
-#include "basis/version.h"
 #include "basis/zahl.h"
 #include "befehl.h"
 #include "hilfe.h"
@@ -17,6 +16,7 @@
 #include "simulierter_master.h"
 #include "store/projekt.h"
 #include "store/sitzung.h"
+#include "zav/version.h"
 
 namespace zav {
 

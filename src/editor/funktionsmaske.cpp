@@ -3,10 +3,10 @@
 #include <algorithm>
 #include <utility>
 
-#include "basis/version.h"
 #include "editor/ausgangsfelder.h"
 #include "form/oberflaeche.h"
 #include "store/sitzung.h"
+#include "zav/version.h"
 
 namespace zav {
 

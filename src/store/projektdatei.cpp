@@ -6,7 +6,6 @@
 
 #include "basis/melder.h"
 #include "basis/text.h"
-#include "basis/version.h"
 #include "platform/datei.h"
 #include "store/altdaten.h"
 #include "store/kamera.h"

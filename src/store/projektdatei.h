@@ -11,11 +11,9 @@
 #include <string_view>
 
 #include "store/projekt.h"
+#include "zav/version.h"
 
 namespace zav {
-
-// The program as it names itself to the user, and in line 1 of every file.
-inline constexpr const char* programm_version = "ZAVlink-Version 9.102";
 
 // True for a generation that is read but no longer written: saving such a project under its old name of
 // generation gives a file that the old way of reading misunderstands, so callers save it as 910.

@@ -4,13 +4,13 @@
 
 #include "basis/melder.h"
 #include "basis/text.h"
-#include "basis/version.h"
 #include "basis/windows1252.h"
 #include "link/leitung.h"
 #include "link/protokoll.h"
 #include "platform/uhrwerk.h"
 #include "store/sitzung.h"
 #include "transfer/uebertragung.h"
+#include "zav/version.h"
 
 namespace zav {
 
