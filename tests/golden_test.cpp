@@ -1,0 +1,110 @@
+// What scripts read from the command line, word for word: the outputs for the example house of one day and
+// seed against the files in tests/golden. A wanted change is taken over with ZAV_GOLDEN=schreiben in the
+// environment, and looked at.
+#include <gtest/gtest.h>
+#include <unistd.h>
+
+#include <array>
+#include <cstdint>
+#include <cstdio>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <map>
+#include <nlohmann/json.hpp>
+#include <sstream>
+
+#include "befehlszeile.h"
+
+namespace zav {
+namespace {
+
+namespace fs = std::filesystem;
+
+// FNV-1a, 64 bits: enough to see that a line of thousands is different.
+std::string Fingerabdruck(std::string_view text) {
+  std::uint64_t h = 14695981039346656037U;
+  for (const char c : text) h = (h ^ static_cast<unsigned char>(c)) * 1099511628211U;
+  std::array<char, 17> hex{};
+  std::snprintf(hex.data(), hex.size(), "%016llX", static_cast<unsigned long long>(h));
+  return hex.data();
+}
+
+// As printed.
+std::string Ganz(const std::string& aus) { return aus; }
+
+// One line a key, its value as a fingerprint: renamed keys and changed values show without megabytes of
+// zeros. The name of the project is its path, which differs from machine to machine.
+std::string Schluessel(const std::string& aus) {
+  std::string text;
+  const auto projekt = nlohmann::json::parse(aus);
+  for (const auto& [name, wert] : projekt.items()) {
+    text += name + " " + (name == "Projekt_name" ? "-" : Fingerabdruck(wert.dump())) + "\n";
+  }
+  return text;
+}
+
+// Direct blocks whole; windows by regions of 64 KB with their number and fingerprint.
+std::string Regionen(const std::string& aus) {
+  std::istringstream zeilen(aus);
+  std::string text, zeile;
+  std::map<std::string, std::pair<int, std::string>> regionen;
+  while (std::getline(zeilen, zeile)) {
+    if (!zeile.starts_with("W ")) {
+      text += zeile + "\n";
+      continue;
+    }
+    auto& [anzahl, bytes] = regionen[zeile.substr(2, 2)];
+    ++anzahl;
+    bytes += zeile + "\n";
+  }
+  for (const auto& [von, inhalt] : regionen) {
+    text += "W " + von + "xxxx " + std::to_string(inhalt.first) + " " + Fingerabdruck(inhalt.second) + "\n";
+  }
+  return text;
+}
+
+struct Fall {
+  const char* name;
+  std::vector<std::string> befehl;  // "HAUS" stands for the example house
+  std::string (*ansicht)(const std::string&) = Ganz;
+};
+
+void PrintTo(const Fall& f, std::ostream* o) { *o << f.name; }
+
+class Golden : public testing::TestWithParam<Fall> {};
+
+TEST_P(Golden, OutputIsAsPromised) {
+  const fs::path ordner = fs::temp_directory_path() / ("golden_test." + std::to_string(getpid()));
+  fs::create_directories(ordner);
+  setenv("XDG_CONFIG_HOME", ordner.c_str(), 1);
+  std::vector<std::string> argumente{"--heute", "29.03.2026", "--zufall", "1"};
+  for (const std::string& a : GetParam().befehl) argumente.push_back(a == "HAUS" ? EINFAMILIENHAUS_DATEI : a);
+
+  std::istringstream ein;
+  std::ostringstream aus, fehler;
+  EXPECT_EQ(Befehlszeile(argumente, {ein, aus, fehler, false, false}), 0) << fehler.str();
+  EXPECT_EQ(fehler.str(), "");
+  fs::remove_all(ordner);
+
+  const std::string ansicht = GetParam().ansicht(aus.str());
+  const fs::path datei = fs::path(GOLDEN_ORDNER) / (std::string(GetParam().name) + ".txt");
+  if (std::getenv("ZAV_GOLDEN") != nullptr) std::ofstream(datei, std::ios::binary) << ansicht;
+  std::ifstream d(datei, std::ios::binary);
+  const std::string erwartet{std::istreambuf_iterator<char>(d), {}};
+  EXPECT_EQ(ansicht, erwartet) << "If this is wanted, run the test once with ZAV_GOLDEN=schreiben";
+}
+
+INSTANTIATE_TEST_SUITE_P(Beispielhaus, Golden,
+                         testing::Values(Fall{"zeigen", {"zeigen", "HAUS"}},
+                                         Fall{"zeigen_json", {"--json", "zeigen", "HAUS"}, Schluessel},
+                                         Fall{"abbild", {"abbild", "HAUS"}, Regionen},
+                                         Fall{"suche_relais", {"suche", "HAUS", "O1-0"}},
+                                         Fall{"suche_dimmer_json", {"--json", "suche", "HAUS", "D0-0"}},
+                                         Fall{"suche_timer", {"suche", "HAUS", "T0"}},
+                                         Fall{"touchpanel", {"touchpanel", "HAUS"}}, Fall{"sonne", {"sonne"}},
+                                         Fall{"sonne_json", {"--json", "sonne"}}),
+                         [](const auto& f) { return std::string(f.param.name); });
+
+}  // namespace
+}  // namespace zav
