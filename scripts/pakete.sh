@@ -8,6 +8,7 @@ paketgruppe() {
     fenster) echo "qt6-base-dev qt6-svg-dev" ;;
     pruefen) echo "libgtest-dev libbenchmark-dev ser2net" ;;
     packen) echo "dpkg-dev file gzip pandoc" ;;
+    paketpruefung) echo "lintian desktop-file-utils appstream shared-mime-info bash-completion groff-base" ;;
     *) echo "pakete.sh: unbekannte Gruppe $1" >&2; return 1 ;;
   esac
 }
