@@ -22,7 +22,7 @@ void Arbeitsplatz::schliessen() {
 void Arbeitsplatz::uebernehmen(Formular& f) {
   for (Steuerelement* e : f.elemente()) {
     auto* const t = dynamic_cast<zav::Taste*>(e);
-    if (t == nullptr || !t->standard) continue;
+    if (t == nullptr || !t->standard || !t->frei || !t->sichtbar) continue;
     t->druecken();
     return;
   }

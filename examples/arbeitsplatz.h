@@ -14,13 +14,13 @@ namespace zav::beispiel {
 
 class Arbeitsplatz {
  public:
-  // The open window if it is an F; else closes that one and opens an F. Closing an F shows the box
-  // `abschied`, if it is not "".
-  template <class F>
-  F& fenster(const std::string& abschied = "") {
+  // The open window if it is an F; else closes that one and opens an F with what `mitgabe` makes. Closing an
+  // F shows the box `abschied`, if it is not "".
+  template <class F, class... Mitgabe>
+  F& fenster(const std::string& abschied = "", Mitgabe... mitgabe) {
     if (auto* const f = dynamic_cast<F*>(fenster_.get())) return *f;
     schliessen();
-    auto neu = std::make_unique<F>();
+    auto neu = std::make_unique<F>(mitgabe()...);
     F& f = *neu;
     fenster_ = std::move(neu);
     abschied_ = abschied;

@@ -1,22 +1,42 @@
-// The building: rooms, devices and keys, in the installation editor.
+#include "gebaeude.h"
+
 #include <algorithm>
 #include <optional>
 
 #include "editor/actmask.h"
 #include "editor/apparatwahl.h"
 #include "editor/dialog_kombination.h"
-#include "editor/einmask8.h"
 #include "editor/layoutwahl.h"
+#include "enocean/enocean_definition.h"
+#include "enocean/sender.h"
+#include "form/oberflaeche.h"
 #include "store/katalog.h"
+#include "store/sitzung.h"
+#include "weather/wetterlogik.h"
 #include "wirkungen.h"
 
 namespace zav::beispiel {
 
 namespace {
 
+void zeigen(Formular&& f) { oberflaeche().Zeigen(f); }
+
+Tueren tueren() {
+  Tueren t;
+  t.wetterlogik = [] { Wetterlogik_oeffnen([](int e, Text titel) { zeigen(Actmask(e, titel)); }); };
+  t.enocean_definition = [](int platz) {
+    zeigen(Enocean_Definition(plaetze * sitzung.Komb_aktuell + platz));
+  };
+  t.enocean_schatten_kopieren = Enocean_schatten_nehmen;
+  t.enocean_abgleichen = Enocean_abgleichen;
+  return t;
+}
+
+Einmask8& editor() { return arbeitsplatz().fenster<Einmask8>("", tueren); }
+
 // With the room on show.
 Einmask8& editor(Raum r) {
-  auto& e = arbeitsplatz().fenster<Einmask8>();
+  Einmask8& e = editor();
   if (e.kombination() == r.kombination) return e;
   const auto& knoten = e.TreeView1.knoten();
   const auto raum = std::ranges::find_if(knoten, [&](const Baum::Knoten& k) {
@@ -24,13 +44,6 @@ Einmask8& editor(Raum r) {
   });
   fordern(raum != knoten.end(), "Raum nicht gefunden");
   e.TreeView1.waehlen(raum->schluessel);
-  return e;
-}
-
-// With the device on show.
-Einmask8& editor(const Apparat& a) {
-  Einmask8& e = editor(a.raum);
-  if (e.platz() != a.platz) nummer(e.Image3, a.platz).druecken();
   return e;
 }
 
@@ -49,8 +62,14 @@ int freie_adressen(const Auswahl& zellen, int anzahl) {
 
 }  // namespace
 
+Einmask8& editor(const Apparat& a) {
+  Einmask8& e = editor(a.raum);
+  if (e.platz() != a.platz) nummer(e.Image3, a.platz).druecken();
+  return e;
+}
+
 Raum kombination(Text geschoss, Text raum, Rahmen rahmen) {
-  auto& e = arbeitsplatz().fenster<Einmask8>();
+  Einmask8& e = editor();
   arbeitsplatz().dialog<Layoutwahl>(e.Command9, [&](Layoutwahl& wahl) {
     tippen(wahl.Text_Standort, geschoss);
     tippen(wahl.Text_Bezeichnung, raum);

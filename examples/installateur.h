@@ -6,6 +6,7 @@
 
 #include <functional>
 #include <initializer_list>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -139,12 +140,11 @@ Treppenlicht treppenlicht(Text name, const Wirkungen& start, Text zeit1, const W
 
 // ---- weather ---------------------------------------------------------------------------
 
-// One condition of a weather function: a reading of the station, less or greater than a threshold.
+// One condition of a weather function: a reading of the station, how it is compared and with what threshold.
 struct Bedingung {
-  Feld<str, wetterfunktionen> Projekt::*schwelle;
-  Feld<i16, wetterfunktionen> Projekt::*vergleich;
-  int code;
-  int wert;
+  int zeile;
+  const char* vergleich;
+  std::optional<int> schwelle;
 };
 Bedingung wind_ueber(int meter_je_sekunde);
 Bedingung sonne_sued_ueber(int kilolux);
