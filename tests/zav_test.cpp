@@ -457,6 +457,71 @@ TEST_F(Zav_mit_master, PressesKeys) {
   EXPECT_EQ(zav({"--tcp", tcp(), "ereignis", "12", "0", "kurz"}).status, 1);
 }
 
+TEST_F(Zav_mit_master, ReadsTheWeatherStation) {
+  Ergebnis e = zav({"wetter", "--tcp", tcp()});
+  EXPECT_EQ(e.status, 0);
+  EXPECT_EQ(e.aus,
+            "Sonne Ost             31 kLux\nSonne Süd             18 kLux\nSonne West            7 kLux\n"
+            "Tageslicht            240 Lux\nAussentemperatur      12.5 °C\nInnentemperatur       21 °C\n"
+            "Windgeschwindigkeit   3.4 m/s = 12.2 km/h\nNiederschlag          Trocken\n");
+  EXPECT_EQ(nlohmann::json::parse(zav({"wetter", "--json", "--tcp", tcp()}).aus).at("aussentemperatur"), 12.5);
+  simulator::Wetter w;
+  w.station = simulator::Station::fehlt;
+  master.wetter_setzen(w);
+  e = zav({"wetter", "--tcp", tcp()});
+  EXPECT_EQ(e.status, 1);
+  EXPECT_EQ(e.aus + e.fehler, "Keine oder defekte Wetterstation\n");
+}
+
+TEST_F(Zav_mit_master, ProgramsRadioReceiversAndKeepsTheirMarks) {
+  Projekt p;
+  p.Datei_version = "910";
+  for (const int r : {2, 5}) p.Enocean_empf_da[r] = p.Enocean_empf_geaendert[r] = 1;
+  p.Komb_text[0] = "EG";
+  p.App_typ[3] = 84;
+  p.App_text[3] = "9";
+  p.App_text2[3] = "1";
+  p.App_enocean_id[3] = "01AB23CD";
+  p.App_enocean_empf[3] = 5;
+  schreiben("funk.zav", Projekt_schreiben(p));
+  master.fehler_setzen({"F01@&5"});  // the check of the second receiver
+  Ergebnis e = zav({"enocean", pfad("funk"), "--tcp", tcp()});
+  EXPECT_EQ(e.status, 1);
+  EXPECT_EQ(e.fehler, "Fehler 01 bei der Kommunikation.\n");
+  Projekt danach = projekt_in("funk.zav");
+  EXPECT_EQ(danach.Enocean_empf_geaendert[2], 0);
+  EXPECT_EQ(danach.Enocean_empf_geaendert[5], 1);
+
+  master.fehler_setzen({});
+  e = zav({"enocean", pfad("funk"), "--tcp", tcp()});
+  EXPECT_EQ(e.status, 0);
+  EXPECT_EQ(e.fehler, "Alle Empfänger sind jetzt aktualisiert.\n");
+  EXPECT_EQ(master.empfaengertabelle(5)[3], 0xCD);
+  EXPECT_EQ(projekt_in("funk.zav").Enocean_empf_geaendert, (Feld<u8, 16>{}));
+  master.empfaengerseite_defekt(2, 3);
+  e = zav({"enocean", pfad("funk"), "--alle", "--tcp", tcp()});
+  EXPECT_EQ(e.status, 1) << "a wrong checksum";
+  EXPECT_EQ(projekt_in("funk.zav").Enocean_empf_geaendert, (Feld<u8, 16>{}));
+}
+
+TEST_F(Zav, WritesTheAppsDescriptorForGeneration910) {
+  haus_anlegen("haus.zav");
+  schreiben("da.xml", "alt");
+  EXPECT_EQ(zav({"app", pfad("haus"), "-o", pfad("da.xml")}).status, 0);
+  EXPECT_TRUE(lesen("da.xml").starts_with("\xEF\xBB\xBF<?xml"));
+  const fs::path vorher = fs::current_path();
+  fs::current_path(ordner);
+  EXPECT_EQ(zav({"app", "haus"}).status, 0);
+  EXPECT_EQ(lesen("zavappdescriptor.xml"), lesen("da.xml"));
+  EXPECT_EQ(zav({"app", "haus", "--nein"}).status, 1) << "the file is there already";
+  fs::current_path(vorher);
+  EXPECT_EQ(zav({"umwandeln", pfad("haus"), pfad("alt"), "--als", "900"}).status, 0);
+  const Ergebnis e = zav({"app", pfad("alt"), "-o", pfad("neu.xml")});
+  EXPECT_EQ(e.status, 1);
+  EXPECT_TRUE(e.fehler.starts_with("Wenn Sie die neuen Funktionen von ZAVlink-Version 9.102 nutzen")) << e.fehler;
+  EXPECT_FALSE(fs::exists(pfad("neu.xml")));
+}
+
 TEST_F(Zav, TheEmbeddedMasterLeavesTheSettingsAlone) {
   EXPECT_EQ(zav({"--simulator", "--nein", "uhr", "--umstellung", "2"}).status, 0);
   EXPECT_FALSE(fs::exists(pfad("ZAVlink/ZAVlink.ini")));

@@ -49,6 +49,7 @@ Ausfuehrung Befehl_uhr(CLI::App& app);
 Ausfuehrung Befehl_ereignis(CLI::App& app);
 Ausfuehrung Befehl_wetter(CLI::App& app);
 Ausfuehrung Befehl_enocean(CLI::App& app);
+Ausfuehrung Befehl_app(CLI::App& app);
 Ausfuehrung Befehl_suche(CLI::App& app);
 Ausfuehrung Befehl_touchpanel(CLI::App& app);
 Ausfuehrung Befehl_sonne(CLI::App& app);

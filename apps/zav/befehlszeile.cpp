@@ -40,6 +40,7 @@ constexpr std::array befehle{
            Befehl_ereignis},
     Befehl{"wetter", "Zeigt die aktuellen Werte der Wetterstation", "zav --com 1 wetter", Befehl_wetter},
     Befehl{"enocean", "Programmiert die Funkempfänger", "zav --com 1 enocean haus --alle", Befehl_enocean},
+    Befehl{"app", "Schreibt den Deskriptor für die Telefon-App ZAVapp", "zav app haus -o haus.xml", Befehl_app},
     Befehl{"suche", "Listet alle Ereignisse, die auf einen Ausgang oder Timer wirken", "zav suche haus O3-5", Befehl_suche},
     Befehl{"touchpanel", "Zeigt die Adressen-Referenz für Touchpanels", "zav touchpanel haus", Befehl_touchpanel},
     Befehl{"sonne", "Zeigt Sonnenzeiten und Zeitumstellung eines Tages oder Jahres", "zav --heute 21.06.2026 sonne",

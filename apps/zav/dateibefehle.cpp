@@ -1,10 +1,11 @@
-// neu, umwandeln, abbild: commands that need no master.
+// neu, umwandeln, abbild, app: commands that need no master.
 #include <CLI/CLI.hpp>
 #include <memory>
 #include <ostream>
 #include <string>
 #include <vector>
 
+#include "app/deskriptor.h"
 #include "basis/text.h"
 #include "befehl.h"
 #include "platform/datei.h"
@@ -96,6 +97,23 @@ Ausfuehrung Befehl_abbild(CLI::App& app) {
     if (geschrieben) return true;
     lauf.konsole.Fehler(a->ausgabe + " konnte nicht geschrieben werden: " + Systemfehler_text(geschrieben.fehler));
     return false;
+  };
+}
+
+Ausfuehrung Befehl_app(CLI::App& app) {
+  struct Argumente {
+    std::string datei, ausgabe;
+  };
+  const auto a = std::make_shared<Argumente>();
+  app.add_option("DATEI", a->datei, "Projekt; .zav wird ergänzt")->required();
+  app.add_option("-o", a->ausgabe, "in diese Datei schreiben, sie wird ersetzt (sonst zavappdescriptor.xml)")
+      ->type_name("AUSGABE")
+      ->take_last();
+  return [a](Lauf& lauf) {
+    if (!Projekt_oeffnen(lauf, a->datei) || !App_daten_moeglich()) return false;
+    if (!a->ausgabe.empty()) return App_xml_schreiben(a->ausgabe, App_xml_bauen(projekt));
+    const std::string vorgabe = "zavappdescriptor.xml";
+    return Ersetzen_erlaubt(vorgabe) && App_xml_schreiben(vorgabe, App_xml_bauen(projekt));
   };
 }
 

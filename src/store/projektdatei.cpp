@@ -70,15 +70,9 @@ void Meldung_mit_piep(const Meldung& m) {
   melder().Melden(m);
 }
 
-void Fehler_melden(int fehler, const std::string& dahinter = {}) {
-  Meldung_mit_piep({.text = Systemfehler_text(fehler) + dahinter,
-                    .titel = fehlerquelle + std::string(": Fehler ") + std::to_string(fehler),
-                    .symbol = Symbol::Stopp});
-}
-
 Laden Nicht_geoeffnet(int fehler) {
   sitzung.Dateifehler = fehler;
-  Fehler_melden(fehler);
+  Dateifehler_melden(fehler);
   projekt.Projekt_name = namenlos;
   return Laden::nicht_geoeffnet;
 }
@@ -111,14 +105,20 @@ bool Altdatei_sichern(const Generation& g, std::string_view bytes) {
   const Dateiergebnis kopie = Datei_schreiben(projekt.Projekt_name + g.endung, bytes);
   if (kopie) return true;
   sitzung.Dateifehler = kopie.fehler;
-  Fehler_melden(kopie.fehler,
-                ". Möglicherweise existiert die Sicherungsdatei " + genannt +
-                    " bereits und ist schreibgeschützt. Heben Sie bitte den Schreibschutz auf oder "
-                    "sichern Sie die Datei manuell.");
+  Dateifehler_melden(kopie.fehler,
+                     ". Möglicherweise existiert die Sicherungsdatei " + genannt +
+                         " bereits und ist schreibgeschützt. Heben Sie bitte den Schreibschutz auf oder "
+                         "sichern Sie die Datei manuell.");
   return false;
 }
 
 }  // namespace
+
+void Dateifehler_melden(int fehler, const std::string& dahinter) {
+  Meldung_mit_piep({.text = Systemfehler_text(fehler) + dahinter,
+                    .titel = fehlerquelle + std::string(": Fehler ") + std::to_string(fehler),
+                    .symbol = Symbol::Stopp});
+}
 
 bool Alte_generation(std::string_view version) {
   const Generation* const g = Generation_von(version);
@@ -181,10 +181,10 @@ Speichern Projekt_speichern() {
       Datei_schreiben(projekt.Projekt_name + endung_projekt, Projekt_schreiben(projekt));
   sitzung.Dateifehler = ergebnis.fehler;
   if (ergebnis.gescheitert == Dateischritt::oeffnen) {
-    Fehler_melden(ergebnis.fehler,
-                  ". Die Datei mit diesem Namen ist möglicherweise schreibgeschützt. "
-                  "Speichern Sie sie mit 'Projekt speichern unter...' mit einem anderen "
-                  "Namen oder in einen anderen Ordner.");
+    Dateifehler_melden(ergebnis.fehler,
+                       ". Die Datei mit diesem Namen ist möglicherweise schreibgeschützt. "
+                       "Speichern Sie sie mit 'Projekt speichern unter...' mit einem anderen "
+                       "Namen oder in einen anderen Ordner.");
     projekt.Projekt_name = namenlos;
     return Speichern::nicht_angelegt;
   }

@@ -36,6 +36,10 @@ std::optional<std::string> Version_lesen(std::string_view bytes);
 // known. `marke` takes line 3.
 bool Projekt_lesen(std::string_view bytes, Projekt& p, std::string* marke = nullptr);
 
+// Beep and stop box of a file that could not be read or written: the system's description of the error number, with
+// what the caller has to say behind it.
+void Dateifehler_melden(int fehler, const std::string& dahinter = {});
+
 // ---- the open project
 // ---------------------------------------------------------------------------------------------
 

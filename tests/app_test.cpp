@@ -1,0 +1,447 @@
+// The phone app: the descriptor byte for byte, the properties of a key, and the cameras.
+#include <gtest/gtest.h>
+
+#include "app/app_eigenschaften_seite.h"
+#include "app/deskriptor.h"
+#include "app/eigenschaften.h"
+#include "app/ip_kameras.h"
+#include "app/xml_text.h"
+#include "app/zavapp_form.h"
+#include "basis/text.h"
+#include "form/drehbuch.h"
+#include "hilfen.h"
+#include "store/sitzung.h"
+
+namespace zav {
+namespace {
+
+class App : public ::testing::Test {
+ protected:
+  App() {
+    Projekt_reset();
+    sitzung = {};
+    projekt.Datei_version = "910";
+  }
+  ~App() override { EXPECT_EQ(d.maengel(), ""); }
+
+  static void apparat(int k, int platz, int typ, int adresse, int adressen_) {
+    projekt.Komb_typ[k] = 1;
+    projekt.App_typ[16 * k + platz] = static_cast<i16>(typ);
+    projekt.App_text[16 * k + platz] = std::to_string(adresse);
+    projekt.App_text2[16 * k + platz] = std::to_string(adressen_);
+  }
+  static void taste(int k, int platz, int n, const char* text) { projekt.Dev_text[128 * k + 8 * platz + n] = text; }
+  static str& feld(int ereignis, App_feld f) { return projekt.App_eigenschaften.zeile(ereignis)[f]; }
+  static void setzen(int ereignis, std::initializer_list<std::pair<App_feld, const char*>> werte) {
+    for (const auto& [f, wert] : werte) feld(ereignis, f) = wert;
+  }
+
+  Drehbuch d;
+};
+
+// ---- the descriptor
+
+TEST_F(App, DescriptorOfAnEmptyProjectHasEmptySections) {
+  EXPECT_EQ(App_xml_bauen(projekt),
+            "\xEF\xBB\xBF<?xml version=\"1.0\" encoding=\"UTF-8\"?>\r\n"
+            "<zavappdescriptor version=\"1.0\">\r\n"
+            "<uisector>\r\n"
+            "<title></title>\r\n"
+            "<!-- Globale Tasten ab hier +++++++++++++++++++++++++++++ -->\r\n"
+            "  <node type=\"section\" domain=\"global\">\r\n"
+            "    <title>Tasten</title>\r\n"
+            "    <subtitle>Globale Tasten</subtitle>\r\n"
+            "    <node type=\"collection\" domain=\"global\">\r\n"
+            "      <title>Globale Tasten</title>\r\n"
+            "    </node>\r\n"
+            "  </node>\r\n"
+            "<!-- Globale Tasten bis hier +++++++++++++++++++++++++++++ -->\r\n"
+            "<!-- Globale Szenen ab hier +++++++++++++++++++++++++++++ -->\r\n"
+            "  <node type=\"section\" domain=\"global\" class=\"scene\">\r\n"
+            "    <title>Globale Szenen</title>\r\n"
+            "    <node type=\"collection\" domain=\"global\">\r\n"
+            "      <title>Globale Szenen</title>\r\n"
+            "    </node>\r\n"
+            "  </node>\r\n"
+            "<!-- Globale Szenen bis hier +++++++++++++++++++++++++++++ -->\r\n"
+            "<!-- Normale Tasten ab hier +++++++++++++++++++++++++++++ -->\r\n"
+            "  <node type=\"collection\">\r\n"
+            "  </node>\r\n"
+            "<!-- Normale Tasten bis hier +++++++++++++++++++++++++++++ -->\r\n"
+            "</uisector>\r\n"
+            "<!-- Kameras ab hier +++++++++++++++++++++++++++++ -->\r\n"
+            "<camsector>\r\n"
+            "</camsector>\r\n"
+            "</zavappdescriptor>\r\n");
+}
+
+// What stands between two comments.
+std::string Teil(const std::string& xml, const std::string& name) {
+  const auto von = xml.find("<!-- " + name + " ab hier");
+  const auto beginn = xml.find("\r\n", von) + 2;
+  const auto ende = xml.find("<!-- " + name + " bis hier", beginn);
+  return xml.substr(beginn, ende - beginn);
+}
+
+TEST_F(App, ButtonsStandWhereTheirPropertiesPutThem) {
+  projekt.Komb_text[3] = "Erdgeschoss--hell";
+  projekt.Komb_text2[3] = "Küche's";
+  projekt.Komb_text[9] = "dach";
+  projekt.Komb_text2[9] = "Estrich";
+  apparat(3, 2, 29, 12, 2);  // eight keys from I12-1
+  taste(3, 2, 0, "Licht & Lärm");
+  taste(3, 2, 5, "Store");
+  taste(3, 2, 6, "Szene");
+  setzen(52, {});                        // no text: never exported
+  setzen(48, {{App_geraet, "3"}, {App_bereich, "2"}, {App_mit_icon, "1"}, {App_icon_name, "Licht"},
+              {App_mit_rueckmeldung, "1"}, {App_rueckmeldung, "513"}});
+  setzen(53, {{App_geraet, "2"}, {App_eigener_text, "1"}, {App_tastentext, "Straße"},
+              {App_mit_bestaetigung, "1"}, {App_frage_art, "3"}, {App_frage1, "Zu?"}, {App_ja1, "Ja"},
+              {App_nein1, "Nein"}, {App_frage2, "\"Auf\"?"}, {App_ja2, "J"}, {App_nein2, "N"}});
+  setzen(54, {{App_geraet, "1"}, {App_bereich, "1"}, {App_als_szene, "1"}});
+  setzen(49, {{App_geraet, "3"}});
+  const std::string xml = App_xml_bauen(projekt);
+  EXPECT_EQ(Teil(xml, "Normale Tasten"),
+            "  <node type=\"collection\">\r\n"
+            "    <node type=\"section\">\r\n"
+            "      <title>dach</title>\r\n"
+            "      <subtitle></subtitle>\r\n"
+            "      <node type=\"collection\">\r\n"
+            "        <node type=\"section\">\r\n"
+            "          <title>Estrich</title>\r\n"
+            "          <subtitle></subtitle>\r\n"
+            "          <node type=\"collection\">\r\n"
+            "          </node>\r\n"
+            "        </node>\r\n"
+            "      </node>\r\n"
+            "    </node>\r\n"
+            "    <node type=\"section\">\r\n"
+            "      <title>Erdgeschoss</title>\r\n"
+            "      <subtitle>hell</subtitle>\r\n"
+            "      <node type=\"collection\">\r\n"
+            "        <node type=\"section\">\r\n"
+            "          <title>Küche&apos;s</title>\r\n"
+            "          <subtitle></subtitle>\r\n"
+            "          <node type=\"collection\">\r\n"
+            "            <node type=\"button\" class=\"light\">\r\n"
+            "              <title>Licht &amp; Lärm</title>\r\n"
+            "              <address>I12-1</address>\r\n"
+            "              <icon>Licht</icon>\r\n"
+            "              <feedbackaddress>D0-1</feedbackaddress>\r\n"
+            "            </node>\r\n"
+            "            <node type=\"button\" class=\"light\" fordevice=\"tablet\">\r\n"
+            "              <title>Stra\xDF" "e</title>\r\n"
+            "              <address>I13-2</address>\r\n"
+            "              <confirmation forstate =\"off\" keyok=\"Ja\" keyabort=\"Nein\">Zu?</confirmation>\r\n"
+            "              <confirmation forstate =\"on\" keyok=\"J\" keyabort=\"N\">&quot;Auf&quot;?</confirmation>\r\n"
+            "            </node>\r\n"
+            "          </node>\r\n"
+            "        </node>\r\n"
+            "      </node>\r\n"
+            "    </node>\r\n"
+            "  </node>\r\n");
+  EXPECT_NE(Teil(xml, "Globale Tasten")
+                .find("      <title>Globale Tasten</title>\r\n"
+                      "      <node type=\"button\" domain=\"global\" class=\"light\">\r\n"
+                      "        <title>Licht &amp; Lärm</title>\r\n"
+                      "        <address>I12-1</address>\r\n"
+                      "        <icon>Licht</icon>\r\n"
+                      "        <feedbackaddress>D0-1</feedbackaddress>\r\n"
+                      "      </node>\r\n"
+                      "    </node>\r\n"),
+            std::string::npos);
+  EXPECT_NE(Teil(xml, "Globale Szenen")
+                .find("      <node type=\"button\" domain=\"global\" class=\"scene\" fordevice=\"phone\">\r\n"
+                      "        <title>Szene</title>\r\n"
+                      "        <address>I13-3</address>\r\n"
+                      "      </node>\r\n"),
+            std::string::npos);
+}
+
+TEST_F(App, QuestionsAndFeedbackFollowTheirKind) {
+  projekt.Komb_text[0] = "EG";
+  apparat(0, 0, 14, 0, 1);
+  taste(0, 0, 0, "x");
+  const auto zeile = [](const char* name) {
+    const std::string xml = App_xml_bauen(projekt);
+    const auto n = xml.find(name);
+    return n == std::string::npos ? "" : xml.substr(n, xml.find("\r\n", n) - n);
+  };
+  setzen(0, {{App_geraet, "3"}, {App_mit_bestaetigung, "1"}, {App_mit_rueckmeldung, "1"}, {App_frage1, "A"},
+             {App_frage2, "B"}});
+  struct Fall {
+    const char* art;
+    const char* text;
+  };
+  for (const auto& [art, text] :
+       {Fall{"0", "<confirmation keyok=\"\" keyabort=\"\">A</confirmation>"},
+        {"1", "<confirmation forstate =\"off\" keyok=\"\" keyabort=\"\">A</confirmation>"},
+        {"2", "<confirmation forstate =\"on\" keyok=\"\" keyabort=\"\">B</confirmation>"}}) {
+    setzen(0, {{App_frage_art, art}});
+    EXPECT_EQ(zeile("<confirmation"), text);
+  }
+  for (const auto& [nummer, text] : {std::pair{"0", "O0-0"}, {"511", "O63-7"}, {"512", "D0-0"}, {"639", "D31-3"},
+                                     {"640", "-"}, {"641", "-"}, {"", "-"}}) {
+    setzen(0, {{App_rueckmeldung, nummer}});
+    EXPECT_EQ(zeile("<feedbackaddress"), "<feedbackaddress>" + std::string(text) + "</feedbackaddress>");
+  }
+  setzen(0, {{App_geraet, "0"}});
+  EXPECT_EQ(zeile("<node type=\"button\""), "");
+}
+
+TEST_F(App, StoreysAreSortedWithoutCaseAndKeepTheirOrder) {
+  const auto titel = [] {
+    std::string folge;
+    const std::string xml = App_xml_bauen(projekt);
+    for (auto n = xml.find("          <title>"); n != std::string::npos; n = xml.find("          <title>", n + 1)) {
+      folge += xml.substr(n + 17, 1);
+    }
+    return folge;
+  };
+  int k = 7;
+  for (const auto& [standort, raum] : {std::pair{"Ober", "1"}, {"erd", "2"}, {"ÄUSSERES", "3"}, {"ober", "4"},
+                                       {"äUSSERES", "5"}, {"Erd", "6"}, {"", "7"}, {"Ober", "8"}}) {
+    projekt.Komb_text[k] = standort;
+    projekt.Komb_text2[k++] = raum;
+  }
+  EXPECT_EQ(titel(), "2614835");
+}
+
+TEST_F(App, SlotsBehindAnOccupiedPlaceAreNotExported) {
+  projekt.Komb_text[0] = "EG";
+  apparat(0, 0, 40, 20, 4);
+  apparat(0, 1, 14, 30, 1);
+  taste(0, 1, 0, "Nachbar");
+  for (int e = 0; e < eingangsereignisse; ++e) setzen(e, {{App_geraet, "3"}});
+  EXPECT_EQ(App_zaehlen(projekt).normale, 1);
+  EXPECT_EQ(App_xml_bauen(projekt).find("I22-1"), std::string::npos);
+  projekt.App_text[16] = "acht";  // damaged: no address, no keys
+  projekt.App_text[1] = "300";
+  EXPECT_EQ(App_zaehlen(projekt).normale, 0);
+}
+
+TEST_F(App, CamerasAreWrittenWithTheirKeys) {
+  projekt.Kamera_aktiv[2] = "1";
+  projekt.Kamera_usecase[2] = "63";
+  projekt.Kamera_titel[2] = "Tür & Tor";
+  projekt.Kamera_ip[2] = "10.0.0.7";
+  projekt.Kamera_port[2] = "80";
+  projekt.Kamera_controlport[2] = "81";
+  projekt.Kamera_stream_von[2] = "5000";
+  projekt.Kamera_modell[2] = "axis.m1054.w";
+  projekt.Kamera_taste1[2] = "57";
+  projekt.Kamera_tastentext1[2] = "Öffnen";
+  projekt.Kamera_taste2[2] = "0";
+  setzen(57, {{App_geraet, "3"}});
+  const std::string xml = App_xml_bauen(projekt);
+  const auto n = xml.find("<camsector>");
+  EXPECT_EQ(xml.substr(n),
+            "<camsector>\r\n"
+            "  <node type=\"cameraview\" usecase=\"63\" cid=\"2\">\r\n"
+            "    <title>Tür &amp; Tor</title> \r\n"
+            "    <subtitle></subtitle> \r\n"
+            "    <mediaserver forstream=\"audio_video\" ipaddress=\"10.0.0.7\" httpport=\"80\" controlport=\"81\" "
+            "streamportpool=\"5000-5005\" devicemodel=\"axis.m1054.w\"/>\r\n"
+            "    <node type=\"button\" class=\"light\">\r\n"
+            "      <title>Öffnen</title>\r\n"
+            "      <address>I14-2</address>\r\n"
+            "    </node>\r\n"
+            "  </node>\r\n"
+            "</camsector>\r\n"
+            "</zavappdescriptor>\r\n");
+  projekt.Kamera_stream_von[2] = "";
+  EXPECT_NE(App_xml_bauen(projekt).find("streamportpool=\"0-5\""), std::string::npos);
+}
+
+TEST_F(App, TextsPassAsBytes) {
+  EXPECT_EQ(Xml_text("äöüÄÖÜéèà<>&\"'"),
+            "\xC3\xA4\xC3\xB6\xC3\xBC\xC3\x84\xC3\x96\xC3\x9C\xC3\xA9\xC3\xA8\xC3\xA0&lt;&gt;&amp;&quot;&apos;");
+  EXPECT_EQ(Xml_text("ß€ç\x7F"), "\xDF\x80\xE7\x7F");
+  EXPECT_EQ(Xml_text(""), "");
+  EXPECT_EQ(App_titel_teil("a--b--c") + "|" + App_untertitel_teil("a--b--c") + "|" + App_untertitel_teil("a-b"),
+            "a|b--c|");
+}
+
+TEST_F(App, ExportAsksForTheFileAndKeepsTheOldOneOnFailure) {
+  const Testordner ordner;
+  ZAVapp_Form f;
+  f.Text1.eingeben("Mein Haus");
+  d.erwarte_datei(std::nullopt);
+  f.Command1.druecken();
+  ASSERT_EQ(d.dateifragen().size(), 1U);
+  EXPECT_EQ(d.dateifragen()[0].vorschlag, "zavappdescriptor");
+  EXPECT_EQ(d.dateifragen()[0].endung, ".xml");
+  EXPECT_EQ(d.dateifragen()[0].filter, (std::vector<Dateifilter>{{"XML-Datei (*.xml)", "*.xml"}}));
+  EXPECT_TRUE(d.dateifragen()[0].ueberschreiben_fragen);
+  EXPECT_EQ(projekt.App_allgemein[0], "Mein Haus");
+  EXPECT_EQ(sitzung.Projekt_geaendert, 1);
+
+  d.erwarte_datei(Dateiwahl{.pfad = ordner / "a.xml"});
+  f.Command1.druecken();
+  EXPECT_EQ(Dateibytes(ordner / "a.xml"), App_xml_bauen(projekt));
+  EXPECT_EQ(f.Label2.titel, "Geschrieben: " + ordner / "a.xml");
+  d.erwarte_datei(Dateiwahl{.pfad = ordner / "fehlt/a.xml"});
+  d.erwarte({.text = "Datei oder Ordner nicht gefunden. Die Datei mit diesem Namen ist möglicherweise "
+                     "schreibgeschützt. Speichern Sie sie mit einem anderen Namen oder in einen anderen Ordner.",
+             .titel = "ZAVlink: Fehler 2",
+             .symbol = Symbol::Stopp});
+  f.Command1.druecken();
+  EXPECT_EQ(f.Label2.titel, "");
+  projekt.Datei_version = "900";
+  d.erwarte_text(
+      "Wenn Sie die neuen Funktionen von ZAVlink-Version 9.102 nutzen möchten, wählen Sie 'Speichern unter' und den "
+      "Dateityp 910. Achtung: Das Betriebssystem des ZAVmasters muss auf die Version 9 aufgerüstet werden.");
+  EXPECT_FALSE(App_daten_moeglich());
+}
+
+// ---- properties
+
+TEST_F(App, AutomaticFillFindsIconAndFeedback) {
+  apparat(0, 0, 14, 5, 1);
+  taste(0, 0, 0, "STOREN auf");
+  projekt.Ein_relais(20, 6) = 5;   // blind: no feedback
+  projekt.Ein_relais(21, 9) = 4;
+  projekt.Ein_relais(21, 30) = 2;
+  projekt.Ein_dimmer(22, 7, 2) = 60;
+  projekt.Dev_adr[5000] = 30;      // an LED shows it
+  setzen(20, {{App_rueckmeldung, "17"}, {App_frage1, "bleibt"}, {App_tastentext, "alt"}});
+  const App_automatik automatik(projekt);
+  for (int j = 0; j < 4; ++j) automatik.fuellen(0, j, projekt.App_eigenschaften.zeile(20 + j));
+  const auto satz = [](int e) {
+    std::string text;
+    for (const App_feld f : {App_geraet, App_bereich, App_eigener_text, App_mit_icon, App_mit_rueckmeldung,
+                             App_tastentext, App_icon_name, App_rueckmeldung, App_frage1}) {
+      text += feld(e, f) + "|";
+    }
+    return text;
+  };
+  EXPECT_EQ(satz(20), "3|0|0|1|0|0|Store|17|bleibt|");
+  EXPECT_EQ(satz(21), "3|0|0|1|1|0|Licht|30||");
+  EXPECT_EQ(satz(22), "3|0|0|1|1|0|Dimmer|519||");
+  EXPECT_EQ(satz(23), "3|0|0|1|0|0|Taste|640||");
+  projekt.App_typ[0] = 45;
+  automatik.fuellen(0, 0, projekt.App_eigenschaften.zeile(20));
+  EXPECT_EQ(feld(20, App_geraet), "0");
+  automatik.fuellen(0, 4, projekt.App_eigenschaften.zeile(24));  // beyond the device
+  EXPECT_EQ(feld(24, App_geraet), "0");
+  EXPECT_EQ(feld(24, App_icon_name), "0");
+}
+
+TEST_F(App, PageEditsACopyOfTheDevicesRecords) {
+  apparat(2, 1, 14, 7, 1);
+  taste(2, 1, 2, "Licht");
+  setzen(29, {{App_mit_icon, "1"}, {App_icon_name, "lampe_alt"}, {App_icon_bild, "99"}});
+  App_eigenschaften_seite f(33, 2);
+  EXPECT_EQ(f.Tastenwahl.text(), "Taste 3: Licht");
+  EXPECT_FALSE(f.Text12.frei);
+  EXPECT_FALSE(f.Combo1.sichtbar);
+  f.Combo2.waehlen(3);
+  f.Check5.haken(true);
+  f.Text12.eingeben("Lampe");
+  f.Check6.haken(true);
+  f.Combo1.waehlen("Licht");
+  f.Check7.haken(true);
+  f.Combo4.waehlen(29);
+  f.Check8.haken(true);
+  f.Option1.waehlen(3);
+  EXPECT_EQ(f.Label25.titel, "Frage 1, wenn Rückmeldung aus ist");
+  EXPECT_EQ(f.Label26.titel, "Frage 2, wenn Rückmeldung ein ist");
+  f.Text18.eingeben("Wirklich?");
+  f.Check9.haken(true);
+  EXPECT_FALSE(f.Check6.frei);
+  EXPECT_FALSE(f.Combo1.sichtbar);
+  EXPECT_FALSE(f.Frame3.sichtbar);
+  f.Check9.haken(false);
+  // Another key: an icon of another program's is shown and kept.
+  f.Tastenwahl.waehlen(1);
+  EXPECT_EQ(f.Combo1.text(), "lampe_alt");
+  EXPECT_EQ(feld(30, App_geraet), "0") << "nothing is written before OK";
+  f.OK.druecken();
+  std::string satz;
+  for (const str& feld : projekt.App_eigenschaften.zeile(30)) satz += feld + "|";
+  EXPECT_EQ(satz, "3|0|1|1|1|1|0|Lampe|1|Licht||29|3||||Wirklich?||||||");
+  EXPECT_EQ(feld(29, App_icon_name), "lampe_alt");
+  EXPECT_EQ(feld(29, App_icon_bild), "99");
+  EXPECT_EQ(sitzung.Projekt_geaendert, 1);
+
+  sitzung = {};
+  App_eigenschaften_seite g(33, 2);
+  g.Option2.waehlen(1);
+  g.Command1.druecken();
+  EXPECT_EQ(g.Combo1.text(), "Licht");
+  EXPECT_EQ(g.Text12.text(), "0");
+  g.Command2.druecken();
+  EXPECT_EQ(g.Combo2.position(), 0);
+  EXPECT_EQ(g.Combo4.position(), 640);
+  g.Cancel.druecken();
+  EXPECT_EQ(sitzung.Projekt_geaendert, 0);
+  EXPECT_EQ(feld(28, App_geraet), "0");
+}
+
+// ---- cameras
+
+TEST_F(App, CamerasAreEditedDeletedAndKeptAsLines) {
+  projekt.Kamera_text[7] = "bleibt";
+  apparat(0, 0, 93, 14, 6);
+  taste(0, 0, 1, "Tor");
+  {
+    IP_Kameras f;
+    f.TabStrip1.waehlen(1);
+    f.Check1.haken(true);
+    f.Text1.eingeben("Eingang");
+    f.Combo1.waehlen("Panasonic");
+    EXPECT_EQ(f.Text7.text(), "panasonic.bb.hcm5xx");
+    EXPECT_TRUE(f.Check2[5].an());
+    f.Check2[5].haken(false);
+    f.Text6.eingeben("65531");
+    f.Combo2.waehlen("I14-2:  - Tor");
+    f.Text3.eingeben("192.168.1.256");
+    f.Text4.eingeben("80");
+    d.erwarte({.text = "Zahl zu gross"});
+    f.Command5.druecken();
+    EXPECT_EQ(f.Label1.titel, "Die IP-Adresse ist nicht in Ordnung");
+    f.Text3.eingeben("192.168.001.020");
+    f.Command5.druecken();
+    EXPECT_EQ(f.Text3.text(), "192.168.1.20");
+    f.TabStrip1.waehlen(0);
+    EXPECT_EQ(f.Text1.text(), "");
+    d.erwarte_text("'65531' ist kein Port (0 bis 65530).");
+    f.Command1.druecken();
+    EXPECT_EQ(f.TabStrip1.position(), 1);
+    f.Text6.eingeben("6000");
+    f.Text2.eingeben("a@03#b");
+    d.erwarte_text("'a@03#b' enthält die Zeichenfolge einer Feldmarkierung (@, zwei Ziffern, #).");
+    f.Command1.druecken();
+    f.Text2.eingeben("a@3#b");
+    EXPECT_EQ(projekt.Kamera_text[1], "X");
+    f.Command1.druecken();
+    EXPECT_FALSE(f.offen());
+  }
+  EXPECT_EQ(projekt.Kamera_text[1],
+            "Eingang@01#a@3#b@02#192.168.1.20@03#80@04#80@05#6000@06#panasonic.bb.hcm5xx@07#@08#1@09#31@10#57@11#0@12#"
+            "0@13#0@14#");
+  EXPECT_EQ(projekt.Kamera_text[0], "X") << "looking at a camera does not define it";
+  EXPECT_EQ(sitzung.Projekt_geaendert, 1);
+
+  IP_Kameras f;
+  f.TabStrip1.waehlen(1);
+  EXPECT_EQ(f.Combo1.text(), "Panasonic");
+  const Meldung frage{.text = "Wollen Sie diese Kamera und alle Einstellungen wirklich löschen?",
+                      .titel = "Löschen",
+                      .knoepfe = Knoepfe::Ja_Nein,
+                      .symbol = Symbol::Warnung,
+                      .standard = 2};
+  d.erwarte(frage, Antwort::Nein);
+  f.Command3.druecken();
+  EXPECT_EQ(f.Text1.text(), "Eingang");
+  d.erwarte(frage, Antwort::Ja);
+  f.Command3.druecken();
+  EXPECT_EQ(f.Text1.text(), "");
+  f.Command1.druecken();
+  EXPECT_EQ(projekt.Kamera_text[1], "X");
+  EXPECT_EQ(projekt.Kamera_ip[1], "");
+  EXPECT_EQ(projekt.Kamera_text[7], "bleibt");
+}
+
+}  // namespace
+}  // namespace zav
