@@ -10,7 +10,8 @@ option(ZAV_SANITIZER "Build with address and undefined-behaviour sanitizers" OFF
 
 add_library(warnungen INTERFACE)
 target_compile_options(warnungen INTERFACE
-  -Wall -Wextra -Wpedantic -Wshadow=local -Wconversion -Wno-sign-conversion -Wnon-virtual-dtor -Woverloaded-virtual -Werror
+  -Wall -Wextra -Wpedantic $<$<CXX_COMPILER_ID:GNU>:-Wshadow=local> -Wconversion -Wno-sign-conversion -Wnon-virtual-dtor
+  -Woverloaded-virtual -Werror
   # GCC 12 (bug 105651) sees an overlap in every inlined "literal" + std::string when it optimises; there is none.
   $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict>)
 
@@ -18,6 +19,9 @@ add_library(pruefer INTERFACE)
 if(ZAV_SANITIZER)
   target_compile_options(pruefer INTERFACE -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
   target_link_options(pruefer INTERFACE -fsanitize=address,undefined)
+endif()
+if(ZAV_FUZZ)
+  target_compile_options(pruefer INTERFACE -fsanitize=fuzzer-no-link)
 endif()
 
 # zav_bibliothek(NAME SOURCES ... LINKS ...): the static library of one folder. LINKS are the arrows of the

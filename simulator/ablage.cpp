@@ -103,7 +103,7 @@ void Bestand_laden(const std::string& datei, Bestand& b) {
 }
 
 void Bestand_speichern(const std::string& datei, const Bestand& b) {
-  const std::string neben = datei + ".neu";
+  std::string neben = datei + ".XXXXXX";
   const std::string text = als_text(b);
   const auto aufgeben = [&] {
     const int grund = errno;
@@ -112,7 +112,7 @@ void Bestand_speichern(const std::string& datei, const Bestand& b) {
     fehlgeschlagen(datei, "geschrieben");
   };
 
-  Fd aus(::open(neben.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666));
+  Fd aus(::mkostemp(neben.data(), O_CLOEXEC));
   if (!aus) fehlgeschlagen(datei, "geschrieben");
   for (std::size_t ab = 0; ab < text.size();) {
     const auto n = ::write(aus.nummer(), text.data() + ab, text.size() - ab);

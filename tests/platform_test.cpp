@@ -25,7 +25,7 @@ std::string Alle_bytes() {
 TEST(Ini, KeepsWhatItDoesNotKnow) {
   const std::string datei =
       "\xEF\xBB\xBF; von Hand\r\n"
-      "ohne=Abschnitt\r\n"
+      "ohne=Abschnitt\r\r\n"
       "[Andere]\n"
       "comport=9\n"
       "\n"

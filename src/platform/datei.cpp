@@ -93,7 +93,7 @@ int Wie_vorher(int d, const struct stat& alt) {
 template <class... Schritt>
 int Nacheinander(Schritt... schritt) {
   int r = 0;
-  ((r = schritt(), r >= 0) && ...);
+  static_cast<void>(((r = schritt(), r >= 0) && ...));
   return std::min(r, 0);
 }
 

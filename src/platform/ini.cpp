@@ -24,7 +24,7 @@ Ini::Ini(std::string_view inhalt) {
   while (!inhalt.empty()) {
     const auto ende = inhalt.find('\n');
     std::string_view zeile = inhalt.substr(0, ende);
-    if (zeile.ends_with('\r')) zeile.remove_suffix(1);
+    while (zeile.ends_with('\r')) zeile.remove_suffix(1);
     zeilen_.emplace_back(zeile);
     inhalt.remove_prefix(ende == std::string_view::npos ? inhalt.size() : ende + 1);
   }

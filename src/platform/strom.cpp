@@ -17,6 +17,7 @@ namespace {
 using Uhr = std::chrono::steady_clock;
 
 constexpr int sendezeit_ms = 5000;
+constexpr int leerungen = 64;  // reads, so that a peer that never stops does not hold us
 
 int Rest_ms(Uhr::time_point ende) {
   const auto rest = std::chrono::ceil<std::chrono::milliseconds>(ende - Uhr::now()).count();
@@ -33,10 +34,9 @@ bool Bytestrom::Nachlesen() {
   do n = read(fd_, block.data(), block.size());
   while (n < 0 && errno == EINTR);
   if (n > 0) {
-    if (anfang_ == puffer_.size()) {
-      puffer_.clear();
-      anfang_ = 0;
-    }
+    // What is left is less than somebody waits for: the queue stays as short as that, however long the flood.
+    puffer_.erase(0, anfang_);
+    anfang_ = 0;
     puffer_.append(block.data(), static_cast<std::size_t>(n));
     return true;
   }
@@ -95,7 +95,7 @@ std::size_t Bytestrom::Nehmen(char* ziel, std::size_t n) {
 }
 
 void Bytestrom::Leeren() {
-  while (fehler_ == 0 && Nachlesen()) anfang_ = puffer_.size();
+  for (int n = 0; n < leerungen && fehler_ == 0 && Nachlesen(); ++n) anfang_ = puffer_.size();
   anfang_ = puffer_.size();
 }
 

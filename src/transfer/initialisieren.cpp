@@ -17,6 +17,7 @@ namespace zav {
 namespace {
 
 constexpr double stille_sekunden = 15;       // without a byte, after which the master counts as gone
+constexpr std::size_t bericht_hoechstens = std::size_t{1} << 20;  // bytes; a true report has a few thousand
 constexpr double prozent_je_schritt = 1.68;  // the erase reports about 60 steps
 
 struct Schluss {
@@ -63,27 +64,26 @@ void Uebertragung::Meldezeichen(char zeichen, double& prozent) {
   }
 }
 
-// Reads the report until "F00", or until the master has been silent too long.
+// Reads the report until "F00", or until the master has been silent or has talked too long.
 void Uebertragung::Bericht_lesen() {
   double prozent = 0;
   std::string gelesen;
   std::array<char, 64> puffer{};
-  for (;;) {
+  for (std::size_t bytes = 0; bytes < bericht_hoechstens;) {
     const int n = Bytes_lesen(puffer.data(), static_cast<int>(puffer.size()), Echte_millisekunden(stille_sekunden));
-    if (n <= 0) {
-      Transfer_status = Transferstand::keine_antwort;
-      return;
-    }
+    if (n <= 0) break;
+    bytes += static_cast<std::size_t>(n);
     for (int i = 0; i < n; ++i) {
       const char zeichen = puffer[static_cast<std::size_t>(i)];
-      gelesen += zeichen;
+      gelesen.erase(0, gelesen.size() == 3 ? 1 : 0) += zeichen;
       Meldezeichen(zeichen, prozent);
-      if (!gelesen.ends_with("F00")) continue;
+      if (gelesen != "F00") continue;
       // The end is a status reply: its checksum and CR must not be taken for the begin of the next one.
       Empfang_leeren();
       return;
     }
   }
+  Transfer_status = Transferstand::keine_antwort;
 }
 
 bool Uebertragung::Initialisieren() {

@@ -1,0 +1,21 @@
+#!/usr/bin/env bash
+# Static checks of src, apps and simulator: clang-tidy with the list of .clang-tidy, where every finding is an error,
+# and cppcheck. With arguments, of these files alone.
+set -euo pipefail
+cd "$(dirname "$0")/.."
+. scripts/pakete.sh
+pakete_sicherstellen bauen pruefen statisch
+cmake --preset dev >/dev/null
+if [ $# -gt 0 ]; then
+  dateien=("$@")
+else
+  mapfile -t dateien < <(git ls-files 'src/*.cpp' 'apps/*.cpp' 'simulator/*.cpp')
+fi
+rot=0
+printf '%s\n' "${dateien[@]}" |
+  xargs -P "$(nproc)" -n 4 clang-tidy -p build/dev --quiet --extra-arg=-Wno-unknown-warning-option 2>/dev/null || rot=1
+cppcheck --std=c++20 --language=c++ --enable=warning,performance,portability --inline-suppr --error-exitcode=1 --quiet \
+  -j "$(nproc)" --suppress=missingInclude --suppress=normalCheckLevelMaxBranches -I src -I . \
+  "${dateien[@]}" || rot=1
+[ "$rot" -eq 0 ] && echo "clang-tidy und cppcheck: nichts gefunden"
+exit "$rot"

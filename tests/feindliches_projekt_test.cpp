@@ -1,0 +1,113 @@
+// A project file can hold any number where an address, a type or a time belongs. What is made of such a project may
+// be wrong, but nothing stops: neither a transfer nor any window.
+#include <gtest/gtest.h>
+
+#include <random>
+#include <type_traits>
+
+#include "editor/actmask.h"
+#include "editor/actmask_init.h"
+#include "editor/actmask_timer.h"
+#include "editor/actmask_uhr.h"
+#include "editor/backref.h"
+#include "editor/dialog_kombination.h"
+#include "editor/dimmermode.h"
+#include "editor/einmask.h"
+#include "editor/einmask8.h"
+#include "editor/ereignissuche.h"
+#include "editor/timer_trepp.h"
+#include "editor/touchpanel_referenz.h"
+#include "form/drehbuch.h"
+#include "store/felder.h"
+#include "store/projektdatei.h"
+#include "time/form_setup_uhr.h"
+#include "time/uhr.h"
+#include "time/uhr_astro.h"
+#include "transfer/plan.h"
+
+namespace zav {
+namespace {
+
+// Numbers just beside and far beyond every limit.
+i16 Boese_zahl(std::mt19937& zufall) {
+  static constexpr int zahlen[] = {-32768, -640, -2,  -1,  0,   1,   2,   3,   15,   16,   17,   20,   21,   47,  48,
+                                   63,     64,   127, 128, 255, 256, 511, 512, 639, 640, 1023, 1024, 4095, 4096, 32767};
+  return static_cast<i16>(zahlen[zufall() % std::size(zahlen)]);
+}
+str Boeser_text(std::mt19937& zufall) {
+  static const str texte[] = {"",         "0",        "-1",        "1",          "256",       "99999999999", "640",
+                              "24.00.00", "99:99:99", "31.02.20",  "00.00.00",   "\x1b[2J",   "Untergang + Zufall",
+                              "ä",        "12",       "6.6.",      "29.02.2027", "FFFFFFFF",  "Zeit + Zufall"};
+  return zufall() % 40 == 0 ? str(5000, 'x') : texte[zufall() % std::size(texte)];
+}
+
+Projekt Feindlich(unsigned saat) {
+  std::mt19937 zufall(saat);
+  Projekt p;
+  Felder_besuchen(p, [&]<class T>(std::string_view, T& feld) {
+    const auto setzen = [&](auto& e) {
+      using E = std::remove_reference_t<decltype(e)>;
+      if constexpr (std::is_same_v<E, str>) {
+        e = Boeser_text(zufall);
+      } else {
+        e = static_cast<E>(Boese_zahl(zufall));
+      }
+    };
+    if constexpr (requires { feld.alle(); }) {
+      for (auto& e : feld.alle()) setzen(e);
+    } else {
+      setzen(feld);
+    }
+  });
+  // As a file brings it.
+  p.Datei_version = "910";
+  p.Projekt_name = "Haus";
+  Projekt q;
+  EXPECT_TRUE(Projekt_lesen(Projekt_schreiben(p), q));
+  q.Projekt_name = "Haus";
+  return q;
+}
+
+// Opens the form and lays it out.
+template <class F, class... A>
+void Oeffnen(A... argumente) {
+  F form(argumente...);
+  form.anordnung();
+}
+
+TEST(Feindliches_projekt, HaeltWederSendenNochFensterAn) {
+  for (const unsigned saat : {1U, 2U, 3U}) {
+    SCOPED_TRACE(saat);
+    projekt = Feindlich(saat);
+    EXPECT_NE(Abbild(projekt, einstellungen, {.nur_geaenderte = false}), "");
+    Drehbuch d;  // boxes answer themselves; what they say does not matter here
+    for (const int e : {0, 1, 511, 1023}) Oeffnen<Actmask>(e, "");
+    for (const int e : {0, 255}) Oeffnen<Actmask_uhr>(e, "");
+    for (const int e : {0, 63}) Oeffnen<Actmask_timer>(e, "");
+    Oeffnen<Actmask_init>();
+    Oeffnen<Dimmermode>();
+    Oeffnen<Timer_trepp>();
+    Oeffnen<Backref>();
+    Oeffnen<Einmask>();
+    Oeffnen<Touchpanel_Referenz>();
+    Oeffnen<Dialog_Kombination>("7", 1);
+    Oeffnen<Uhr>();
+    Oeffnen<Form_Setup_uhr>();
+    {
+      Einmask8 maske;
+      const auto knoten = maske.TreeView1.knoten();
+      for (std::size_t k = 0; k < knoten.size(); k += 1 + knoten.size() / 16) {
+        maske.TreeView1.waehlen(knoten[k].schluessel);
+        for (auto& platz : maske.Image3) {
+          if (platz.sichtbar) platz.druecken();
+        }
+      }
+    }
+    for (const int a : {0, 511}) Ereignisse_suchen({Ziel::Art::Relais, a});
+    for (const int a : {0, 127}) Ereignisse_suchen({Ziel::Art::Dimmer, a});
+  }
+  projekt = {};
+}
+
+}  // namespace
+}  // namespace zav
