@@ -1,14 +1,14 @@
 // The link's replies through whole operations. In place of the sockets stands a master in this process: the
 // simulated one, whose replies the input cuts, stretches, replaces and withholds.
 #include <algorithm>
-#include <optional>
 #include <string>
 
 #include "basis/melder.h"
 #include "eingabe.h"
+#include "enocean/programmieren.h"
+#include "gegenueber.h"
 #include "link/leitung.h"
 #include "link/protokoll.h"
-#include "platform/csc.h"
 #include "platform/einstellungen.h"
 #include "platform/uhrwerk.h"
 #include "simulator/master.h"
@@ -19,11 +19,11 @@
 namespace zav {
 namespace {
 
-// The other end of the line.
-struct Gegenueber {
-  explicit Gegenueber(Eingabe& e) : eingabe(e) {}
+// A master that does what the input says to its replies.
+struct Launischer_master : Gegenueber {
+  explicit Launischer_master(Eingabe& e) : eingabe(e) {}
 
-  void hoeren(std::string_view bytes) {
+  void hoeren(std::string_view bytes) override {
     simulator::Ausgabe aus;
     for (const char c : bytes) master.empfangen(zustand, c, aus);
     switch (const std::size_t wahl = eingabe.leer() ? 0 : eingabe.byte(); wahl % 8) {
@@ -55,11 +55,7 @@ struct Gegenueber {
   Eingabe& eingabe;
   simulator::Master master{"REV 09.04"};
   simulator::Zustand zustand;
-  std::string da;  // on its way to the tool
-  bool weg = false;
 };
-
-std::optional<Gegenueber> gegenueber;
 
 // Agrees to everything.
 class Jasager : public Melder {
@@ -74,6 +70,7 @@ void Projekt_anlegen() {
   projekt.Ein_relais(5, 7) = 3;
   projekt.Uhr_timer(9, 1) = 2;
   projekt.Tev_dimmer(63, 127, 3) = 50;
+  projekt.Enocean_empf_da[3] = 1;
 }
 
 void Vormerken() {
@@ -89,11 +86,14 @@ void Ausfuehren(std::size_t vorgang) {
   Beobachter niemand;
   Uebertragung u(niemand);
   u.Check1 = vorgang & 8;
+  Enocean_anzeige anzeige;
   switch (vorgang % 8) {
     case 0:
     case 1:
-    case 2:
       u.Senden_starten();
+      break;
+    case 2:
+      Enocean_programmieren(true, anzeige);
       break;
     case 3:
       if (u.Initialisieren()) u.Senden_starten();
@@ -116,38 +116,6 @@ void Ausfuehren(std::size_t vorgang) {
 
 }  // namespace
 
-// ---- the sockets' functions, as the link calls them --------------------------------------------------------------
-
-int cscAttach() { return 0; }
-void cscRelease() {}
-int cscClient(const std::string&, int) {
-  gegenueber->da.clear();
-  return gegenueber->weg ? -111 : 1;
-}
-void cscClose(int) {}
-const std::string& cscUrsache() {
-  static const std::string leer;
-  return leer;
-}
-int cscPutData(int, const char* bytes, int n) {
-  if (gegenueber->weg) return -32;
-  gegenueber->hoeren({bytes, static_cast<std::size_t>(n)});
-  return n;
-}
-int cscGetData(int, char* puffer, int n) {
-  const auto genommen = gegenueber->da.copy(puffer, static_cast<std::size_t>(n));
-  gegenueber->da.erase(0, genommen);
-  return static_cast<int>(genommen);
-}
-int cscAwaitData(int, int, int mindestens) {
-  const int da = static_cast<int>(gegenueber->da.size());
-  return da < mindestens && gegenueber->weg ? -104 : da;
-}
-int cscReadSize(int socket) { return cscAwaitData(socket, 0, 1); }
-std::uint32_t cscResolve(const std::string&) { return 0; }
-int cscMakeDotted(std::uint32_t, char*, int) { return 0; }
-int cscMakeDotted4(int, int, int, int, char*, int) { return 0; }
-
 }  // namespace zav
 
 using namespace zav;
@@ -167,14 +135,16 @@ extern "C" int LLVMFuzzerInitialize(int*, char***) {
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t n) {
   Eingabe e(bytes, n);
   const std::size_t vorgang = e.byte();
-  gegenueber.emplace(e);
+  Launischer_master launisch(e);
+  gegenueber = &launisch;
   Vormerken();
   Ausfuehren(vorgang);
   Verlangen(leitung.Tcp_socket < 0, "the line is closed after every operation");
-  if (vorgang % 8 > 2) return 0;
+  if (vorgang % 8 > 1) return 0;
   // A master that answers as it should gets everything, whatever came before.
   Eingabe nichts(nullptr, 0);
-  gegenueber.emplace(nichts);
+  Launischer_master brav(nichts);
+  gegenueber = &brav;
   Beobachter niemand;
   Uebertragung u(niemand);
   Verlangen(u.Senden_starten() == Sendeergebnis::gesendet, "the next good run is good");

@@ -179,7 +179,7 @@ std::string Master::nachricht_ausfuehren(Zustand& z, const std::string& zeile) {
 
   const std::string_view ziffern = text.substr(befehl->name.size());
   if (!ist_hex(ziffern)) return std::string(F05);
-  constexpr std::size_t puffer = 2 * Speicher::seitengroesse;
+  constexpr std::size_t puffer = std::size_t{2} * Speicher::seitengroesse;
   if (befehl->ziffern == Befehlstabelle::fenster) {
     if (!fenster_gilt) return std::string(F06);
     if (ziffern.size() > puffer) return std::string(F64);

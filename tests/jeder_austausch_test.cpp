@@ -1,4 +1,4 @@
-// Every exchange fails once: whole transfers, erases and clock settings to the simulated master, over a real
+// Every exchange fails once: whole transfers, erases, clock settings and radio receivers at the simulated master, over a real
 // socket and a real pseudo-terminal, with each fault put on each message in turn. After a fault stands the box
 // of its rule, what has gone is no longer flagged and everything else still is, and a second run brings the
 // master's memory to the image of the project.
@@ -10,6 +10,7 @@
 #include <sstream>
 
 #include "basis/zahl.h"
+#include "enocean/programmieren.h"
 #include "hilfen.h"
 #include "link/leitung.h"
 #include "link/statuscode.h"
@@ -437,6 +438,53 @@ TEST_P(Jeder_austausch, DerUhr) {
     }
   }
   Bericht("clock");
+}
+
+// A radio receiver: its four pages are written, taken up, and checked.
+TEST_P(Jeder_austausch, DesFunkempfaengers) {
+  constexpr int r = 3;
+  const auto vormerken = [](bool geaendert) { projekt.Enocean_empf_geaendert[r] = geaendert ? 1 : 0; };
+  vorher.Enocean_empf_da[r] = 1;
+  vorher.App_enocean_empf[40] = r;
+  vorher.App_enocean_id[40] = "01234567";
+  vorher.App_typ[40] = 84;
+  vorher.App_text[40] = "16";
+  vorher.App_text2[40] = "1";
+  projekt = vorher;
+  anfang.einsetzen();
+  Enocean_anzeige anzeige;
+  const auto programmieren = [&] { return Enocean_programmieren(false, anzeige); };
+  vormerken(true);
+  const auto ablauf = Ablauf(programmieren);
+  ASSERT_EQ(ablauf.size(), 89U);  // 4 x 18 to write, one to take up, 4 x 4 to check
+  static constexpr const char* arten[] = {"stumm", "muell", "F80", "trenn", "lang", "F07", "kurz", "verloren"};
+  for (std::size_t k = 0; k < ablauf.size(); ++k) {
+    for (const std::string art : {arten[k % 8], arten[(k + 3) % 8]}) {
+      if (GetParam() == Verbindung::com && art == arten[(k + 3) % 8]) continue;  // each exchange opens the port anew
+      SCOPED_TRACE(art + " at " + std::to_string(k + 1) + " " + ablauf[k]);
+      vormerken(true);
+      const bool zahlen = ablauf[k] == "x";
+      const bool heil = art == "lang" || (art == "F07" && !zahlen);
+      const bool verfaelscht = zahlen && art == "muell";
+      const bool stille = Verstummt(art) || (zahlen && art[0] == 'F');
+      const auto ergebnis = Mit_fehler(art, k + 1, 1, stille, programmieren);
+      EXPECT_EQ(ergebnis, heil          ? Enocean_ergebnis::aktualisiert
+                          : verfaelscht ? Enocean_ergebnis::pruefsumme_falsch
+                                        : Enocean_ergebnis::gescheitert);
+      EXPECT_EQ(projekt.Enocean_empf_geaendert[r], !heil && !verfaelscht);
+      ASSERT_FALSE(b.boxen.empty());
+      EXPECT_TRUE(heil || verfaelscht || b.boxen.back().ends_with(" bei der Kommunikation.")) << b.boxen.back();
+
+      vormerken(true);
+      EXPECT_EQ(Ohne_fehler(programmieren), Enocean_ergebnis::aktualisiert);
+      EXPECT_EQ(b.boxen, std::vector<std::string>{"Alle Empfänger sind jetzt aktualisiert."});
+      const auto tabelle = sim.empfaengertabelle(r);
+      EXPECT_EQ(simulator::Bytes(tabelle.begin(), tabelle.begin() + 9),
+                (simulator::Bytes{0x01, 0x23, 0x45, 0x67, 16, 0, 0, 0, 0}));
+      ueberlebt += !HasFailure();
+    }
+  }
+  Bericht("radio receiver");
 }
 
 INSTANTIATE_TEST_SUITE_P(, Jeder_austausch, ::testing::Values(Verbindung::tcp, Verbindung::com),

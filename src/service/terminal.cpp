@@ -21,6 +21,7 @@ using Uhr = std::chrono::steady_clock;
 
 constexpr double auffrischung_s = 20;  // a connection that carries nothing for long is cut by routers
 constexpr int runde_ms = 50;
+constexpr std::size_t laengste_zeile = 4096;  // of the master are far shorter; a flood without CR is cut here
 constexpr int status_laenge = 6;
 constexpr const char* zeilenende = "\r\n";
 
@@ -105,11 +106,8 @@ Terminalende Terminal::Verbunden(Terminalmodus modus) {
     }
     for (int i = 0; i < n; ++i) {
       const char c = puffer[static_cast<std::size_t>(i)];
-      if (c == '\r') {
-        Zeile_fertig();
-      } else if (static_cast<unsigned char>(c) > '\r') {
-        zeile_ += c;
-      }
+      if (static_cast<unsigned char>(c) > '\r') zeile_ += c;
+      if (c == '\r' || zeile_.size() >= laengste_zeile) Zeile_fertig();
     }
     if (netz && Uhr::now() >= auffrischen) {
       Byte_senden('%');
