@@ -9,7 +9,7 @@ Gegenueber* gegenueber = nullptr;
 
 int cscAttach() { return 0; }
 void cscRelease() {}
-int cscClient(const std::string&, int) {
+int cscClient(const std::string&, int, double) {
   gegenueber->geoeffnet();
   return gegenueber->weg ? -111 : 1;
 }

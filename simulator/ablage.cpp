@@ -31,7 +31,7 @@ std::string als_text(const Bestand& b) {
   std::string text(kopf);
   for (std::uint32_t n = 0; n < Speicher::seitenzahl; ++n)
     if (const auto* s = b.speicher.seite(n)) text += "S " + hex(n, 3) + ' ' + hex(*s) + '\n';
-  for (const auto& [befehl, ziffern] : b.bloecke) text += "B " + befehl + ' ' + ziffern + '\n';
+  for (const auto& [befehl, ziffern] : b.bloecke) text.append("B ").append(befehl).append(" ").append(ziffern).append("\n");
   for (std::size_t r = 0; r < b.empfaenger.size(); ++r)
     if (const auto& t = b.empfaenger[r].tabelle(); std::ranges::any_of(t, [](auto x) { return x != 0; }))
       text += "E " + hex(r, 1) + ' ' + hex(t) + '\n';
@@ -46,7 +46,7 @@ bool zeile_uebernehmen(const std::string& zeile, Bestand& b) {
   const auto nummer = hex_zahl(name);
   if (art == "B") return b.bloecke.emplace(name, ziffern).second;
   if (art == "S" && nummer && *nummer < Speicher::seitenzahl &&
-      ziffern.size() == 2 * Speicher::seitengroesse) {
+      ziffern.size() == std::size_t{2} * Speicher::seitengroesse) {
     b.speicher.schreiben(*nummer * Speicher::seitenabstand, hex_bytes(ziffern));
     return true;
   }

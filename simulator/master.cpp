@@ -183,7 +183,7 @@ std::string Master::nachricht_ausfuehren(Zustand& z, const std::string& zeile) {
   if (befehl->ziffern == Befehlstabelle::fenster) {
     if (!fenster_gilt) return std::string(F06);
     if (ziffern.size() > puffer) return std::string(F64);
-    if (ziffern.size() != 2 * (fenster_bis - fenster_von + 1)) return std::string(F01);
+    if (ziffern.size() != std::size_t{2} * (fenster_bis - fenster_von + 1)) return std::string(F01);
   } else if (const auto soll = static_cast<std::size_t>(befehl->ziffern); ziffern.size() != soll) {
     if (ziffern.size() > puffer) return std::string(F65);
     return std::string(ziffern.size() < soll ? befehl->zu_wenig : befehl->zu_viel);

@@ -432,6 +432,7 @@ void Simulator::flash_defekt(bool defekt) {
 
 void Simulator::fehler_setzen(const std::vector<std::string>& regeln) {
   std::vector<Fehlerregel> gelesen;
+  gelesen.reserve(regeln.size());
   for (const auto& r : regeln) gelesen.push_back(Fehlerregel_lesen(r));
   kern->stellen([&](Geraet& g) { g.master.fehler.setzen(std::move(gelesen)); });
 }

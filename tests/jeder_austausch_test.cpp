@@ -3,11 +3,14 @@
 // of its rule, what has gone is no longer flagged and everything else still is, and a second run brings the
 // master's memory to the image of the project.
 #include <gtest/gtest.h>
+#include <netinet/in.h>
+#include <sys/socket.h>
 
 #include <algorithm>
 #include <functional>
 #include <iostream>
 #include <sstream>
+#include <thread>
 
 #include "basis/zahl.h"
 #include "enocean/programmieren.h"
@@ -407,6 +410,39 @@ TEST_P(Jeder_austausch, DesLoeschens) {
     }
   }
   Bericht("erase");
+}
+
+// A master that talks for ever, where the report of an erase should end.
+TEST(Flut, EndetDasLoeschen) {
+  const int lauscher = socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0);
+  sockaddr_in ort{};
+  ort.sin_family = AF_INET;
+  ort.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+  ASSERT_EQ(bind(lauscher, reinterpret_cast<sockaddr*>(&ort), sizeof ort), 0);
+  ASSERT_EQ(listen(lauscher, 1), 0);
+  socklen_t laenge = sizeof ort;
+  getsockname(lauscher, reinterpret_cast<sockaddr*>(&ort), &laenge);
+  einstellungen.Com_art = 1;
+  einstellungen.Host_ip = "127.0.0.1";
+  einstellungen.Host_port = ntohs(ort.sin_port);
+  Com_art_setzen();
+  std::thread master([lauscher] {
+    const int fd = accept(lauscher, nullptr, nullptr);
+    std::string text = "REV 09.04 00\r" + std::string(65536, 'x');
+    while (send(fd, text.data(), text.size(), MSG_NOSIGNAL) > 0) text.assign(65536, 'x');
+    close(fd);
+  });
+  projekt.Datei_version = "910";
+  {
+    Benutzer b;
+    Uebertragung u(b);
+    EXPECT_FALSE(u.Initialisieren());
+    EXPECT_EQ(b.boxen, (std::vector{loeschfrage, timeout}));
+  }
+  master.join();
+  close(lauscher);
+  projekt = {};
+  einstellungen = {};
 }
 
 TEST_P(Jeder_austausch, DerUhr) {
