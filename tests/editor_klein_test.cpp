@@ -3,14 +3,12 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <set>
 #include <string>
 #include <vector>
 
 #include "editor/actmask.h"
 #include "editor/actmask_init.h"
 #include "editor/actmask_timer.h"
-#include "editor/actmask_uhr.h"
 #include "editor/auswahl_taster.h"
 #include "editor/backref.h"
 #include "editor/dimmermode.h"
@@ -46,28 +44,6 @@ class Kleine_editoren : public testing::Test {
   }
   Drehbuch d;
 };
-
-template <class F, class... A>
-void Platzierung_pruefen(A... argumente) {
-  F form(argumente...);
-  const auto platziert = Platzierte(form.anordnung());
-  EXPECT_EQ(platziert.size(), form.elemente().size()) << form.name();
-  EXPECT_EQ(std::multiset<const Steuerelement*>(platziert.begin(), platziert.end()),
-            std::multiset<const Steuerelement*>(form.elemente().begin(), form.elemente().end()))
-      << form.name();
-}
-
-TEST_F(Kleine_editoren, EveryControlIsPlacedOnce) {
-  Platzierung_pruefen<Actmask>(0, "");
-  Platzierung_pruefen<Actmask_uhr>(0, "");
-  Platzierung_pruefen<Actmask_timer>(0, "");
-  Platzierung_pruefen<Timer_trepp>();
-  Platzierung_pruefen<Actmask_init>();
-  Platzierung_pruefen<Dimmermode>();
-  Platzierung_pruefen<Backref>();
-  Platzierung_pruefen<Einmask>();
-  Platzierung_pruefen<Touchpanel_Referenz>();
-}
 
 TEST_F(Kleine_editoren, TimerTimesAreCheckedOnLeavingTheField) {
   const std::string form = "Eingabe im Format HH.MM.SS oder HH.MM, Maximalwert 17.59.59";
