@@ -2,10 +2,15 @@
 #pragma once
 
 #include <iosfwd>
+#include <string>
+#include <string_view>
 
 #include "store/projekt.h"
 
 namespace zav {
+
+// A text as a JSON string, quotes included. What is no UTF-8 becomes the replacement character.
+std::string Json_text(std::string_view text);
 
 // Scalars are values, one-dimensional arrays lists, records lists of lists. A relay or timer matrix becomes
 // {"event": {"output": value}} of the cells that are not 0, a dimmer matrix {"event": {"dimmer": [p0, p1, p2, p3]}} of

@@ -1,7 +1,6 @@
-#include "projekt_json.h"
+#include "store/json.h"
 
 #include <algorithm>
-#include <nlohmann/json.hpp>
 #include <ostream>
 #include <span>
 
@@ -15,9 +14,7 @@ class Schreiber {
  public:
   explicit Schreiber(std::ostream& aus) : aus_(aus) {}
 
-  void Wert(const std::string& text) {
-    aus_ << nlohmann::json(text).dump(-1, ' ', false, nlohmann::json::error_handler_t::replace);
-  }
+  void Wert(const std::string& text) { aus_ << Json_text(text); }
   void Wert(std::integral auto zahl) { aus_ << static_cast<int>(zahl); }
 
   // What `einer` writes for each i that counts, with commas between.
@@ -97,7 +94,44 @@ class Schreiber {
   bool trennen_ = false;
 };
 
+// Bytes of the character at the begin of text, 0 when it is no UTF-8.
+std::size_t Zeichenlaenge(std::string_view text) {
+  const auto byte = [text](std::size_t i) { return i < text.size() ? static_cast<unsigned char>(text[i]) : 0U; };
+  const unsigned b = byte(0);
+  const std::size_t n = b < 0x80 ? 1 : b < 0xC2 ? 0 : b < 0xE0 ? 2 : b < 0xF0 ? 3 : b < 0xF5 ? 4 : 0;
+  for (std::size_t i = 1; i < n; ++i) {
+    if ((byte(i) & 0xC0U) != 0x80) return 0;
+  }
+  // Overlong forms, surrogates, and beyond the last code point.
+  if ((b == 0xE0 && byte(1) < 0xA0) || (b == 0xED && byte(1) >= 0xA0)) return 0;
+  if ((b == 0xF0 && byte(1) < 0x90) || (b == 0xF4 && byte(1) >= 0x90)) return 0;
+  return n;
+}
+
 }  // namespace
+
+std::string Json_text(std::string_view text) {
+  constexpr std::string_view besondere = "\b\f\n\r\t\"\\";
+  constexpr std::string_view kurzform = "bfnrt\"\\";
+  constexpr std::string_view ziffern = "0123456789abcdef";
+  std::string aus = "\"";
+  while (!text.empty()) {
+    const std::size_t n = Zeichenlaenge(text);
+    const char c = text.front();
+    if (n == 0) {
+      aus += "\uFFFD";
+    } else if (const std::size_t k = besondere.find(c); n == 1 && k != std::string_view::npos) {
+      aus += {'\\', kurzform[k]};
+    } else if (n == 1 && static_cast<unsigned char>(c) < 0x20) {
+      aus += "\\u00";
+      aus += {ziffern[static_cast<unsigned char>(c) / 16], ziffern[static_cast<unsigned char>(c) % 16]};
+    } else {
+      aus += text.substr(0, n);
+    }
+    text.remove_prefix(std::max<std::size_t>(n, 1));
+  }
+  return aus + '"';
+}
 
 void Projekt_json(const Projekt& p, std::ostream& aus) {
   Schreiber s(aus);
