@@ -46,6 +46,7 @@ Ausfuehrung Befehl_senden(CLI::App& app);
 Ausfuehrung Befehl_master(CLI::App& app);
 Ausfuehrung Befehl_neustart(CLI::App& app);
 Ausfuehrung Befehl_uhr(CLI::App& app);
+Ausfuehrung Befehl_protokoll(CLI::App& app);
 Ausfuehrung Befehl_ereignis(CLI::App& app);
 Ausfuehrung Befehl_wetter(CLI::App& app);
 Ausfuehrung Befehl_enocean(CLI::App& app);
@@ -53,5 +54,6 @@ Ausfuehrung Befehl_app(CLI::App& app);
 Ausfuehrung Befehl_suche(CLI::App& app);
 Ausfuehrung Befehl_touchpanel(CLI::App& app);
 Ausfuehrung Befehl_sonne(CLI::App& app);
+Ausfuehrung Befehl_update(CLI::App& app);
 
 }  // namespace zav

@@ -36,6 +36,8 @@ constexpr std::array befehle{
     Befehl{"neustart", "Startet den ZAVmaster neu", "zav --ja neustart", Befehl_neustart},
     Befehl{"uhr", "Stellt die Uhr des ZAVmasters und die Daten der Zeitumstellung", "zav --nein uhr --umstellung 1",
            Befehl_uhr},
+    Befehl{"protokoll", "Zeigt die Ereignisse am Bus, wie sie geschehen, mit --liste alle Busteilnehmer",
+           "zav --com 1 protokoll --filter K000 --zeit", Befehl_protokoll},
     Befehl{"ereignis", "Drückt, löst oder tippt eine Taste, als täte es jemand im Haus", "zav --com 1 ereignis 12 0 kurz",
            Befehl_ereignis},
     Befehl{"wetter", "Zeigt die aktuellen Werte der Wetterstation", "zav --com 1 wetter", Befehl_wetter},
@@ -45,6 +47,7 @@ constexpr std::array befehle{
     Befehl{"touchpanel", "Zeigt die Adressen-Referenz für Touchpanels", "zav touchpanel haus", Befehl_touchpanel},
     Befehl{"sonne", "Zeigt Sonnenzeiten und Zeitumstellung eines Tages oder Jahres", "zav --heute 21.06.2026 sonne",
            Befehl_sonne},
+    Befehl{"update", "Ersetzt das Betriebssystem des ZAVmasters", "zav --com 1 update ZAVMAStER_0904.s19", Befehl_update},
 };
 
 // What stands before, behind or between the command's own arguments.

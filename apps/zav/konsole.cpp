@@ -120,6 +120,7 @@ void Konsole::Fortschritt_ende() {
 }
 
 void Konsole::DoEvents() {
+  if (bei_runde) bei_runde();
   if (abbruch_verlangt != 0 && abbruch_handlung != nullptr) std::exchange(abbruch_handlung, nullptr)();
 }
 

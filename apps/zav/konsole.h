@@ -4,6 +4,7 @@
 
 #include <array>
 #include <csignal>
+#include <functional>
 #include <iosfwd>
 #include <string>
 #include <string_view>
@@ -33,6 +34,7 @@ class Konsole final : public Oberflaeche {
   Fragen_art fragen = Fragen_art::stellen;
   std::string bejahter_titel;  // a question of this title is answered with Yes, whatever `fragen` says
   bool leise = false;
+  std::function<void()> bei_runde;  // at every turn of the surface
 
   // True once a box with a warning or stop icon has appeared that was no question.
   bool fehler_gezeigt() const { return fehler_gezeigt_; }
