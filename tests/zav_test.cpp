@@ -17,6 +17,7 @@
 #include "basis/text.h"
 #include "befehlszeile.h"
 #include "platform/einstellungen.h"
+#include "platform/uhrwerk.h"
 #include "simulator/simulator.h"
 #include "store/felder.h"
 #include "store/projektdatei.h"
@@ -601,6 +602,45 @@ TEST_F(Zav, TheExampleHouseIsWhatItsProgramWrites) {
   const std::string abgelegt{std::istreambuf_iterator<char>(d), {}};
   EXPECT_TRUE(lesen("haus.zav") == abgelegt) << "examples/einfamilienhaus.zav is out of date: run the program again";
   EXPECT_EQ(zav({"abbild", pfad("haus")}).fehler, "") << "every value of it fits the master";
+}
+
+// ---- in front of the living system ---------------------------------------------------------------------------------
+
+TEST_F(Zav_mit_master, ProtokollWritesLinesUntilItsTimeOrCtrlC) {
+  EXPECT_EQ(zav({"--tcp", tcp(), "protokoll", "--liste", "--filter", "O0", "K00", "--dauer", "1"}).aus,
+            "K000 ZAVin\nK001 ZAVin\nO0 ZAVswitch\n");
+  master.mitschrift_leeren();
+  std::thread haus([this] {
+    master.warten([this] { return master.mitschrift() == std::vector<std::string>{"I"}; });
+    master.ereignis({.adresse = 7, .taste = 3});
+    std::this_thread::sleep_for(std::chrono::milliseconds(300));
+    kill(getpid(), SIGINT);
+  });
+  const Ergebnis e = zav({"--com", master.pty_name(), "--json", "--heute", "04.05.2026", "protokoll", "--datum"});
+  haus.join();
+  EXPECT_EQ(e.status, 0);
+  EXPECT_EQ(nlohmann::json::parse(e.aus), nlohmann::json({"K007 T3 ---  04.05.2026"}));
+  master.fehler_setzen({"F01@I"});
+  EXPECT_EQ(zav({"--tcp", tcp(), "protokoll"}).status, 1);
+  EXPECT_EQ(zav({"protokoll", "--dauer", "-1"}).fehler.substr(0, 36), "--dauer: möglich sind 0 bis 1000000");
+}
+
+TEST_F(Zav, UpdateReplacesTheFirmwareAndWarnsOfAFileThatIsNone) {
+  simulator::Simulator master({.pty = true, .startladen = true});
+  master.start();
+  Zeitraffer_setzen(30);
+  schreiben("ZAVMAStER_1.s19", "S1051000AABB85\r\nS9030000FC\r\n");
+  schreiben("ZAVMAStER_2.s19", "S1051000AABB84\r\nS9030000FC\r\n");
+  const Ergebnis ohne_ja = zav({"--com", master.pty_name(), "update", pfad("ZAVMAStER_2.s19")});
+  EXPECT_EQ(ohne_ja.status, 1);
+  EXPECT_NE(ohne_ja.fehler.find("Zeile 1 hat eine falsche Prüfsumme."), std::string::npos) << ohne_ja.fehler;
+  EXPECT_TRUE(master.firmware().gueltig);
+  const Ergebnis e = zav({"--com", master.pty_name(), "update", pfad("ZAVMAStER_1.s19")});
+  Zeitraffer_setzen(1);
+  EXPECT_EQ(e.status, 0) << e.fehler;
+  EXPECT_NE(e.fehler.find("2. Jetzt bitte ZAVmaster aus-/einschalten"), std::string::npos);
+  EXPECT_EQ(master.firmware().bytes, 2U);
+  EXPECT_EQ(master.neustarts(), 1);
 }
 
 }  // namespace

@@ -1,0 +1,550 @@
+// The program around the editors, as a person uses it: start, files, options, sending, end.
+#include <gtest/gtest.h>
+
+#include <cerrno>
+#include <filesystem>
+#include <memory>
+
+#include "basis/text.h"
+#include "editor/einmask.h"
+#include "editor/einmask8.h"
+#include "form/drehbuch.h"
+#include "hilfen.h"
+#include "link/leitung.h"
+#include "platform/datei.h"
+#include "platform/einstellungen.h"
+#include "platform/uhrwerk.h"
+#include "service/infofenster.h"
+#include "service/init_flash.h"
+#include "shell/bericht.h"
+#include "shell/datei.h"
+#include "shell/eingabehilfe.h"
+#include "shell/fotos.h"
+#include "shell/gruss.h"
+#include "shell/haupt.h"
+#include "shell/setup.h"
+#include "shell/sitzungslauf.h"
+#include "shell/storentimer.h"
+#include "simulator/simulator.h"
+#include "store/funktionen.h"
+#include "store/katalog.h"
+#include "store/projektdatei.h"
+#include "store/sitzung.h"
+#include "time/uhrseite.h"
+#include "transfer/vorschau.h"
+
+namespace zav {
+namespace {
+
+class Shell : public ::testing::Test {
+ protected:
+  Shell() {
+    einstellungen = {};
+    sitzung = {};
+    leitung = {};
+    Com_art_setzen();
+    projekt.Projekt_name = "Namenlos";
+    projekt.Datei_version = "910";
+    Projekt_reset();
+    Heute_setzen({2026, 5, 4});
+  }
+  ~Shell() override {
+    EXPECT_EQ(d.maengel(), "");
+    Zeitraffer_setzen(1);
+  }
+  // A project of that generation in a file; its path without extension.
+  std::string Anlegen(const std::string& name, const std::string& version = "910", const std::string& notiz = "") {
+    Projekt p;
+    p.Datei_version = version;
+    p.Projekt_kennung = "0123456789ABCDEF";
+    p.Notizen = notiz;
+    Datei_anlegen(ordner / (name + ".zav"), Projekt_schreiben(p));
+    return ordner / name;
+  }
+  std::optional<Projekt> Gelesen(const std::string& name) {
+    Projekt p;
+    return Projekt_lesen(Dateibytes(ordner / (name + ".zav")), p) ? std::optional(p) : std::nullopt;
+  }
+  // Opens the file dialog from the main menu and plays in it.
+  void Dateimenue(const std::function<void(Datei&)>& spiel) {
+    d.erwarte_dialog<Datei>(spiel);
+    haupt().Dateien.druecken();
+  }
+  Haupt& haupt() {
+    if (!haupt_) haupt_ = std::make_unique<Haupt>();
+    return *haupt_;
+  }
+  void Ungespeichert_frage(Antwort a) {
+    d.erwarte({.text = "Es existieren möglicherweise ungespeicherte Projektdaten!\r\n\r\nMöchten Sie das aktuelle Projekt noch "
+                       "speichern?\r\n\r\n",
+               .titel = "Noch speichern?",
+               .knoepfe = Knoepfe::Ja_Nein_Abbrechen,
+               .symbol = Symbol::Warnung},
+              a);
+  }
+
+  Testordner ordner;
+  Drehbuch d;
+  std::unique_ptr<Haupt> haupt_;
+};
+
+// ---- session ----------------------------------------------------------------------------------------------------------
+
+TEST_F(Shell, FirstStartHasNothingToOfferAndTheSecondWhatWasSaved) {
+  d.erwarte_dialog<Gruss>([](Gruss& g) {
+    EXPECT_EQ(g.titel(), "Willkommen bei TESSARO");
+    for (const Taste& t : g.Command1) EXPECT_TRUE(!t.frei && t.titel == "---");
+    EXPECT_FALSE(g.Text1.sichtbar);
+    g.Command4.druecken();
+    EXPECT_TRUE(g.Text1.sichtbar);
+    g.Command3.druecken();
+    EXPECT_FALSE(g.Text1.sichtbar);
+    g.OK.druecken();
+  });
+  EXPECT_TRUE(Sitzung_beginnen());
+  EXPECT_EQ(leitung.Antwort_zeit, 2);
+  EXPECT_EQ(haupt().titel(), "ZAVlink Hauptmenu  -  Namenlos.zav");
+  EXPECT_EQ(haupt().Notizen.hinweis, "Feld für Notizen zu dieser Datei (maximal 900 Zeichen)");
+  haupt().Notizen.eingeben(std::string(1200, 'x'));
+  EXPECT_EQ(projekt.Notizen, std::string(999, 'x'));
+  Dateimenue([&](Datei& f) {
+    d.erwarte_datei(Dateiwahl{.pfad = ordner / "Haus & Hof.zav"});
+    f.Command1.druecken();
+  });
+  EXPECT_EQ(haupt().titel(), "ZAVlink Hauptmenu  -  " + (ordner / "Haus & Hof") + ".zav");
+  einstellungen.Com_art = 2;
+  haupt().schliessen_wuenschen();
+  EXPECT_FALSE(haupt().offen());
+
+  d.erwarte_dialog<Gruss>([](Gruss& g) {
+    EXPECT_EQ(g.Command1[0].titel, "Haus && Hof");
+    EXPECT_FALSE(g.Command1[1].frei);
+    g.Command1[0].druecken();
+  });
+  EXPECT_TRUE(Sitzung_beginnen());
+  EXPECT_EQ(leitung.Antwort_zeit, 15);
+  EXPECT_EQ(projekt.Notizen.size(), 999U);
+  EXPECT_EQ(sitzung.Projekt_geaendert, 0);
+
+  std::filesystem::remove(ordner / "Haus & Hof.zav");
+  d.erwarte_dialog<Gruss>([](Gruss& g) { g.schliessen_wuenschen(); });
+  EXPECT_FALSE(Sitzung_beginnen());
+}
+
+TEST_F(Shell, EndOfProgramAsksTwiceAboutUnsavedData) {
+  const Meldung erste{.text = "Es existieren ungespeicherte Projektdaten! Speichern?\r\n\r\nMit 'Ja' gelangen Sie zurück ins "
+                              "Hauptmenu und können die Datei wie gewohnt speichern.\r\n\r\n",
+                      .titel = "ZAV-Datei",
+                      .knoepfe = Knoepfe::Ja_Nein_Abbrechen,
+                      .symbol = Symbol::Warnung};
+  const Meldung zweite{.text = "Wirklich nicht speichern? Mit 'Ja' gelangen Sie zurück ins Hauptmenu und können die Datei wie "
+                               "gewohnt speichern.",
+                       .knoepfe = Knoepfe::Ja_Nein,
+                       .symbol = Symbol::Stopp};
+  haupt().Notizen.eingeben("neu");
+  for (const Antwort a : {Antwort::Ja, Antwort::Abbrechen}) {
+    d.erwarte(erste, a);
+    haupt().Closen.druecken();
+    EXPECT_TRUE(haupt().offen());
+  }
+  d.erwarte(erste, Antwort::Nein);
+  d.erwarte(zweite, Antwort::Ja);
+  haupt().Closen.druecken();
+  EXPECT_TRUE(haupt().offen());
+  EXPECT_EQ(sitzung.Projekt_geaendert, 1);
+  d.erwarte(erste, Antwort::Nein);
+  d.erwarte(zweite, Antwort::Nein);
+  einstellungen.Host_name = "haus.example";
+  einstellungen.Host_ip = "10.0.0.5";
+  haupt().schliessen_wuenschen();
+  EXPECT_FALSE(haupt().offen());
+  EXPECT_EQ(sitzung.Abbruch, 1);
+  Einstellungen_lesen();
+  EXPECT_EQ(einstellungen.Host_ip, "haus.example");
+}
+
+// ---- files --------------------------------------------------------------------------------------------------------------
+
+TEST_F(Shell, OpenKeepsTheProjectOnCancelAndShowsTheWriteProtection) {
+  einstellungen.Standard_ordner = ordner.pfad();
+  const std::string a = Anlegen("a", "910", "aus a");
+  Dateimenue([&](Datei& f) {
+    d.erwarte_datei(Dateiwahl{.pfad = a + ".zav", .schreibgeschuetzt = true});
+    f.Command2.druecken();
+  });
+  EXPECT_TRUE(d.dateifragen()[0].schreibschutz_waehlbar);
+  EXPECT_EQ(d.dateifragen()[0].ordner, ordner.pfad());
+  EXPECT_EQ(d.dateifragen()[0].filter, (std::vector<Dateifilter>{{"ZAVnet (*.zav)", "*.zav"}, {"Alles (*.*)", "*.*"}}));
+  EXPECT_EQ(haupt().titel(), "ZAVlink Hauptmenu  -  " + a + ".zav (Schreibgeschützt)");
+  EXPECT_EQ(haupt().Notizen.text(), "aus a");
+
+  haupt().Notizen.eingeben("geändert");
+  Dateimenue([&](Datei& f) {
+    d.erwarte({.text = "Diese Datei ist schreibgeschützt. Bitte speichern Sie sie unter anderem Namen mit 'Projekt speichern "
+                       "unter...'."});
+    f.Command3.druecken();
+    EXPECT_TRUE(f.offen());
+    // The question comes back as long as the save is cancelled; cancelling it ends the command.
+    Ungespeichert_frage(Antwort::Ja);
+    d.erwarte_datei(std::nullopt);
+    Ungespeichert_frage(Antwort::Abbrechen);
+    f.Command2.druecken();
+  });
+  EXPECT_EQ(haupt().Notizen.text(), "geändert");
+  Dateimenue([&](Datei& f) {
+    Ungespeichert_frage(Antwort::Nein);
+    d.erwarte_datei(std::nullopt);
+    f.Command2.druecken();
+  });
+  EXPECT_EQ(projekt.Projekt_name, a);
+  Dateimenue([&](Datei& f) {
+    d.erwarte_datei(Dateiwahl{.pfad = ordner / "b.zav"});
+    f.Command1.druecken();
+  });
+  EXPECT_EQ(sitzung.Schreibschutz, 0);
+  EXPECT_EQ(Gelesen("b")->Notizen, "geändert");
+  EXPECT_EQ(Gelesen("a")->Notizen, "aus a");
+}
+
+TEST_F(Shell, SaveAsChoosesTheGenerationAndSaveAsksForAMissingName) {
+  Dateimenue([&](Datei& f) {
+    d.erwarte_text("Der Speicherort ist unvollständig. Speichern Sie diese Datei bitte mit 'Projekt speichern unter...'.");
+    d.erwarte_datei(Dateiwahl{.pfad = ordner / "c.zav", .filter_nr = 2});
+    f.Command3.druecken();
+  });
+  EXPECT_EQ(Gelesen("c")->Datei_version, "800");
+  Dateimenue([&](Datei& f) {
+    EXPECT_EQ(f.Label1.titel, "Generation 800");
+    d.erwarte_text("Wenn Sie die neuen Funktionen von ZAVlink-Version 9.102 nutzen möchten, wählen Sie 'Speichern unter' und den "
+                   "Dateityp 910. Achtung: Das Betriebssystem des ZAVmasters muss auf die Version 9 aufgerüstet werden.");
+    f.Command4.druecken();
+    EXPECT_TRUE(f.offen());
+    d.erwarte_datei(std::nullopt);
+    f.Command1.druecken();
+  });
+  const Dateifrage& frage = d.dateifragen().back();
+  EXPECT_EQ(frage.filter_nr, 2);
+  EXPECT_EQ(frage.vorschlag, ordner / "c");
+  EXPECT_TRUE(frage.ueberschreiben_fragen);
+  EXPECT_EQ(frage.endung, ".zav");
+  EXPECT_EQ(frage.filter, (std::vector<Dateifilter>{
+                              {"ZAVnet 910 (*.zav)", "*.zav"}, {"ZAVnet 90x (*.zav)", "*.zav"}, {"ZAVnet 8xx (*.zav)", "*.zav"}}));
+  // A name with a dot of its own is not cut.
+  Dateimenue([&](Datei& f) {
+    d.erwarte_datei(Dateiwahl{.pfad = ordner / "haus.v2", .filter_nr = 1});
+    f.Command1.druecken();
+  });
+  EXPECT_EQ(Gelesen("haus.v2")->Datei_version, "900");
+}
+
+TEST_F(Shell, ASaveThatFailsLosesNothingAndSaysSo) {
+  projekt.Projekt_name = ordner / "weg/haus";
+  haupt().Notizen.eingeben("Arbeit eines Tages");
+  Dateimenue([&](Datei& f) {
+    d.erwarte_text(Systemfehler_text(ENOENT) +
+                   ". Die Datei mit diesem Namen ist möglicherweise schreibgeschützt. Speichern Sie sie mit 'Projekt speichern "
+                   "unter...' mit einem anderen Namen oder in einen anderen Ordner.");
+    f.Command3.druecken();
+  });
+  EXPECT_EQ(sitzung.Projekt_geaendert, 1);
+  EXPECT_EQ(projekt.Notizen, "Arbeit eines Tages");
+}
+
+TEST_F(Shell, NewProjectAsksForItsFileAtOnce) {
+  projekt.Projekt_name = Anlegen("alt");
+  projekt.Datei_version = "800";
+  projekt.Notizen = "alt";
+  const Meldung frage{.text = "Neues Projekt erstellen (Setzt alle Eingaben und Daten auf Standardwerte zurück)?",
+                      .titel = "Info",
+                      .knoepfe = Knoepfe::Ja_Nein,
+                      .symbol = Symbol::Information,
+                      .standard = 2};
+  Dateimenue([&](Datei& f) {
+    d.erwarte(frage, Antwort::Nein);
+    f.New.druecken();
+  });
+  EXPECT_EQ(projekt.Notizen, "alt");
+  EXPECT_EQ(projekt.Datei_version, "910") << "set before any question";
+  Dateimenue([&](Datei& f) {
+    d.erwarte(frage, Antwort::Ja);
+    d.erwarte_datei(std::nullopt);
+    f.New.druecken();
+  });
+  EXPECT_EQ(projekt.Projekt_name, "Namenlos");
+  EXPECT_EQ(projekt.Notizen, "");
+  EXPECT_EQ(sitzung.Projekt_geaendert, 0);
+}
+
+TEST_F(Shell, LastFilesOpenFromTheMainWindow) {
+  einstellungen.last_file[0] = Anlegen("eins", "910", "eins");
+  einstellungen.last_file[1] = Anlegen("zwei", "910", "zwei");
+  EXPECT_EQ(haupt().Zuletzt[1].titel, "zwei");
+  EXPECT_FALSE(haupt().Zuletzt[2].sichtbar);
+  haupt().Zuletzt[1].druecken();
+  EXPECT_EQ(haupt().Notizen.text(), "zwei");
+  EXPECT_FALSE(haupt().Zuletzt[0].sichtbar) << "the open one";
+  haupt().Notizen.eingeben("x");
+  Ungespeichert_frage(Antwort::Abbrechen);
+  haupt().Zuletzt[1].druecken();
+  EXPECT_EQ(haupt().Notizen.text(), "x");
+}
+
+TEST_F(Shell, ExportIsTheProjectAsJsonAndTheReportATable) {
+  projekt.Notizen = "Zeile 1\r\nTab\t\"hier\"";
+  projekt.Komb_typ[0] = 1;
+  projekt.Komb_text[0] = "EG";
+  projekt.Komb_text2[0] = "Küche";
+  projekt.App_typ[2] = 3;
+  projekt.App_text[2] = "12";
+  projekt.App_text2[2] = "1";
+  projekt.Dev_text[16] = "Licht";
+  projekt.Dev_adr[16] = 29;
+  projekt.Relais_text[29] = "Decke";
+  projekt.Grp_thermo[12] = 1;
+  projekt.Ein_relais(48, 29) = relais_ein;
+  projekt.Ein_timer(48, 4) = 1;
+  projekt.Uhr_zeit[17] = "06.30.00";
+  projekt.Uhr_dimmer(17, 6, 2) = 45;
+  d.tasten({.strg = true, .alt = true});
+  Dateimenue([&](Datei& f) {
+    d.erwarte_datei(Dateiwahl{.pfad = ordner / "e.iav"});
+    f.Command1.druecken();
+  });
+  const std::string json = Dateibytes(ordner / "e.iav");
+  EXPECT_EQ(projekt.Projekt_name, ordner / "e");
+  EXPECT_NE(json.find("\"Notizen\": \"Zeile 1\\r\\nTab\\t\\\"hier\\\"\""), std::string::npos);
+  EXPECT_NE(json.find("\"Ein_relais\": {\"48\":{\"29\":2}}"), std::string::npos);
+
+  d.tasten({});
+  Dateimenue([&](Datei& f) {
+    d.erwarte_datei(Dateiwahl{.pfad = ordner / "e.txt"});
+    f.Drucken.druecken();
+  });
+  const std::string bericht = Dateibytes(ordner / "e.txt");
+  const auto art = std::string(Apparat_art(3)->titel);
+  const std::string kopf = "EG\tKüche\t3\t" + art + "\ti12\t <Thermo> \t1\tLicht\t" + LED_liste()[29] + "\t";
+  EXPECT_TRUE(bericht.starts_with("\xEF\xBB\xBFProjekt\t"));
+  const std::vector<std::string> zeilen{"Tab \"hier\"\r\n",
+                                        kopf + "O3-5\tDecke\tEin\r\n",
+                                        kopf + "T4\t\tStart & Restart\r\n",
+                                        "O3-5\tDecke\tAusschalten\r\n",
+                                        "1\tDienstag\t2\t\t06.30.00\t\tD1-2\t\t45 %, Tempo Sehr hoch\r\n"};
+  for (const std::string& zeile : zeilen) {
+    EXPECT_NE(bericht.find(zeile), std::string::npos) << zeile << "\n" << bericht;
+  }
+}
+
+// ---- options and small dialogs ----------------------------------------------------------------------------------------
+
+TEST_F(Shell, OptionsCheckTheNetworkAndCancelTakesAllBack) {
+  einstellungen.Ports[2] = ordner / "kein-geraet";
+  zav::Setup f;
+  EXPECT_FALSE(f.Frame3.frei);
+  EXPECT_FALSE(f.CBCOM[2].frei);
+  f.Option1.waehlen(1);
+  EXPECT_EQ(leitung.Eth_modus, 1);
+  EXPECT_TRUE(f.Frame3.frei && !f.Frame2.frei);
+  f.Text2.eingeben("192.168.1.300");
+  d.erwarte_text("Zahl zu gross");
+  f.OK.druecken();
+  EXPECT_TRUE(f.offen());
+  EXPECT_TRUE(f.Text2.farbe == Farbe::belegt && f.Text3.farbe == Farbe::normal);
+  f.Text2.eingeben("192.168.001.020");
+  EXPECT_EQ(f.Text2.farbe, Farbe::normal);
+  f.Text3.eingeben("70000");
+  d.erwarte_text("TCP Port muss im Bereich von 0...65535 sein");
+  f.Command3.druecken();
+  EXPECT_EQ(f.Text3.farbe, Farbe::belegt);
+  f.Text3.eingeben("4002");
+  f.Command3.druecken();
+  EXPECT_EQ(f.Label1.titel, "IP Adresse = 192.168.1.20");
+  EXPECT_EQ(f.Text2.farbe, Farbe::frei);
+  d.erwarte_dialog<Infofenster>([](Infofenster& i) {
+    EXPECT_EQ(i.Text1.text(), "ZAVlink-Version 9.102");
+    EXPECT_EQ(i.Text3.text(), "Ethernet 192.168.001.020:4002");
+    i.schliessen_wuenschen();
+  });
+  f.Command1.druecken();
+  EXPECT_EQ(leitung.Antwort_zeit, 10);
+  f.Command4.druecken();
+  EXPECT_EQ(einstellungen.Com_art, 0);
+  EXPECT_EQ(einstellungen.Host_name, "192.168.000.000");
+  EXPECT_EQ(leitung.Antwort_zeit, 2);
+  EXPECT_EQ(leitung.Eth_modus, 0);
+
+  leitung.Com_frei[4] = 1;
+  zav::Setup g;
+  g.CBCOM[4].haken(true);
+  EXPECT_FALSE(g.CBCOM[0].an());
+  g.CBCOM[4].haken(false);
+  EXPECT_TRUE(g.CBCOM[4].an()) << "one is always chosen";
+  g.Text2.eingeben("kein netz, keine Prüfung");
+  g.OK.druecken();
+  EXPECT_FALSE(g.offen());
+  EXPECT_EQ(einstellungen.Com_port, 5);
+}
+
+TEST_F(Shell, SmallDialogsCommitOnOkOnly) {
+  Storentimer s;
+  s.Text1[0].eingeben("656");
+  d.erwarte_text("Laufzeit: bitte eine ganze Zahl eingeben, Sekunden (1 bis 655).");
+  s.OK.druecken();
+  EXPECT_TRUE(s.offen());
+  s.Text1[0].eingeben("655");
+  s.Text1[4].eingeben("12");
+  s.OK.druecken();
+  EXPECT_EQ(projekt.Store_p1, 655);
+  EXPECT_EQ(projekt.Store_p5, 12);
+  EXPECT_EQ(sitzung.Projekt_geaendert, 1);
+
+  projekt.Dimmer_text[5] = "Salon";
+  Eingabehilfe e;
+  e.Option1.waehlen(1);
+  e.Combo1.waehlen("D1-0");
+  e.Combo2.waehlen("D1-3");
+  e.Text1.eingeben("Spot # Süd");
+  e.Text2.eingeben("7");
+  EXPECT_EQ(e.Label2.titel, "3 von 4 Texten werden geändert");
+  e.OK.druecken();
+  EXPECT_EQ(projekt.Dimmer_text[4], "Spot 7 Süd");
+  EXPECT_EQ(projekt.Dimmer_text[5], "Salon");
+  EXPECT_EQ(projekt.Dimmer_text[7], "Spot 10 Süd");
+
+  Fotos f;
+  EXPECT_FALSE(f.Command1.frei);
+  while (f.Command2.frei) f.Command2.druecken();
+  EXPECT_EQ(sitzung.Foto_nr, f.List1.anzahl());
+}
+
+TEST_F(Shell, ModifierKeysChooseTheInputEditorAndPortsAreSoughtWhereNeeded) {
+  for (str& p : einstellungen.Ports.alle()) p = ordner / "kein-geraet";
+  d.erwarte_dialog<Einmask8>([](Einmask8& f) { f.schliessen_wuenschen(); });
+  haupt().Eingaenge.druecken();
+  d.tasten({.strg = true, .alt = true});
+  d.erwarte_dialog<Einmask>([](Einmask& f) { f.schliessen_wuenschen(); });
+  haupt().Eingaenge.druecken();
+  EXPECT_EQ(leitung.Com_gesucht, 0);
+  d.erwarte_dialog<Uhrseite>([](Uhrseite& f) { f.schliessen_wuenschen(); });
+  haupt().Command5.druecken();
+  EXPECT_EQ(leitung.Com_gesucht, 1);
+  leitung.Com_frei[3] = 1;  // the options look anew
+  d.erwarte_dialog<zav::Setup>([](zav::Setup& f) {
+    EXPECT_FALSE(f.CBCOM[3].frei);
+    f.schliessen_wuenschen();
+  });
+  haupt().System_Optionen.druecken();
+}
+
+// ---- at the master ------------------------------------------------------------------------------------------------------
+
+class Shell_am_master : public Shell {
+ protected:
+  Shell_am_master() {
+    sim.start();
+    einstellungen.Com_art = 1;
+    einstellungen.Host_ip = einstellungen.Host_name = "127.0.0.1";
+    einstellungen.Host_port = sim.tcp_port();
+    Com_art_setzen();
+    Zeitraffer_setzen(40);
+    projekt.Projekt_name = Anlegen("haus");
+    projekt.Ein_relais(5, 29) = relais_ein;
+    projekt.Ein_leer[5] = projekt.Ein_funktext[5] = 1;
+  }
+  void Initialisieren(Init_flash& f) {
+    d.erwarte_text("Der ZAVmaster enthält anschliessend keine Daten mehr! Möchten Sie fortfahren?", Antwort::Ja);
+    d.erwarte_text("Senden ist jetzt möglich");
+    f.Command1.druecken();
+  }
+  const std::string neustartfrage =
+      "Im ZAVmaster einen Neustart durchführen? 'Ja', wenn Schaltzeiten und Timer aktualisiert werden sollen. 'Nein', wenn nur "
+      "Ausgangsverknüpfungen geändert wurden.";
+  simulator::Simulator sim;
+};
+
+TEST_F(Shell_am_master, TransferDialogErasesSendsAsksAndProgramsReceivers) {
+  const Sendevorschau vorher = Sendevorschau_von(projekt);
+  EXPECT_EQ(vorher.ereignisse, 1);
+  EXPECT_EQ(vorher.led_gruppen, 256);
+  EXPECT_GT(vorher.sekunden, 2 + 256 * 2 * 0.01);
+  bool funk = false;
+  haupt().funkempfaenger = [&] { funk = true; };
+  d.erwarte_dialog<Init_flash>([&](Init_flash& f) {
+    f.Check1.haken(true);
+    EXPECT_EQ(einstellungen.Event_sperre, 1);
+    Initialisieren(f);
+    EXPECT_EQ(f.Text2.text(), "REV 09.04 ");
+    EXPECT_EQ(f.ProgressBar1.wert, 100.0);
+    d.erwarte_text(neustartfrage, Antwort::Nein);
+    f.Command3.druecken();
+    EXPECT_NE(f.Text1.text().find("Eingangsereignisse Switch: 1\r\n"), std::string::npos) << f.Text1.text();
+    EXPECT_EQ(f.Text3.text(), "0");
+    EXPECT_FALSE(funk);
+    projekt.Enocean_empf_geaendert[3] = 1;
+    d.erwarte_text(neustartfrage, Antwort::Nein);
+    f.Command3.druecken();
+    EXPECT_TRUE(funk);
+    f.Command5.druecken();
+    EXPECT_EQ(f.Text2.text(), "REV 09.04");
+    EXPECT_EQ(f.Text6.text(), "haus");
+    f.schliessen_wuenschen();
+  });
+  haupt().Command1.druecken();
+  EXPECT_EQ(haupt().Label_master.titel, "ZAVmaster REV 09.04 ");
+  EXPECT_EQ(Sendevorschau_von(projekt).ereignisse, 0);
+  EXPECT_EQ(sim.anzahl("LD"), 4U);
+}
+
+TEST_F(Shell_am_master, RunningTransferCanBeStoppedAnEraseCannot) {
+  Init_flash f;
+  d.bei_doevents = [&] {
+    if (f.Command1.frei) return;
+    EXPECT_FALSE(f.Command2.frei);
+    f.schliessen_wuenschen();
+  };
+  Initialisieren(f);
+  EXPECT_TRUE(f.offen());
+  d.bei_doevents = [&] {
+    if (f.Command2.frei && f.ProgressBar1.wert > 0.0) f.schliessen_wuenschen();
+  };
+  d.erwarte({.text = "F97: Sie haben die Übertragung zum ZAVmaster abgebrochen. Die Daten im ZAVmaster sind jetzt ungültig und es "
+                     "kann zu undefinierten Schaltzuständen kommen.\r\n\r\nDrücken Sie anschliessend die Schaltfläche 'Neustart "
+                     "ZAVmaster' oder unterbrechen Sie für einige Sekunden die Stromzufuhr von ZAVnet. Senden Sie raschmöglichst "
+                     "eine korrekte Datei zum ZAVmaster, damit die gewünschte Funktion gewährleistet ist.\r\n\r\n",
+             .titel = "Abbruch der Übermittlung",
+             .symbol = Symbol::Stopp});
+  f.Command3.druecken();
+  d.bei_doevents = nullptr;
+  EXPECT_TRUE(f.Command3.frei && f.Cancel.frei && !f.Command2.frei);
+  d.erwarte_text("Im ZAVmaster einen Neustart durchführen?", Antwort::Ja);
+  d.erwarte_text("F99: Neustart im ZAVmaster war erfolgreich");
+  f.Command6.druecken();
+  EXPECT_EQ(sim.neustarts(), 1);
+}
+
+TEST_F(Shell_am_master, TerminalTakesTheMainWindowAndEndsWithTheProgram) {
+  int stand = 0;
+  d.bei_doevents = [&] {
+    Haupt& h = haupt();
+    if (!h.Frame_glaszav.sichtbar || h.Terminal_Fenster.text().find("F00") == std::string::npos) return;
+    switch (stand++) {
+      case 0:
+        EXPECT_FALSE(h.protokoll.frei);
+        EXPECT_FALSE(h.Frame_befehle.sichtbar);
+        h.Command9.druecken();
+        EXPECT_EQ(h.Terminal_Fenster.text(), "Anzeige gelöscht...\r\n");
+        h.Terminal_Fenster.anhaengen("F00");
+        h.Filter[1].eingeben("K001");
+        for (const int adresse : {0, 1}) sim.ereignis({.adresse = adresse, .taste = 2});
+        break;
+      default:
+        if (h.Terminal_Fenster.text().ends_with("K001 T2 ---\r\n")) h.schliessen_wuenschen();
+    }
+  };
+  haupt().protokoll.druecken();
+  EXPECT_FALSE(haupt().offen());
+  EXPECT_EQ(haupt().Terminal_Fenster.text(), "Anzeige gelöscht...\r\nF00K001 T2 ---\r\n");
+  EXPECT_TRUE(haupt().Frame_befehle.sichtbar && haupt().protokoll.frei);
+}
+
+}  // namespace
+}  // namespace zav
