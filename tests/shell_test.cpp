@@ -8,6 +8,7 @@
 #include "basis/text.h"
 #include "editor/einmask.h"
 #include "editor/einmask8.h"
+#include "enocean/enocean_send.h"
 #include "form/drehbuch.h"
 #include "hilfen.h"
 #include "link/leitung.h"
@@ -466,8 +467,6 @@ TEST_F(Shell_am_master, TransferDialogErasesSendsAsksAndProgramsReceivers) {
   EXPECT_EQ(vorher.ereignisse, 1);
   EXPECT_EQ(vorher.led_gruppen, 256);
   EXPECT_GT(vorher.sekunden, 2 + 256 * 2 * 0.01);
-  bool funk = false;
-  haupt().funkempfaenger = [&] { funk = true; };
   d.erwarte_dialog<Init_flash>([&](Init_flash& f) {
     f.Check1.haken(true);
     EXPECT_EQ(einstellungen.Event_sperre, 1);
@@ -478,11 +477,10 @@ TEST_F(Shell_am_master, TransferDialogErasesSendsAsksAndProgramsReceivers) {
     f.Command3.druecken();
     EXPECT_NE(f.Text1.text().find("Eingangsereignisse Switch: 1\r\n"), std::string::npos) << f.Text1.text();
     EXPECT_EQ(f.Text3.text(), "0");
-    EXPECT_FALSE(funk);
-    projekt.Enocean_empf_geaendert[3] = 1;
+    projekt.Enocean_empf_da[3] = projekt.Enocean_empf_geaendert[3] = projekt.Enocean_empf_geaendert[4] = 1;
     d.erwarte_text(neustartfrage, Antwort::Nein);
+    d.erwarte_dialog<Enocean_Send>([](Enocean_Send& s) { s.schliessen_wuenschen(); });
     f.Command3.druecken();
-    EXPECT_TRUE(funk);
     f.Command5.druecken();
     EXPECT_EQ(f.Text2.text(), "REV 09.04");
     EXPECT_EQ(f.Text6.text(), "haus");

@@ -1,7 +1,7 @@
 #include "service/init_flash.h"
 
-#include <algorithm>
-
+#include "enocean/enocean_send.h"
+#include "form/oberflaeche.h"
 #include "link/leitung.h"
 #include "platform/einstellungen.h"
 #include "service/masteranzeige.h"
@@ -85,10 +85,15 @@ void Init_flash::Senden() {
   } else if (ergebnis == Sendeergebnis::zu_breit) {
     Protokoll("Die Übertragung endete vorzeitig: ein Wert der Storenparameter ist zu gross.\r\n");
   }
-  const auto eins = [](u8 marke) { return marke == 1; };
-  if (ergebnis == Sendeergebnis::gesendet && funkempfaenger &&
-      std::ranges::any_of(projekt.Enocean_empf_geaendert.alle(), eins)) {
-    funkempfaenger();
+  if (ergebnis == Sendeergebnis::gesendet) Empfaenger_aktualisieren();
+}
+
+void Init_flash::Empfaenger_aktualisieren() {
+  for (int r = 0; r < empfaenger; ++r) {
+    if (projekt.Enocean_empf_da[r] != 1 || projekt.Enocean_empf_geaendert[r] != 1) continue;
+    Enocean_Send dialog;
+    oberflaeche().Zeigen(dialog);
+    return;
   }
 }
 

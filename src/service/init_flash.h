@@ -1,8 +1,6 @@
 // "Daten ---> ZAVmaster senden": the transfer of the project, the erase of the master, and the query of what it holds.
 #pragma once
 
-#include <functional>
-
 #include "form/formular.h"
 #include "transfer/uebertragung.h"
 
@@ -11,9 +9,6 @@ namespace zav {
 class Init_flash final : public Formular, private Beobachter {
  public:
   Init_flash();
-
-  // Opens the programming of the radio receivers; comes after a transfer when a receiver's table has changed.
-  std::function<void()> funkempfaenger;
 
   Rahmen Frame1{"ZAVmaster"};
   Textfeld Text2{"Version"};
@@ -43,6 +38,8 @@ class Init_flash final : public Formular, private Beobachter {
   void Senden();
   void Initialisieren();
   void Info_holen();
+  // After a transfer, when a receiver's table has changed.
+  static void Empfaenger_aktualisieren();
 
   Uebertragung uebertragung_{*this};
   bool sendet_ = false;

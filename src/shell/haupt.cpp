@@ -4,6 +4,7 @@
 #include <system_error>
 
 #include "basis/text.h"
+#include "editor/actmask.h"
 #include "editor/actmask_init.h"
 #include "editor/backref.h"
 #include "editor/dimmermode.h"
@@ -12,6 +13,8 @@
 #include "editor/funktionsmaske.h"
 #include "editor/timer_trepp.h"
 #include "editor/touchpanel_referenz.h"
+#include "enocean/enocean_definition.h"
+#include "enocean/sender.h"
 #include "form/oberflaeche.h"
 #include "link/leitung.h"
 #include "service/bootloader.h"
@@ -32,6 +35,8 @@
 #include "time/uhr_astro_rechner.h"
 #include "time/uhrseite.h"
 #include "transfer/vorschau.h"
+#include "weather/wetterdisplay.h"
+#include "weather/wetterlogik.h"
 
 namespace zav {
 
@@ -64,7 +69,6 @@ Haupt::Haupt() : Formular("Haupt") {
   Notizen.hoechstlaenge = 999;
   Notizen.hinweis = "Feld für Notizen zu dieser Datei (maximal 900 Zeichen)";
   Notizen.wenn_geaendert = [this] { Notizen_geaendert(); };
-  tueren.senden = [this] { Senden(); };
   Funktionsmaske::ansicht_oeffnen = [] {
     sitzung.Foto_nr = Fotos::nummern_der_ausgaenge;
     Fotos fotos;
@@ -109,7 +113,7 @@ void Haupt::Befehle_verdrahten() {
       {Command6, "Zustand der Ausgänge bei einem Neustart festlegen", [this] { Oeffnen<Actmask_init>(); }},
       {Dimmer, "PhasenANschnitt- oder PhasenABschnittsteuerung für jeden Dimmerausgang definieren",
        [this] { Oeffnen<Dimmermode>(); }},
-      {Image1, "Wetterinfos anzeigen", [this] { Durch(wetterdisplay); }},
+      {Image1, "Wetterinfos anzeigen", [this] { Oeffnen<Wetterdisplay>(); }},
       {Image2, "Touchpanel Adressen-Referenz anzeigen", [this] { Oeffnen<Touchpanel_Referenz>(); }},
       {backref_command, "", [this] { Oeffnen<Backref>(); }},
       {neustartlist, "", [this] { Terminal_lauf(Terminalmodus::liste); }},
@@ -211,17 +215,35 @@ void Haupt::Eingaenge_oeffnen() {
   if (t.strg && t.alt) {
     Oeffnen<Einmask>();
   } else {
-    Einmask8 maske(tueren);
+    Einmask8 maske(Editortueren());
     oberflaeche().Zeigen(maske);
     Auffrischen();
   }
   melder().Hinweis("");
 }
 
+Tueren Haupt::Editortueren() {
+  return {.senden = [this] { Senden(); },
+          .wetterlogik =
+              [] {
+                Wetterlogik_oeffnen([](int ereignis, const std::string& text) {
+                  Actmask maske(ereignis, text);
+                  oberflaeche().Zeigen(maske);
+                });
+              },
+          .enocean_definition =
+              [](int platz) {
+                Enocean_Definition dialog(plaetze * sitzung.Komb_aktuell + platz);
+                oberflaeche().Zeigen(dialog);
+              },
+          .enocean_schatten_kopieren = Enocean_schatten_nehmen,
+          .enocean_abgleichen = Enocean_abgleichen,
+          .app_seite = app_seite};
+}
+
 void Haupt::Senden() {
   Ports_suchen();
   Init_flash dialog;
-  dialog.funkempfaenger = funkempfaenger;
   oberflaeche().Zeigen(dialog);
   Auffrischen();
 }

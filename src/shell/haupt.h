@@ -52,9 +52,9 @@ class Haupt final : public Formular, private Terminalanzeige {
   Textfeld Terminal_Fenster;
   Taste Command9{"&Anzeige löschen"}, Command7{"GlasZAV &verlassen"};
 
-  // Doors to forms above this folder.
-  std::function<void()> wetterdisplay, ip_kameras, zavapp, funkempfaenger;
-  Tueren tueren;  // of the installation editor; the transfer is its own
+  // Doors to the forms of the phone app and the cameras.
+  std::function<void()> ip_kameras, zavapp;
+  std::function<void(int platz, int versatz)> app_seite;
 
   Anordnung anordnung() override;
   // Ends the program, after its questions.
@@ -77,6 +77,8 @@ class Haupt final : public Formular, private Terminalanzeige {
   void Oeffnen();
   void Daten();
   void Eingaenge_oeffnen();
+  // The doors of the installation editor.
+  Tueren Editortueren();
   void Senden();
   void Optionen();
   void Zuletzt_oeffnen(std::size_t n);
