@@ -5,6 +5,9 @@
 #include <memory>
 #include <set>
 
+#include "app/app_eigenschaften_seite.h"
+#include "app/ip_kameras.h"
+#include "app/zavapp_form.h"
 #include "editor/actmask.h"
 #include "editor/actmask_init.h"
 #include "editor/actmask_timer.h"
@@ -61,6 +64,9 @@ std::vector<std::unique_ptr<Formular>> Alle_formulare() {
   Hinzu<Wetterlogik>(f, 0, nullptr);
   Hinzu<Enocean_Definition>(f, 0);
   Hinzu<Enocean_Send>(f);
+  Hinzu<App_eigenschaften_seite>(f, 0, 0);
+  Hinzu<IP_Kameras>(f);
+  Hinzu<ZAVapp_Form>(f);
   Hinzu<Bootloader>(f);
   Hinzu<Infofenster>(f);
   Hinzu<Init_flash>(f);

@@ -2,6 +2,7 @@
 
 #include <sstream>
 
+#include "app/zavapp_form.h"
 #include "form/oberflaeche.h"
 #include "platform/einstellungen.h"
 #include "shell/bericht.h"
@@ -109,7 +110,8 @@ void Datei::App_oeffnen() {
            "auf die Version 9 aufgerüstet werden.");
     return;
   }
-  if (app) app();
+  ZAVapp_Form dialog;
+  oberflaeche().Zeigen(dialog);
   schliessen();
 }
 

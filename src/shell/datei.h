@@ -1,7 +1,6 @@
 // "Datei": the commands on whole projects. Closes after each of them.
 #pragma once
 
-#include <functional>
 #include <string>
 
 #include "form/formular.h"
@@ -11,9 +10,6 @@ namespace zav {
 class Datei final : public Formular {
  public:
   Datei();
-
-  // Opens the app dialog.
-  std::function<void()> app;
 
   Rahmen Frame1{"Dateioperationen"};
   Schild Label1;  // generation of the project

@@ -3,6 +3,8 @@
 #include <filesystem>
 #include <system_error>
 
+#include "app/app_eigenschaften_seite.h"
+#include "app/ip_kameras.h"
 #include "basis/text.h"
 #include "editor/actmask.h"
 #include "editor/actmask_init.h"
@@ -130,11 +132,7 @@ void Haupt::Befehle_verdrahten() {
        }},
       {Sonnenrechner, "", [this] { Oeffnen<Uhr_Astro_Rechner>(); }},
       {Touchpanel_Mnu, "", [this] { Oeffnen<Touchpanel_Referenz>(); }},
-      {IP_Kameras_Mnu, "",
-       [this] {
-         Durch(ip_kameras);
-         Auffrischen();
-       }},
+      {IP_Kameras_Mnu, "", [this] { Oeffnen<IP_Kameras>(); }},
       {InfoZAVlink, "", [this] { Oeffnen<Infofenster>(); }},
   };
   for (const Befehl& b : befehle) {
@@ -196,7 +194,6 @@ void Haupt::Daten() {
   std::error_code egal;
   std::filesystem::current_path(einstellungen.Standard_ordner, egal);
   Datei datei;
-  datei.app = zavapp;
   oberflaeche().Zeigen(datei);
   Auffrischen();
 }
@@ -238,7 +235,11 @@ Tueren Haupt::Editortueren() {
               },
           .enocean_schatten_kopieren = Enocean_schatten_nehmen,
           .enocean_abgleichen = Enocean_abgleichen,
-          .app_seite = app_seite};
+          .app_seite =
+              [](int platz, int versatz) {
+                App_eigenschaften_seite seite(plaetze * sitzung.Komb_aktuell + platz, versatz);
+                oberflaeche().Zeigen(seite);
+              }};
 }
 
 void Haupt::Senden() {

@@ -3,7 +3,6 @@
 #pragma once
 
 #include <array>
-#include <functional>
 #include <string>
 
 #include "editor/tueren.h"
@@ -51,10 +50,6 @@ class Haupt final : public Formular, private Terminalanzeige {
   Kaestchen Check1{"&Zeit ergänzen"}, Check2{"&Datum ergänzen"};
   Textfeld Terminal_Fenster;
   Taste Command9{"&Anzeige löschen"}, Command7{"GlasZAV &verlassen"};
-
-  // Doors to the forms of the phone app and the cameras.
-  std::function<void()> ip_kameras, zavapp;
-  std::function<void(int platz, int versatz)> app_seite;
 
   Anordnung anordnung() override;
   // Ends the program, after its questions.
