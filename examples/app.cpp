@@ -1,6 +1,10 @@
 // The phone app and its cameras.
+#include <algorithm>
+
+#include "app/app_eigenschaften_seite.h"
+#include "app/ip_kameras.h"
+#include "gebaeude.h"
 #include "store/katalog.h"
-#include "wirkungen.h"
 
 namespace zav::beispiel {
 
@@ -8,53 +12,62 @@ namespace {
 
 int naechste_kamera = 0;
 
-int ereignis(const Taste& t) {
-  const int stelle = plaetze * t.apparat.raum.kombination + t.apparat.platz;
-  return Apparat_adressen(projekt, stelle)->erstes_ereignis() + t.versatz;
+// Opens the app properties from the popup of the key's button.
+void eigenschaften(const Taste& t, const std::function<void(App_eigenschaften_seite&)>& arbeit) {
+  Einmask8& e = editor(t.apparat);
+  nummer(e.Command15, t.versatz).rechts_druecken();
+  arbeitsplatz().dialog<App_eigenschaften_seite>(e.mnuEigenschaften, arbeit);
 }
 
-auto& app(const Taste& t, App_feld f) { return projekt.App_eigenschaften.zeile(ereignis(t))[f]; }
+// The key in a list of keys, which begin with address and number.
+void taste_waehlen(Auswahl& liste, const Taste& t) {
+  const auto lauf = *Apparat_adressen(projekt, plaetze * t.apparat.raum.kombination + t.apparat.platz);
+  const std::string anfang =
+      "I" + std::to_string(lauf.von + t.versatz / 4) + "-" + std::to_string(t.versatz % 4 + 1) + ":";
+  const auto eintrag = std::ranges::find_if(
+      liste.eintraege(), [&](const Auswahl::Eintrag& e) { return e.text.starts_with(anfang); });
+  fordern(eintrag != liste.eintraege().end(), "Taste nicht in der Liste: " + anfang);
+  liste.waehlen(static_cast<int>(eintrag - liste.eintraege().begin()));
+}
 
 }  // namespace
 
 void in_der_app(Taste t, Text symbol, Geraet g) {
-  app(t, App_geraet) = std::to_string(static_cast<int>(g));
-  app(t, App_mit_icon) = "1";
-  app(t, App_icon_name) = symbol;
-  const i16 rueckmeldung = projekt.Ein_led[ereignis(t)];
-  if (rueckmeldung == ausgang_keiner) return;
-  app(t, App_mit_rueckmeldung) = "1";
-  app(t, App_rueckmeldung) = std::to_string(rueckmeldung);
+  eigenschaften(t, [&](App_eigenschaften_seite& f) {
+    f.Command1.druecken();  // finds the output that tells the key's state
+    f.Combo2.waehlen(static_cast<int>(g));
+    f.Combo1.waehlen(symbol);
+  });
 }
 
 void mit_frage(Taste t, Text frage, Text ja, Text nein) {
-  app(t, App_mit_bestaetigung) = "1";
-  app(t, App_frage1) = frage;
-  app(t, App_ja1) = ja;
-  app(t, App_nein1) = nein;
+  eigenschaften(t, [&](App_eigenschaften_seite& f) {
+    f.Check8.haken(true);
+    tippen(f.Text15, frage);
+    tippen(f.Text16, ja);
+    tippen(f.Text17, nein);
+  });
 }
 
 void als_szene(Taste t) {
-  app(t, App_geraet) = "3";
-  app(t, App_bereich) = "2";
-  app(t, App_als_szene) = "1";
-  app(t, App_mit_icon) = app(t, App_mit_rueckmeldung) = app(t, App_mit_bestaetigung) = "0";
+  eigenschaften(t, [&](App_eigenschaften_seite& f) {
+    f.Combo2.waehlen("Telefon und Tablet");
+    f.Combo3.waehlen("Im Raum und global");
+    f.Check9.haken(true);
+  });
 }
 
 void kamera(const Kamera& k) {
-  const int i = naechste_kamera++;
-  projekt.Kamera_titel[i] = k.titel;
-  projekt.Kamera_untertitel[i] = k.ort;
-  projekt.Kamera_ip[i] = k.ip;
-  projekt.Kamera_port[i] = k.port;
-  projekt.Kamera_controlport[i] = "8081";
-  projekt.Kamera_stream_von[i] = "50000";
-  projekt.Kamera_modell[i] = k.modell;
-  projekt.Kamera_aktiv[i] = "1";
-  projekt.Kamera_usecase[i] = "1";
-  projekt.Kamera_taste1[i] = std::to_string(ereignis(k.taste));
-  projekt.Kamera_tastentext1[i] = k.tastentext;
-  projekt.Kamera_text[i] = "";  // defined from here on
+  auto& f = arbeitsplatz().fenster<IP_Kameras>();
+  f.TabStrip1.waehlen(naechste_kamera++);
+  f.Check1.haken(true);
+  f.Combo1.waehlen(k.typ);
+  tippen(f.Text1, k.titel);
+  tippen(f.Text2, k.ort);
+  tippen(f.Text3, k.ip);
+  tippen(f.Text4, k.port);
+  taste_waehlen(f.Combo2, k.taste);
+  tippen(f.Text8, k.tastentext);
 }
 
 }  // namespace zav::beispiel

@@ -13,7 +13,7 @@ void Arbeitsplatz::mit_meldung(const std::string& text, const std::function<void
 void Arbeitsplatz::schliessen() {
   if (!fenster_) return;
   if (!abschied_.empty()) drehbuch_.erwarte_text(abschied_);
-  uebernehmen(*fenster_);
+  if (fenster_->offen()) uebernehmen(*fenster_);
   pruefen();
   fordern(!fenster_->offen(), fenster_->name() + " lässt sich nicht schliessen");
   fenster_.reset();

@@ -18,7 +18,7 @@ class Arbeitsplatz {
   // F shows the box `abschied`, if it is not "".
   template <class F, class... Mitgabe>
   F& fenster(const std::string& abschied = "", Mitgabe... mitgabe) {
-    if (auto* const f = dynamic_cast<F*>(fenster_.get())) return *f;
+    if (auto* const f = dynamic_cast<F*>(fenster_.get()); f != nullptr && f->offen()) return *f;
     schliessen();
     auto neu = std::make_unique<F>(mitgabe()...);
     F& f = *neu;

@@ -342,27 +342,27 @@ void haus_mueller() {
   // ---- phone app and cameras ----------------------------------------------------------------------------------------------
   for (const Taste t : {gehen, kommen, zentral_auf, zentral_ab, kochen, gaeste, fernsehen, lesen, gute_nacht, kino}) als_szene(t);
   for (const Taste t : {entree_taste, kueche_decke_taste, kueche_insel_taste, esstisch, wohnen_decke_taste, pergola}) {
-    in_der_app(t, "light");
+    in_der_app(t, "Licht");
   }
-  in_der_app(garten_taste, "garden", Geraet::tablet);
-  in_der_app(brunnen_taste, "water", Geraet::tablet);
-  in_der_app(tor, "garage", Geraet::telefon);
+  in_der_app(garten_taste, "Garten", Geraet::tablet);
+  in_der_app(brunnen_taste, "Garten", Geraet::tablet);
+  in_der_app(tor, "Tor", Geraet::telefon);
   mit_frage(tor, "Garagentor wirklich öffnen?", "Öffnen", "Abbrechen");
-  in_der_app(panik, "alarm");
+  in_der_app(panik, "Alarm");
   mit_frage(panik, "Panikbeleuchtung einschalten?", "Einschalten", "Nein");
 
   kamera({.titel = "Haustür",
           .ort = "Vorplatz",
           .ip = "192.168.1.60",
           .port = "80",
-          .modell = "axis.m1054.w",
+          .typ = "Axis",
           .taste = klingeln,
           .tastentext = "Licht"});
   kamera({.titel = "Garten",
           .ort = "Terrasse",
           .ip = "192.168.1.61",
           .port = "80",
-          .modell = "mobotix.t24",
+          .typ = "Mobotix",
           .taste = garten_taste,
           .tastentext = "Gartenlicht"});
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <optional>
 
+#include "app/app_eigenschaften_seite.h"
 #include "editor/actmask.h"
 #include "editor/apparatwahl.h"
 #include "editor/dialog_kombination.h"
@@ -26,6 +27,9 @@ Tueren tueren() {
   t.wetterlogik = [] { Wetterlogik_oeffnen([](int e, Text titel) { zeigen(Actmask(e, titel)); }); };
   t.enocean_definition = [](int platz) {
     zeigen(Enocean_Definition(plaetze * sitzung.Komb_aktuell + platz));
+  };
+  t.app_seite = [](int platz, int versatz) {
+    zeigen(App_eigenschaften_seite(plaetze * sitzung.Komb_aktuell + platz, versatz));
   };
   t.enocean_schatten_kopieren = Enocean_schatten_nehmen;
   t.enocean_abgleichen = Enocean_abgleichen;

@@ -3,9 +3,9 @@
 #include <cstdio>
 #include <exception>
 
+#include "app/zavapp_form.h"
 #include "platform/datei.h"
 #include "platform/uhrwerk.h"
-#include "store/kamera.h"
 #include "store/projektdatei.h"
 #include "wirkungen.h"
 
@@ -24,7 +24,9 @@ void neues_projekt(Text titel, Text notizen) {
   Projekt_reset();
   projekt.Datei_version = "910";
   projekt.Notizen = notizen;
-  projekt.App_allgemein[0] = titel;
+  auto& app = arbeitsplatz().fenster<ZAVapp_Form>();
+  tippen(app.Text1, titel);
+  app.Command2.druecken();
 }
 
 int erzaehlen(int argc, char** argv, const std::function<void()>& geschichte) {
@@ -36,7 +38,6 @@ int erzaehlen(int argc, char** argv, const std::function<void()>& geschichte) {
     geschichte();
     arbeitsplatz().schliessen();
     namen_pruefen();
-    Kamera_zusammensetzen(projekt);
     const Dateiergebnis ergebnis = Datei_schreiben(argv[1], Projekt_schreiben(projekt));
     fordern(static_cast<bool>(ergebnis), std::string(argv[1]) + ": " + Systemfehler_text(ergebnis.fehler));
   } catch (const std::exception& e) {

@@ -174,7 +174,8 @@ void mit_frage(Taste t, Text frage, Text ja, Text nein);
 void als_szene(Taste t);
 
 struct Kamera {
-  std::string titel, ort, ip, port, modell;
+  std::string titel, ort, ip, port;
+  std::string typ;  // Axis, Mobotix, Panasonic
   Taste taste;
   std::string tastentext;
 };
