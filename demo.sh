@@ -1,9 +1,25 @@
 #!/usr/bin/env bash
 # Sends the example house to a simulated master and shows what arrived there.
+#   ./demo.sh            on the command line
+#   ./demo.sh --fenster  opens it in the window program, which has a simulated master as its interface
 set -euo pipefail
 cd "$(dirname "$0")"
 . scripts/pakete.sh
 pakete_sicherstellen bauen
+
+if [ "${1:-}" = --fenster ]; then
+  pakete_sicherstellen fenster
+  echo "Baue das Fensterprogramm ..."
+  ordner=$(mktemp -d)
+  trap 'rm -rf "$ordner"' EXIT
+  {
+    cmake --preset release -DZAV_TESTS=OFF -DZAV_BENCH=OFF
+    cmake --build build/release -j"$(nproc)" --target zavlink
+  } >"$ordner/protokoll" 2>&1 || { tail -30 "$ordner/protokoll" >&2; exit 1; }
+  cp examples/einfamilienhaus.zav "$ordner/"
+  build/release/apps/zavlink/zavlink --simulator "$ordner/einfamilienhaus.zav"
+  exit
+fi
 
 echo "Baue zav und den simulierten ZAVmaster ..."
 protokoll=$(mktemp)

@@ -5,7 +5,7 @@
 paketgruppe() {
   case $1 in
     bauen) echo "cmake ninja-build g++ libcli11-dev nlohmann-json3-dev" ;;
-    fenster) echo "qt6-base-dev qt6-svg-dev" ;;
+    fenster) echo "qt6-base-dev qt6-svg-dev qt6-translations-l10n qt6-qpa-plugins qt6-wayland fonts-dejavu-core" ;;
     pruefen) echo "libgtest-dev libbenchmark-dev ser2net" ;;
     packen) echo "dpkg-dev file gzip pandoc" ;;
     paketpruefung) echo "lintian desktop-file-utils appstream shared-mime-info bash-completion groff-base" ;;

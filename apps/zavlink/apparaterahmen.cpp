@@ -4,7 +4,6 @@
 #include <QHelpEvent>
 #include <QKeyEvent>
 #include <QPainter>
-#include <QShortcut>
 #include <QToolTip>
 #include <algorithm>
 
@@ -30,10 +29,6 @@ class Apparaterahmen final : public QWidget {
     setMouseTracking(true);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     setAccessibleName("Apparate der Kombination");
-    tastenkuerzel(QKeySequence::Cut, form.Command11);
-    tastenkuerzel(QKeySequence::Copy, form.Command12);
-    tastenkuerzel(QKeySequence::Paste, form.Command4);
-    tastenkuerzel(QKeySequence::Delete, form.Command3);
   }
 
   QSize sizeHint() const override { return {46 * raster, 72 * raster}; }
@@ -89,6 +84,7 @@ class Apparaterahmen final : public QWidget {
                         maus ? e->globalPos() : mapToGlobal(ort(i).center().toPoint()));
   }
   void keyPressEvent(QKeyEvent* e) override {
+    if (Taste* const befehl = befehl_der_taste(e)) return Handeln([befehl] { druecken(*befehl); });
     int spalte = 0;
     int zeile = 0;
     switch (e->key()) {
@@ -125,10 +121,13 @@ class Apparaterahmen final : public QWidget {
   }
 
  private:
-  void tastenkuerzel(QKeySequence::StandardKey folge, Taste& t) {
-    auto* const kuerzel = new QShortcut(QKeySequence(folge), this);
-    kuerzel->setContext(Qt::WidgetShortcut);
-    connect(kuerzel, &QShortcut::activated, this, [this, &t] { Handeln([this, &t] { druecken(t); }); });
+  // Strg+X, Strg+C, Strg+V, Entf.
+  Taste* befehl_der_taste(const QKeyEvent* e) {
+    if (e->matches(QKeySequence::Cut)) return &form_.Command11;
+    if (e->matches(QKeySequence::Copy)) return &form_.Command12;
+    if (e->matches(QKeySequence::Paste)) return &form_.Command4;
+    if (e->matches(QKeySequence::Delete)) return &form_.Command3;
+    return nullptr;
   }
   static void druecken(Taste& t) {
     if (t.frei && t.sichtbar) t.druecken();

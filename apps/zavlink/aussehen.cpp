@@ -35,6 +35,74 @@ void Flaeche_malen(QPainter& p, const QStyleOption& o, bool vorgabe) {
   p.restore();
 }
 
+// The line around fields and boxes: the highlight's colour where the keyboard is.
+QPen Linie(const QStyleOption& o) {
+  const bool hier = o.state.testFlag(QStyle::State_Enabled) && o.state.testFlag(QStyle::State_HasFocus);
+  QColor farbe = QApplication::palette().color(hier ? QPalette::Highlight : QPalette::Mid);
+  if (!hier && o.state.testFlag(QStyle::State_Enabled)) {
+    const bool dunkel = QApplication::palette().color(QPalette::Window).lightness() < 128;
+    farbe = dunkel ? farbe.lighter(130) : farbe.darker(115);
+  }
+  return {farbe, hier ? 1.6 : 1.0};
+}
+
+void Feld_malen(QPainter& p, const QStyleOption& o) {
+  p.save();
+  p.setRenderHint(QPainter::Antialiasing);
+  p.setPen(Linie(o));
+  p.setBrush(o.palette.color(o.state.testFlag(QStyle::State_Enabled) ? QPalette::Base : QPalette::Window));
+  if (!o.state.testFlag(QStyle::State_Enabled) && o.palette.color(QPalette::Base) != QApplication::palette().color(QPalette::Base)) {
+    p.setBrush(o.palette.color(QPalette::Base));
+  }
+  p.drawRoundedRect(QRectF(o.rect).adjusted(0.8, 0.8, -0.8, -0.8), rundung, rundung);
+  p.restore();
+}
+
+void Rahmen_malen(QPainter& p, const QStyleOption& o) {
+  p.save();
+  p.setPen(QPen(Linie(o).color(), 1));
+  p.setBrush(Qt::NoBrush);
+  p.drawRect(o.rect.adjusted(0, 0, -1, -1));
+  p.restore();
+}
+
+// Boxes and option buttons: an outline, filled in the highlight's colour when set.
+void Anzeige_beginnen(QPainter& p, const QStyleOption& o, bool an) {
+  const bool frei = o.state.testFlag(QStyle::State_Enabled);
+  const QColor voll = frei ? QApplication::palette().color(QPalette::Highlight) : QApplication::palette().color(QPalette::Mid);
+  p.setRenderHint(QPainter::Antialiasing);
+  p.setPen(an ? QPen(voll, 1) : Linie(o));
+  p.setBrush(an ? voll : QApplication::palette().color(frei ? QPalette::Base : QPalette::Window));
+}
+
+void Haken_malen(QPainter& p, const QStyleOption& o) {
+  const bool an = o.state.testFlag(QStyle::State_On);
+  const QRectF r = QRectF(o.rect).adjusted(0.8, 0.8, -0.8, -0.8);
+  p.save();
+  Anzeige_beginnen(p, o, an);
+  p.drawRoundedRect(r, 3, 3);
+  if (an) {
+    p.setPen(QPen(Qt::white, r.width() * 0.13, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    const auto ort = [&r](double x, double y) { return QPointF(r.left() + x * r.width(), r.top() + y * r.height()); };
+    p.drawPolyline(QPolygonF({ort(0.24, 0.52), ort(0.43, 0.71), ort(0.77, 0.31)}));
+  }
+  p.restore();
+}
+
+void Punkt_malen(QPainter& p, const QStyleOption& o) {
+  const bool an = o.state.testFlag(QStyle::State_On);
+  const QRectF r = QRectF(o.rect).adjusted(0.8, 0.8, -0.8, -0.8);
+  p.save();
+  Anzeige_beginnen(p, o, an);
+  p.drawEllipse(r);
+  if (an) {
+    p.setPen(Qt::NoPen);
+    p.setBrush(Qt::white);
+    p.drawEllipse(r.center(), r.width() * 0.2, r.height() * 0.2);
+  }
+  p.restore();
+}
+
 }  // namespace
 
 Stil::Stil() : QProxyStyle("Fusion") {}
@@ -43,6 +111,10 @@ int Stil::pixelMetric(PixelMetric m, const QStyleOption* o, const QWidget* w) co
   switch (m) {
     case PM_ButtonIconSize: return 18;
     case PM_SmallIconSize: return 18;
+    case PM_IndicatorWidth:
+    case PM_IndicatorHeight:
+    case PM_ExclusiveIndicatorWidth:
+    case PM_ExclusiveIndicatorHeight: return 2 * raster;
     case PM_TabBarTabHSpace: return static_cast<int>(2.5 * raster);
     default: return QProxyStyle::pixelMetric(m, o, w);
   }
@@ -105,6 +177,17 @@ void Stil::drawPrimitive(PrimitiveElement e, const QStyleOption* o, QPainter* p,
   if (e == PE_PanelButtonTool && w != nullptr && w->property("leiste").toBool()) {
     Flaeche_malen(*p, *o, false);
     return;
+  }
+  switch (e) {
+    case PE_PanelLineEdit: {
+      const auto* const feld = qstyleoption_cast<const QStyleOptionFrame*>(o);
+      if (feld != nullptr && feld->lineWidth > 0) return Feld_malen(*p, *o);
+      break;
+    }
+    case PE_Frame: return Rahmen_malen(*p, *o);
+    case PE_IndicatorCheckBox: return Haken_malen(*p, *o);
+    case PE_IndicatorRadioButton: return Punkt_malen(*p, *o);
+    default: break;
   }
   QProxyStyle::drawPrimitive(e, o, p, w);
 }

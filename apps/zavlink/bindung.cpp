@@ -92,6 +92,7 @@ QWidget* Taste_bauen(Taste& t, Auffrischer& auf, QWidget* eltern) {
   auto* const w = new QPushButton(eltern);
   w->setAutoDefault(false);
   w->setDefault(t.standard);
+  if (!t.kuerzel.empty()) w->setShortcut(QKeySequence(Q(t.kuerzel), QKeySequence::PortableText));
   QObject::connect(w, &QPushButton::clicked, w, [&t] { Handeln([&t] { t.druecken(); }); });
   auf.binden(t, [&t, w] {
     Gemeinsames(*w, t);
@@ -263,6 +264,7 @@ QAction* Aktion_bauen(Steuerelement& e, Auffrischer& auf, QObject* eltern) {
   } else {
     auto& t = static_cast<Taste&>(e);
     if (!t.bild.empty()) aktion->setIcon(Symbolbild(t.bild));
+    if (!t.kuerzel.empty()) aktion->setShortcut(QKeySequence(Q(t.kuerzel), QKeySequence::PortableText));
     QObject::connect(aktion, &QAction::triggered, aktion, [&t] { Handeln([&t] { t.druecken(); }); });
     auf.binden(e, gemeinsames);
   }

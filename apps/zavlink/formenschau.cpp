@@ -16,6 +16,9 @@
 #include "editor/layoutwahl.h"
 #include "editor/timer_trepp.h"
 #include "editor/touchpanel_referenz.h"
+#include "service/bootloader.h"
+#include "service/infofenster.h"
+#include "service/init_flash.h"
 #include "store/projekt.h"
 #include "time/form_setup_uhr.h"
 #include "time/uhr.h"
@@ -85,6 +88,9 @@ std::vector<Schaustueck> Formenschau() {
       {"schaltzeit", Stueck<Uhr_Astro>(uhr_sonne, std::string("Aussenlicht"), std::string("Untergang"))},
       {"schaltzeit-fest", Stueck<Uhr_Astro>(0, std::string("Storen auf"), std::string("06.30.00"))},
       {"sonnen-info", Stueck<Uhr_Astro_Rechner>()},
+      {"senden", Stueck<Init_flash>()},
+      {"info", Stueck<Infofenster>()},
+      {"update", Stueck<Bootloader>()},
       {"uhr-stellen", Stueck<Uhrseite>()},
   };
 }

@@ -36,7 +36,7 @@ Formfenster::Formfenster(Formular& f, QWidget* eltern) : QDialog(eltern), form_(
   auto* const spalte = new QVBoxLayout(this);
   spalte->setContentsMargins(gruppenabstand, gruppenabstand - raster / 2, gruppenabstand, gruppenabstand);
   spalte->setSpacing(gruppenabstand);
-  Aufbauen(f.anordnung(), *auffrischer_, this, gebautes_);
+  Aufbauen(f.anordnung(), *auffrischer_, this, gebautes_, Q(f.titel()));
   if (!gebautes_.menues.empty()) {
     auto* const leiste = new QMenuBar(this);
     for (QMenu* m : gebautes_.menues) leiste->addMenu(m);
@@ -77,6 +77,24 @@ void Formfenster::einpassen() {
   }
   const QByteArray gemerkt = Fenstergroessen().value(objectName()).toByteArray();
   if (!gemerkt.isEmpty()) restoreGeometry(gemerkt);
+}
+
+void Formfenster::hinweis_zeigen(const QString& text) {
+  if (hinweis_ == nullptr) {
+    hinweis_ = new QLabel(this);
+    hinweis_->setBackgroundRole(QPalette::ToolTipBase);
+    hinweis_->setForegroundRole(QPalette::ToolTipText);
+    hinweis_->setFrameShape(QFrame::Box);
+    hinweis_->setAutoFillBackground(true);
+    hinweis_->setMargin(raster);
+  }
+  hinweis_->setVisible(!text.isEmpty());
+  if (text.isEmpty()) return;
+  hinweis_->setText(text);
+  hinweis_->adjustSize();
+  hinweis_->move(gruppenabstand, height() - hinweis_->height() - gruppenabstand);
+  hinweis_->raise();
+  hinweis_->repaint();
 }
 
 void Formfenster::laufen() {

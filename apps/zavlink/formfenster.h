@@ -3,6 +3,7 @@
 
 #include <QDialog>
 #include <QEventLoop>
+#include <QLabel>
 
 #include "zavlink/renderer.h"
 
@@ -20,6 +21,8 @@ class Formfenster : public QDialog {
   const Gebautes& gebautes() const { return gebautes_; }
   // Brings every widget to the state of its control now.
   void nachholen() { auffrischer_->nachholen(); }
+  // A line at the bottom that says what a longer command is doing; "" takes it away. Painted at once.
+  void hinweis_zeigen(const QString& text);
 
  protected:
   void closeEvent(QCloseEvent* e) override;
@@ -34,6 +37,7 @@ class Formfenster : public QDialog {
   Auffrischer* auffrischer_;
   Gebautes gebautes_;
   Steuerelement* fokus_ = nullptr;
+  QLabel* hinweis_ = nullptr;
   QEventLoop schleife_;
 };
 

@@ -101,6 +101,10 @@ void Qt_oberflaeche::Zeiger_setzen(Zeiger z) {
   if (z == Zeiger::normal && wartet) QApplication::restoreOverrideCursor();
 }
 
+void Qt_oberflaeche::Hinweis(const std::string& text) {
+  if (auto* const fenster = qobject_cast<Formfenster*>(QApplication::activeWindow())) fenster->hinweis_zeigen(Q(text));
+}
+
 void Qt_oberflaeche::DoEvents() { QApplication::processEvents(); }
 
 void Qt_oberflaeche::Zeigen(Formular& f) {

@@ -12,6 +12,7 @@ class Qt_oberflaeche final : public Oberflaeche {
   Antwort Melden(const Meldung& m) override;
   void Piep() override;
   void Zeiger_setzen(Zeiger z) override;
+  void Hinweis(const std::string& text) override;
   void DoEvents() override;
   void Zeigen(Formular& f) override;
   std::optional<Dateiwahl> Datei_oeffnen(const Dateifrage& f) override;

@@ -288,12 +288,10 @@ class Baumeister {
       ort[s + 1] = ort[s] + 1;
       if (waechst[s]) gitter->setColumnStretch(ort[s], 1);
     }
-    const QWidget* zeilenname = nullptr;
     for (std::size_t i = 0; i < a.kinder.size(); ++i) {
       const Anordnung& k = a.kinder[i];
       const int zeile = static_cast<int>(i / spalten);
       const int spalte = ort[i % spalten];
-      if (i % spalten == 0) zeilenname = nullptr;
       const bool frei = Waechst(k, Richtung::waagrecht) || k.art != Anordnung::Art::Element;
       const Teil t = Bau(k, eltern);
       if (!t) continue;
@@ -306,15 +304,6 @@ class Baumeister {
         gitter->addWidget(Beschriftung(*k.element, t.widget, eltern), zeile, spalte - 1);
       }
       if (Waechst(k, Richtung::senkrecht)) gitter->setRowStretch(zeile, 1);
-      // Fields without a caption are called by the label that opens their row.
-      if (k.art != Anordnung::Art::Element) continue;
-      if (k.element->art == Art::Schild) {
-        zeilenname = t.widget;
-      } else if (zeilenname != nullptr && k.element->titel->empty()) {
-        t.widget->setAccessibleName(Q(*static_cast<const Steuerelement&>(*k.element).hinweis).isEmpty()
-                                        ? static_cast<const QLabel*>(zeilenname)->text()
-                                        : static_cast<const QLabel*>(zeilenname)->text() + ", " + Q(*k.element->hinweis));
-      }
     }
     if (std::ranges::none_of(waechst, [](bool b) { return b; })) gitter->setColumnStretch(ort[spalten], 1);
     return gitter;
@@ -361,6 +350,68 @@ class Baumeister {
   Gebautes& ergebnis_;
 };
 
+// Names to be read aloud for controls without a caption: the label or captioned control before them in their row, the
+// heading of their column, else the title of their group. They follow when a label's text changes.
+class Namensgeber {
+ public:
+  Namensgeber(Auffrischer& auf, Gebautes& g, QString titel) : auf_(auf), gebautes_(g), gruppe_(std::move(titel)) {}
+
+  void gehen(const Anordnung& a) {
+    const QString gruppe = gruppe_;
+    if (a.art == Anordnung::Art::Gruppe) {
+      const QString titel = Ohne_kuerzel(Q(a.element != nullptr ? *a.element->titel : a.titel));
+      if (!titel.isEmpty()) gruppe_ = titel;
+    }
+    if (a.art == Anordnung::Art::Reiter) benennen(*a.element, nullptr, nullptr);
+    Steuerelement* davor = nullptr;
+    for (std::size_t i = 0; i < a.kinder.size(); ++i) {
+      const Anordnung& k = a.kinder[i];
+      const bool zellen = a.art == Anordnung::Art::Raster;
+      const auto spalten = static_cast<std::size_t>(a.spalten);
+      if (zellen && i % spalten == 0) davor = nullptr;
+      if (k.art != Anordnung::Art::Element) {
+        gehen(k);
+        continue;
+      }
+      if (k.element->art == Art::Schild || !k.element->titel->empty()) {
+        davor = k.element;
+        continue;
+      }
+      Steuerelement* const kopf = zellen ? ueberschrift(a, i % spalten) : nullptr;
+      benennen(*k.element, davor, kopf);
+    }
+    gruppe_ = gruppe;
+  }
+
+ private:
+  static Steuerelement* ueberschrift(const Anordnung& raster, std::size_t spalte) {
+    const Anordnung& oben = raster.kinder.at(spalte);
+    return oben.art == Anordnung::Art::Element && oben.element->art == Art::Schild ? oben.element : nullptr;
+  }
+
+  void benennen(Steuerelement& e, Steuerelement* davor, Steuerelement* kopf) {
+    const auto w = gebautes_.widgets.find(&e);
+    if (w == gebautes_.widgets.end()) return;
+    const auto nennen = [&e, davor, kopf, gruppe = gruppe_, feld = w->second] {
+      if (!e.titel->empty()) return;
+      QStringList teile;
+      for (const Steuerelement* t : {davor, kopf}) {
+        if (t != nullptr && !t->titel->empty()) teile << Ohne_kuerzel(Q(*t->titel));
+      }
+      if (teile.isEmpty()) teile << (e.hinweis->empty() ? gruppe : Q(*e.hinweis));
+      feld->setAccessibleName(teile.join(", "));
+    };
+    auf_.binden(e, nennen);
+    for (Steuerelement* t : {davor, kopf}) {
+      if (t != nullptr) auf_.binden(*t, nennen);
+    }
+  }
+
+  Auffrischer& auf_;
+  Gebautes& gebautes_;
+  QString gruppe_;
+};
+
 // `Command15` of `Command15(3)`.
 std::string Stamm(const std::string& name) { return name.substr(0, name.find('(')); }
 
@@ -395,7 +446,7 @@ QWidget* Teil_bauen(const Anordnung& a, Auffrischer& auf, QWidget* eltern, Gebau
   return Baumeister(auf, ergebnis).Als_widget(a, eltern);
 }
 
-void Aufbauen(const Anordnung& a, Auffrischer& auf, QWidget* eltern, Gebautes& ergebnis) {
+void Aufbauen(const Anordnung& a, Auffrischer& auf, QWidget* eltern, Gebautes& ergebnis, const QString& titel) {
   Baumeister meister(auf, ergebnis);
   // The dialog's buttons stay outside of what may have to scroll.
   Anordnung inhalt = a;
@@ -410,6 +461,7 @@ void Aufbauen(const Anordnung& a, Auffrischer& auf, QWidget* eltern, Gebautes& e
   ergebnis.inhalt = meister.Als_widget(inhalt, eltern);
   if (knoepfe.art == Anordnung::Art::Knopfzeile) ergebnis.knopfzeile = meister.Als_widget(knoepfe, eltern);
   Kontextmenues_anhaengen(auf, ergebnis);
+  Namensgeber(auf, ergebnis, titel).gehen(a);
 }
 
 }  // namespace zav::fenster

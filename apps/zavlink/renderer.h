@@ -26,7 +26,8 @@ struct Gebautes {
 
 // Fills `ergebnis`, which painted widgets keep: it must live as long as they do. A popup menu opens on the
 // controls whose name is its title ("Command15" for Command15(0) to Command15(23)).
-void Aufbauen(const Anordnung& a, Auffrischer& auffrischer, QWidget* eltern, Gebautes& ergebnis);
+// `titel` names what has no name of its own.
+void Aufbauen(const Anordnung& a, Auffrischer& auffrischer, QWidget* eltern, Gebautes& ergebnis, const QString& titel);
 
 // Opens the popup menu of a control at a place of the screen, after the control's own handler for the right button.
 void Kontextmenue_zeigen(Steuerelement& e, const Gebautes& g, Auffrischer& auffrischer, QPoint stelle);

@@ -123,13 +123,14 @@ class Tagesskala final : public QWidget {
         p.setBrush(farbe);
         p.setPen(Qt::NoPen);
         p.drawPolygon(QPolygonF({QPointF(ort, achse), QPointF(ort - 5, achse - 8), QPointF(ort + 5, achse - 8)}));
-        p.setPen(farbe);
         QFont fett = font();
         fett.setBold(true);
+        const double breite = QFontMetricsF(fett).horizontalAdvance(Q(m.text)) + 12;
+        const QRectF feld(std::clamp(ort + 5, 4.0, width() - breite - 4), balken_oben + 1, breite, balken_hoehe - 2);
+        p.drawRoundedRect(feld, 4, 4);
+        p.setPen(palette().color(QPalette::HighlightedText));
         p.setFont(fett);
-        const double breite = QFontMetricsF(fett).horizontalAdvance(Q(m.text)) + 6;
-        const double links = std::clamp(ort + 6, 4.0, width() - breite - 4);
-        p.drawText(QRectF(links, balken_oben + 2, breite, balken_hoehe - 4), Qt::AlignLeft | Qt::AlignVCenter, Q(m.text));
+        p.drawText(feld, Qt::AlignCenter, Q(m.text));
         p.setFont(font());
         break;
       }

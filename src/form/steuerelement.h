@@ -109,6 +109,7 @@ class Taste final : public Steuerelement {
   bool standard = false;                        // Enter presses it
   bool abbruch = false;                         // Escape presses it
   std::string bild;                             // name of a symbol of the front end's icon family
+  std::string kuerzel;                          // keyboard shortcut of the window, "Ctrl+S"
 
   void druecken();
   void rechts_druecken();

@@ -69,6 +69,7 @@ Uhr_Astro::Uhr_Astro(int ereignis, const std::string& bezeichnung, const std::st
       Option5(Auswahl::Form::Optionen,
               {"dann Funktion bei Zeitlimite ausführen", "dann Funktion nicht ausführen"}),
       ereignis_(ereignis) {
+  for (Textfeld* t : {&Text15, &Text16, &Text17, &Text18, &Text19}) t->breite = 18;  // room for a complaint
   Verdrahten();
   Laden(zeit);
 }

@@ -1,0 +1,3 @@
+#include "zavlink/programm.h"
+
+int main(int argc, char** argv) { return zav::fenster::Programm(argc, argv); }
