@@ -44,20 +44,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// Boxes answer themselves with what changes nothing, and are remembered; other forms do not open.
-class Stille_oberflaeche final : public Oberflaeche {
- public:
-  Antwort Melden(const Meldung& m) override {
-    texte.push_back(m.text);
-    return Vorsichtige_antwort(m.knoepfe);
-  }
-  void Zeigen(Formular& /*f*/) override { ++geoeffnet; }
-  std::optional<Dateiwahl> Datei_oeffnen(const Dateifrage& /*f*/) override { return std::nullopt; }
-  std::optional<Dateiwahl> Datei_speichern(const Dateifrage& /*f*/) override { return std::nullopt; }
-  std::vector<std::string> texte;
-  int geoeffnet = 0;
-};
-
 class Fenster : public testing::Test {
  protected:
   void SetUp() override {

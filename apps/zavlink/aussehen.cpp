@@ -146,6 +146,7 @@ QSize Stil::sizeFromContents(ContentsType t, const QStyleOption* o, const QSize&
 void Stil::drawControl(ControlElement e, const QStyleOption* o, QPainter* p, const QWidget* w) const {
   if (e == CE_PushButtonBevel) {
     const auto* const knopf = qstyleoption_cast<const QStyleOptionButton*>(o);
+    if (w != nullptr && w->property("flach").toBool() && !(o->state & (State_MouseOver | State_Sunken | State_HasFocus))) return;
     if (knopf != nullptr && !knopf->features.testFlag(QStyleOptionButton::HasMenu)) {
       Flaeche_malen(*p, *o, knopf->features.testFlag(QStyleOptionButton::DefaultButton));
       return;

@@ -9,12 +9,13 @@
 #include <cstdio>
 #include <functional>
 
+#include "link/leitung.h"
+#include "simulierter_master.h"
 #include "store/projekt.h"
 #include "store/projektdatei.h"
 #include "zavlink/aussehen.h"
 #include "zavlink/formenschau.h"
 #include "zavlink/formfenster.h"
-#include "zavlink/qt_oberflaeche.h"
 #include "zavlink/qt_text.h"
 
 namespace {
@@ -60,13 +61,16 @@ int main(int argc, char** argv) {
   }
   QApplication::setQuitOnLastWindowClosed(false);
   Aussehen_setzen(dunkel ? Thema::dunkel : Thema::hell);
-  Qt_oberflaeche oberflaeche;
+  Stille_oberflaeche oberflaeche;
   Oberflaeche_setzen(&oberflaeche);
   QFile datei(argumente.at(0));
   if (!datei.open(QIODevice::ReadOnly) || !Projekt_lesen(datei.readAll().toStdString(), projekt)) {
     std::fprintf(stderr, "%s: kein Projekt\n", qPrintable(datei.fileName()));
     return 1;
   }
+  // Windows that ask the master find a simulated one.
+  const Simulierter_master master;
+  Com_art_setzen();
   const QDir ordner(argumente.at(1));
   ordner.mkpath(".");
   const QStringList namen = argumente.mid(2);

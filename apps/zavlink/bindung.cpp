@@ -168,6 +168,11 @@ QWidget* Schild_bauen(Schild& s, Auffrischer& auf, QWidget* eltern) {
   static const QRegularExpression zahl("^[-+]?\\d+([.,:]\\d+)*( ?(%|s|m/s|Lux|°C))?$");
   auto* const w = new Klickschild(s, eltern);
   w->setTextFormat(Qt::PlainText);
+  if (s.ueberschrift) {
+    QFont schrift = w->font();
+    schrift.setPointSizeF(schrift.pointSizeF() * 1.6);
+    w->setFont(schrift);
+  }
   if (s.wenn_angeklickt) w->setCursor(Qt::PointingHandCursor);
   auf.binden(s, [&s, w] {
     Gemeinsames(*w, s);

@@ -16,15 +16,27 @@
 #include "editor/layoutwahl.h"
 #include "editor/timer_trepp.h"
 #include "editor/touchpanel_referenz.h"
+#include "enocean/enocean_definition.h"
+#include "enocean/enocean_send.h"
 #include "service/bootloader.h"
 #include "service/infofenster.h"
 #include "service/init_flash.h"
+#include "shell/datei.h"
+#include "shell/eingabehilfe.h"
+#include "shell/fotos.h"
+#include "shell/gruss.h"
+#include "shell/haupt.h"
+#include "shell/setup.h"
+#include "shell/storentimer.h"
+#include "store/katalog.h"
 #include "store/projekt.h"
 #include "time/form_setup_uhr.h"
 #include "time/uhr.h"
 #include "time/uhr_astro.h"
 #include "time/uhr_astro_rechner.h"
 #include "time/uhrseite.h"
+#include "weather/wetterdisplay.h"
+#include "weather/wetterlogik.h"
 
 namespace zav::fenster {
 
@@ -37,6 +49,27 @@ int Erstes(const F& leer, int anzahl) {
     if (leer[i] != 0) return i;
   }
   return 0;
+}
+
+// Number of the first placed device of a kind, -1 = none; and its first address.
+int Apparat_finden(const std::function<bool(int)>& passt) {
+  for (int d = 0; d < apparate; ++d) {
+    if (passt(projekt.App_typ[d])) return d;
+  }
+  return -1;
+}
+int Adresse_von(int d) {
+  const auto lauf = d < 0 ? std::nullopt : Apparat_adressen(projekt, d);
+  return lauf ? lauf->von : -1;
+}
+
+// The main menu as it looks while events are logged, without a master.
+void Protokoll_vorfuehren(Haupt& f) {
+  f.Frame_befehle.sichtbar = false;
+  f.Frame_glaszav.sichtbar = true;
+  f.Terminal_Fenster.setzen(
+      "14.02.07  ZAVin 0A06  Taste 01  gedrückt\r\n14.02.07  ZAVin 0A06  Taste 01  gelöst\r\n"
+      "14.02.31  ZAVin 0A10  Taste 03  gedrückt\r\n");
 }
 
 template <class F, class... A>
@@ -59,8 +92,18 @@ std::function<std::unique_ptr<Formular>()> Stueck_nach(std::function<void(F&)> t
 std::vector<Schaustueck> Formenschau() {
   const int ereignis = Erstes(projekt.Ein_leer, 1024);
   const int uhr_sonne = Erstes(projekt.Uhr_astro, 256);
+  const int wetter = std::max(0, Adresse_von(Apparat_finden([](int typ) { return typ == apparat_wetterstation; })));
+  const int sender = std::max(0, Apparat_finden([](int typ) { return typ > 0 && Apparat_funkart(typ) != 0; }));
   const auto seite = [](int n) { return [n](Actmask& f) { f.TabStrip1.waehlen(n); }; };
   return {
+      {"gruss", Stueck<Gruss>()},
+      {"haupt", Stueck<Haupt>()},
+      {"terminal", Stueck_nach<Haupt>([](Haupt& f) { Protokoll_vorfuehren(f); })},
+      {"datei", Stueck<Datei>()},
+      {"setup", Stueck<Setup>()},
+      {"eingabehilfe", Stueck<Eingabehilfe>()},
+      {"storentimer", Stueck<Storentimer>()},
+      {"fotos", Stueck<Fotos>()},
       {"einmask8", Stueck<Einmask8>()},
       {"einmask8-wetter", Stueck_nach<Einmask8>([](Einmask8& f) {
          for (const auto& k : f.TreeView1.knoten()) {
@@ -88,9 +131,14 @@ std::vector<Schaustueck> Formenschau() {
       {"schaltzeit", Stueck<Uhr_Astro>(uhr_sonne, std::string("Aussenlicht"), std::string("Untergang"))},
       {"schaltzeit-fest", Stueck<Uhr_Astro>(0, std::string("Storen auf"), std::string("06.30.00"))},
       {"sonnen-info", Stueck<Uhr_Astro_Rechner>()},
-      {"senden", Stueck<Init_flash>()},
+      {"wetterlogik", Stueck<Wetterlogik>(wetter, Funktionen_oeffnen{})},
+      {"pruefbedingungen", Stueck_nach<Wetterlogik>([](Wetterlogik& f) { f.Command2.druecken(); }, wetter, Funktionen_oeffnen{})},
+      {"wetterdisplay", Stueck<Wetterdisplay>()},
+      {"enocean_definition", Stueck<Enocean_Definition>(sender)},
+      {"enocean_send", Stueck<Enocean_Send>()},
+      {"init_flash", Stueck<Init_flash>()},
       {"info", Stueck<Infofenster>()},
-      {"update", Stueck<Bootloader>()},
+      {"bootloader", Stueck<Bootloader>()},
       {"uhr-stellen", Stueck<Uhrseite>()},
   };
 }

@@ -32,6 +32,7 @@ QSettings Fenstergroessen() { return QSettings(QSettings::IniFormat, QSettings::
 
 Formfenster::Formfenster(Formular& f, QWidget* eltern) : QDialog(eltern), form_(f), auffrischer_(new Auffrischer(this)) {
   setObjectName(Q(f.name()));
+  if (eltern == nullptr) setWindowFlags(Qt::Window);
   setWindowFlag(Qt::WindowMaximizeButtonHint);
   auto* const spalte = new QVBoxLayout(this);
   spalte->setContentsMargins(gruppenabstand, gruppenabstand - raster / 2, gruppenabstand, gruppenabstand);

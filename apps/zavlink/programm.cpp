@@ -14,11 +14,12 @@
 #include "shell/haupt.h"
 #include "shell/sitzungslauf.h"
 #include "simulierter_master.h"
+#include "zav/version.h"
 #include "zavlink/aussehen.h"
 #include "zavlink/formfenster.h"
 #include "zavlink/qt_oberflaeche.h"
 #include "zavlink/qt_text.h"
-#include "zavlink/tueren.h"
+#include "zavlink/symbole.h"
 
 namespace zav::fenster {
 
@@ -34,15 +35,15 @@ Aufruf Lesen(const QApplication& programm) {
   QCommandLineParser parser;
   parser.setApplicationDescription("ZAVlink: Konfiguration und Service des ZAVnet-Bussystems.");
   const QCommandLineOption hilfe({"h", "help", "hilfe"}, "Zeigt diese Hilfe.");
-  const QCommandLineOption version({"v", "version"}, "Zeigt die Version.");
+  const QCommandLineOption versionsfrage({"v", "version"}, "Zeigt die Version.");
   const QCommandLineOption simulator("simulator", "Startet mit einem simulierten ZAVmaster als Schnittstelle.");
   const QCommandLineOption hell("hell", "Helle Darstellung.");
   const QCommandLineOption dunkel("dunkel", "Dunkle Darstellung.");
-  parser.addOptions({hilfe, version, simulator, hell, dunkel});
+  parser.addOptions({hilfe, versionsfrage, simulator, hell, dunkel});
   parser.addPositionalArgument("DATEI", "Projekt, das geöffnet wird.", "[DATEI]");
   parser.process(programm);
   if (parser.isSet(hilfe)) parser.showHelp();
-  if (parser.isSet(version)) parser.showVersion();
+  if (parser.isSet(versionsfrage)) parser.showVersion();
   if (parser.positionalArguments().size() > 1) parser.showHelp(2);
   Aufruf a;
   if (!parser.positionalArguments().isEmpty()) {
@@ -54,10 +55,10 @@ Aufruf Lesen(const QApplication& programm) {
   return a;
 }
 
-// The manual lies beside the program when installed, in the source tree while it is being developed.
+// The manual lies beside the program when installed, in the build tree while it is being developed.
 void Handbuch_zeigen(const std::string& form) {
   const QDir programm(QApplication::applicationDirPath());
-  for (const char* ort : {"../share/doc/zavlink/handbuch.html", "../../../../docs/handbuch.html"}) {
+  for (const char* ort : {"../share/zavlink/handbuch/index.html", "../../handbuch/index.html"}) {
     const QFileInfo datei(programm.filePath(ort));
     if (!datei.exists()) continue;
     QUrl adresse = QUrl::fromLocalFile(datei.canonicalFilePath());
@@ -80,28 +81,28 @@ int Programm(int argc, char** argv) {
   QApplication programm(argc, argv);
   QApplication::setApplicationName("zavlink");
   QApplication::setApplicationDisplayName("ZAVlink");
-  QApplication::setApplicationVersion(ZAVLINK_VERSION);
+  QApplication::setApplicationVersion(Q(version));
+  QGuiApplication::setDesktopFileName("net.zavnet.zavlink");
   QApplication::setQuitOnLastWindowClosed(false);  // the greeting closes before the main window opens
   const Aufruf aufruf = Lesen(programm);
   Aussehen_setzen(aufruf.thema);
+  QApplication::setWindowIcon(QIcon::fromTheme("zavlink", Symbolbild("haus")));
   handbuch_oeffnen = Handbuch_zeigen;
   if (aufruf.simulator) Einstellungen_trennen();
 
   Qt_oberflaeche oberflaeche;
   Oberflaeche_setzen(&oberflaeche);
   std::unique_ptr<Simulierter_master> master;
-  int status = 0;
   if (Sitzung_beginnen(aufruf.datei)) {
     if (aufruf.simulator) {
       master = std::make_unique<Simulierter_master>();
       Com_art_setzen();
     }
     Haupt haupt;
-    Tueren_einhaengen(haupt);
     oberflaeche.Zeigen(haupt);
   }
   Oberflaeche_setzen(nullptr);
-  return status;
+  return 0;
 }
 
 }  // namespace zav::fenster

@@ -73,6 +73,15 @@ bool Ist_hoch(const Anordnung& a) {
   return a.art == A::Spalte || a.art == A::Gruppe || a.art == A::Raster || a.art == A::Reiter || a.art == A::Besonders;
 }
 
+// A column of commands with their signs: shown as a flat list.
+bool Ist_befehlsliste(const std::vector<Anordnung>& kinder) {
+  return !kinder.empty() && std::ranges::all_of(kinder, [](const Anordnung& k) {
+    if (k.art != Anordnung::Art::Element || k.element->art != Art::Taste) return false;
+    const std::string& bild = static_cast<const Taste*>(k.element)->bild;
+    return !bild.empty() && !bild.starts_with("layout-");
+  });
+}
+
 // A part of the window: a widget or a layout.
 struct Teil {
   QWidget* widget = nullptr;
@@ -177,6 +186,7 @@ class Baumeister {
 
   QVBoxLayout* Spalte_bauen(const std::vector<Anordnung>& kinder, QWidget* eltern) {
     auto* const spalte = Ohne_rand(new QVBoxLayout);
+    const bool befehle = Ist_befehlsliste(kinder);
     QGridLayout* felder = nullptr;  // captions of neighbouring fields stand in line
     bool gefuellt = false;
     for (const Anordnung& k : kinder) {
@@ -198,23 +208,33 @@ class Baumeister {
         spalte->addSpacing(raster);
       }
       gefuellt = gefuellt || waechst;
+      if (Hat_beschriftung(k) && waechst) {
+        // A large field has its caption above it.
+        QWidget* const feld = Element(*k.element, eltern);
+        spalte->addWidget(Beschriftung(*k.element, feld, eltern));
+        spalte->addWidget(feld, 1);
+        felder = nullptr;
+        continue;
+      }
       if (Hat_beschriftung(k)) {
         if (felder == nullptr) {
           felder = Ohne_rand(new QGridLayout);
           felder->setVerticalSpacing(raster / 2);
           felder->setColumnStretch(1, 1);
-          spalte->addLayout(felder, waechst ? 1 : 0);
+          spalte->addLayout(felder);
         }
         const int zeile = felder->rowCount();
         QWidget* const feld = Element(*k.element, eltern);
-        felder->addWidget(Beschriftung(*k.element, feld, eltern), zeile, 0, waechst ? Qt::AlignTop : Qt::Alignment{});
+        felder->addWidget(Beschriftung(*k.element, feld, eltern), zeile, 0);
         felder->addWidget(feld, zeile, 1, Waechst(k, Richtung::waagrecht) ? Qt::Alignment{} : Qt::AlignLeft);
-        if (waechst) felder->setRowStretch(zeile, 1);
         continue;
       }
       felder = nullptr;
       const Teil t = Bau(k, eltern);
-      const bool knopf = k.art == Anordnung::Art::Element && k.element->art == Art::Taste && kinder.size() < 4;
+      if (befehle) {
+        for (const char* merkmal : {"links", "flach"}) t.widget->setProperty(merkmal, true);
+      }
+      const bool knopf = !befehle && k.art == Anordnung::Art::Element && k.element->art == Art::Taste && kinder.size() < 4;
       Einsetzen(*spalte, t, waechst ? 1 : 0, knopf ? Qt::AlignLeft : Qt::Alignment{});
     }
     if (!gefuellt) spalte->addStretch(1);

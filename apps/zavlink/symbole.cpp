@@ -32,6 +32,7 @@ constexpr std::array zeichnungen{
     Zeichnung{"dimmer", "M12 3a9 9 0 1 0 .1 0z", "M12 12l5-5 M12 12h.1"},
     Zeichnung{"timer", "M12 7a7 7 0 1 0 .1 0z M10 3h4 M12 3v4", "M12 14V10"},
     Zeichnung{"uhr", "M12 3a9 9 0 1 0 .1 0z", "M12 7v5l4 2"},
+    Zeichnung{"stellen", "M12 3a9 9 0 1 0 9 9", "M12 7v5l4 2 M15 3h6v6 M21 3l-5 5"},
     Zeichnung{"sequenzer", "M4 5h16v15H4z M4 9h16 M8 3v4 M16 3v4", "M8 13h3 M13 16h3"},
     Zeichnung{"sonne", "M12 8a4 4 0 1 0 .1 0z", "M12 2v3 M12 19v3 M2 12h3 M19 12h3 M5 5l2 2 M17 17l2 2 M19 5l-2 2 M7 17l-2 2"},
     Zeichnung{"wetter", "M7 18a4 4 0 1 1 1-8 5 5 0 0 1 10 1 3.5 3.5 0 0 1 0 7z", "M9 21l1-2 M14 21l1-2"},

@@ -1,6 +1,7 @@
 #include "zavlink/textfelder.h"
 
 #include <QFocusEvent>
+#include <QFontDatabase>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QScrollBar>
@@ -110,6 +111,10 @@ class Absatzfeld final : public QPlainTextEdit {
 
 QWidget* Absatz_bauen(Textfeld& t, Auffrischer& auf, QWidget* eltern) {
   auto* const w = new Absatzfeld(t, eltern);
+  if (t.festbreit) {
+    w->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+    w->setLineWrapMode(QPlainTextEdit::NoWrap);
+  }
   // The store keeps CR LF, the widget LF.
   QObject::connect(w, &QPlainTextEdit::textChanged, w, [&t, w] {
     if (!t.nur_lesen) Handeln(t, [&] { t.eingeben(S(w->toPlainText().replace("\n", "\r\n"))); });

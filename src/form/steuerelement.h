@@ -187,6 +187,7 @@ class Textfeld final : public Steuerelement {
   std::size_t hoechstlaenge = 0;  // in characters, 0 = no limit
   std::size_t breite = 0;         // characters to show at a time, 0 = by hoechstlaenge
   bool mehrzeilig = false;
+  bool festbreit = false;         // letters of one width: logs, drawings
 
   const std::string& text() const { return text_; }
   void setzen(std::string text);
@@ -232,6 +233,7 @@ class Schild final : public Steuerelement {
  public:
   explicit Schild(std::string titel = {}) : Steuerelement(Art::Schild, std::move(titel)) {}
   std::function<void()> wenn_angeklickt;
+  bool ueberschrift = false;  // stands out above what it heads
   void anklicken();
 };
 

@@ -66,7 +66,9 @@ std::string Dateiname(const std::string& pfad) { return pfad.substr(pfad.rfind('
 Haupt::Haupt() : Formular("Haupt") {
   Elemente_anmelden();
   Befehle_verdrahten();
+  Menue_verdrahten();
   Terminal_verdrahten();
+  Label_projekt.ueberschrift = true;
   Notizen.mehrzeilig = true;
   Notizen.hoechstlaenge = 999;
   Notizen.hinweis = "Feld für Notizen zu dieser Datei (maximal 900 Zeichen)";

@@ -1,5 +1,5 @@
 // The main menu: owns the session and opens everything else. One source a subject: haupt (commands, doors, what it shows
-// of the project), haupt_terminal (terminal mode), haupt_anordnung.
+// of the project), haupt_menue (file menu, signs, shortcuts), haupt_terminal (terminal mode), haupt_anordnung.
 #pragma once
 
 #include <array>
@@ -11,6 +11,8 @@
 #include "service/terminal.h"
 
 namespace zav {
+
+class Datei;
 
 class Haupt final : public Formular, private Terminalanzeige {
  public:
@@ -36,6 +38,8 @@ class Haupt final : public Formular, private Terminalanzeige {
   Taste Image1, Image2;
 
   // ---- menu
+  Taste mnuNeu{"&Neu"}, mnuOeffnen{"Ö&ffnen..."}, mnuSpeichern{"&Speichern"}, mnuSpeichern_unter{"Speichern &unter..."},
+      mnuBeenden{"&Beenden"};
   Taste backref_command{"Erei&gnissuche"};
   Taste neustartlist{"Auf&listen aller Busteilnehmer"}, protokoll{"P&rotokollieren aller Ereignisse"};
   Taste Sonderfunktionen{"Sonderfunktionen"}, start_storentimer{"St&orenparameter"};
@@ -63,6 +67,7 @@ class Haupt final : public Formular, private Terminalanzeige {
  private:
   void Elemente_anmelden();
   void Befehle_verdrahten();
+  void Menue_verdrahten();
   void Terminal_verdrahten();
   void Titel_setzen();
   void Zuletzt_zeigen();
@@ -71,6 +76,7 @@ class Haupt final : public Formular, private Terminalanzeige {
   template <class F>
   void Oeffnen();
   void Daten();
+  void Dateibefehl(Taste Datei::* befehl);
   void Eingaenge_oeffnen();
   // The doors of the installation editor.
   Tueren Editortueren();

@@ -30,6 +30,11 @@ void Haupt::Elemente_anmelden() {
   anmelden("Image1", Image1);
   anmelden("Image2", Image2);
 
+  anmelden("mnuNeu", mnuNeu);
+  anmelden("mnuOeffnen", mnuOeffnen);
+  anmelden("mnuSpeichern", mnuSpeichern);
+  anmelden("mnuSpeichern_unter", mnuSpeichern_unter);
+  anmelden("mnuBeenden", mnuBeenden);
   anmelden("backref_command", backref_command);
   anmelden("neustartlist", neustartlist);
   anmelden("protokoll", protokoll);
@@ -56,10 +61,11 @@ void Haupt::Elemente_anmelden() {
 
 Anordnung Haupt::anordnung() {
   return Spalte(
+      Menue("D&atei", mnuNeu, mnuOeffnen, Feder(), mnuSpeichern, mnuSpeichern_unter, Feder(), mnuBeenden),
       Menue("&GlasZAV", neustartlist, protokoll, backref_command, mnu_ResetMaster),
       Menue("&Werkzeuge", Sonderfunktionen, start_storentimer, Sonnenrechner, Touchpanel_Mnu, IP_Kameras_Mnu, Update,
             System_Optionen),
-      Menue("&Hilfe", mnu_Zeige_Fotos, InfoZAVlink),
+      Menue("Hil&fe", mnu_Zeige_Fotos, InfoZAVlink),
       Gruppe(Frame_befehle,
              Zeile(Spalte(Gruppe("Projekt", Dateien), Gruppe("Installation", Eingaenge, Timer_button, Command6, Dimmer),
                           Gruppe("Zeit", Uhr_button, Setup_uhr, Command5), Gruppe("Wetter und Touchpanel", Zeile(Image1, Image2)),

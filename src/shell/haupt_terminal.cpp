@@ -14,7 +14,7 @@ void Haupt::Terminal_verdrahten() {
   Check1.wenn_geaendert = [this] { terminal_.Check1 = Check1.an(); };
   Check2.wenn_geaendert = [this] { terminal_.Check2 = Check2.an(); };
   Terminal_Fenster.nur_lesen = true;
-  Terminal_Fenster.mehrzeilig = true;
+  Terminal_Fenster.mehrzeilig = Terminal_Fenster.festbreit = true;
   Command9.wenn_gedrueckt = [this] { Terminal_Fenster.setzen("Anzeige gelöscht...\r\n"); };
   Command7.wenn_gedrueckt = [] { sitzung.Abbruch = 1; };
   Command7.abbruch = true;

@@ -4,12 +4,13 @@
 #include "link/leitung.h"
 #include "platform/einstellungen.h"
 #include "shell/gruss.h"
+#include "shell/projektbefehle.h"
 #include "store/projekt.h"
 #include "store/sitzung.h"
 
 namespace zav {
 
-bool Sitzung_beginnen() {
+bool Sitzung_beginnen(const std::string& datei) {
   const std::string mangel = Einstellungen_lesen();
   if (!mangel.empty()) Melden(mangel, "ZAVlink", Symbol::Warnung);
   Com_art_setzen();
@@ -18,10 +19,16 @@ bool Sitzung_beginnen() {
   Projekt_reset();
   leitung.Com_gesucht = 0;
   sitzung.Schreibschutz = 0;
-  Gruss gruss;
-  oberflaeche().Zeigen(gruss);
+  bool beendet = false;
+  if (datei.empty()) {
+    Gruss gruss;
+    oberflaeche().Zeigen(gruss);
+    beendet = gruss.beendet();
+  } else {
+    Projekt_oeffnen(datei);
+  }
   sitzung.Projekt_geaendert = 0;
-  return !gruss.beendet();
+  return !beendet;
 }
 
 bool Sitzung_beenden() {
