@@ -300,9 +300,9 @@ bool App_xml_export(std::string* pfad) {
 
 bool App_daten_moeglich() {
   if (projekt.Datei_version != "800" && projekt.Datei_version != "900") return true;
-  Melden(
-      "Wenn Sie die neuen Funktionen von ZAVlink-Version 9.102 nutzen möchten, wählen Sie 'Speichern unter' und den "
-      "Dateityp 910. Achtung: Das Betriebssystem des ZAVmasters muss auf die Version 9 aufgerüstet werden.");
+  Melden(std::string("Wenn Sie die neuen Funktionen von ") + programm_version +
+         " nutzen möchten, wählen Sie 'Speichern unter' und den Dateityp 910. Achtung: Das Betriebssystem des ZAVmasters muss "
+         "auf die Version 9 aufgerüstet werden.");
   return false;
 }
 
