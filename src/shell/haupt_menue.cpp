@@ -38,7 +38,6 @@ void Haupt::Menue_verdrahten() {
 // A command of the file dialog, given without showing it.
 void Haupt::Dateibefehl(Taste Datei::* befehl) {
   Datei datei;
-  datei.app = zavapp;
   Taste& taste = datei.*befehl;
   if (taste.frei && taste.sichtbar) taste.druecken();
   Auffrischen();
