@@ -1,5 +1,6 @@
-// What the app's descriptor of the largest project costs. Its storeys are sorted in n log n steps; the other side of
-// the ratio is the sort by exchanging neighbours, 255 times over the whole list, that gives the same order.
+// What the app's descriptor of the largest project costs. Its storeys are sorted in n log n steps; the other
+// side of the ratio is the sort by exchanging neighbours, 255 times over the whole list, that gives the same
+// order.
 #include <benchmark/benchmark.h>
 
 #include <chrono>

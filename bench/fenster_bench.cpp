@@ -1,5 +1,5 @@
-// How long a window takes from the command to its first picture, in the example house and in a project that is full to
-// its last field. Offscreen: the figures leave out what the desktop adds.
+// How long a window takes from the command to its first picture, in the example house and in a project that
+// is full to its last field. Offscreen: the figures leave out what the desktop adds.
 #include <benchmark/benchmark.h>
 
 #include <QApplication>
@@ -70,8 +70,9 @@ int main(int argc, char** argv) {
   benchmark::Initialize(&argc, argv);
   Volles_projekt();
   for (const Schaustueck& s : Formenschau()) {
-    benchmark::RegisterBenchmark(("voll/" + s.name).c_str(), [s](benchmark::State& r) { Oeffnen(r, s); })
-        ->Unit(benchmark::kMillisecond);
+    benchmark::RegisterBenchmark(("voll/" + s.name).c_str(), [s](benchmark::State& r) {
+      Oeffnen(r, s);
+    })->Unit(benchmark::kMillisecond);
   }
   benchmark::RunSpecifiedBenchmarks();
 }

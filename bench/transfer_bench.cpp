@@ -41,7 +41,8 @@ Projekt Volles_projekt() {
   Projekt p;
   std::mt19937 zahl(1);
   const auto fuellen = [&](auto& feld, unsigned unter) {
-    for (auto& zelle : feld.alle()) zelle = static_cast<std::remove_reference_t<decltype(zelle)>>(zahl() % unter);
+    for (auto& zelle : feld.alle())
+      zelle = static_cast<std::remove_reference_t<decltype(zelle)>>(zahl() % unter);
   };
   fuellen(p.Ein_relais, 8);
   fuellen(p.Tev_relais, 7);
@@ -128,7 +129,7 @@ void Schaltzeiten_eines_jahres(benchmark::State& state) {
 }
 BENCHMARK(Schaltzeiten_eines_jahres)->Unit(benchmark::kMillisecond);
 
-// ---- on the line ------------------------------------------------------------------------------------------------
+// ---- on the line ------------------------------------------------------------------------------------------
 
 // Notes when the handshake, with its fixed wait, is over.
 class Stoppuhr : public Beobachter {
@@ -195,7 +196,8 @@ int Nackt_oeffnen(const simulator::Simulator& sim, bool seriell) {
 void Nackt_spielen(const std::vector<std::string>& meldungen, int fd) {
   char puffer[64];
   for (const auto& m : meldungen) {
-    for (std::size_t n = 0; n < m.size();) n += static_cast<std::size_t>(write(fd, m.data() + n, m.size() - n));
+    for (std::size_t n = 0; n < m.size();)
+      n += static_cast<std::size_t>(write(fd, m.data() + n, m.size() - n));
     for (std::size_t n = 0; n < Antwortlaenge(m);) {
       pollfd p{fd, POLLIN, 0};
       poll(&p, 1, -1);
@@ -204,7 +206,8 @@ void Nackt_spielen(const std::vector<std::string>& meldungen, int fd) {
   }
 }
 
-// A full transfer against the bare loop, the best of each: what else runs on the computer falls on either side.
+// A full transfer against the bare loop, the best of each: what else runs on the computer falls on either
+// side.
 void Transfer(benchmark::State& state, bool seriell) {
   simulator::Simulator sim({.pty = true});
   sim.start();
@@ -255,8 +258,10 @@ void Transfer_115200(benchmark::State& state) {
     clock_gettime(CLOCK_THREAD_CPUTIME_ID, &nachher);
     if (dauer < 0) return state.SkipWithError("transfer failed");
     gemessen += dauer;
-    cpu += static_cast<double>(nachher.tv_sec - vorher.tv_sec) + 1e-9 * static_cast<double>(nachher.tv_nsec - vorher.tv_nsec);
-    for (const auto& m : Meldungen(sim)) boden += 10.0 * static_cast<double>(m.size() + Antwortlaenge(m)) / baud;
+    cpu += static_cast<double>(nachher.tv_sec - vorher.tv_sec) +
+           1e-9 * static_cast<double>(nachher.tv_nsec - vorher.tv_nsec);
+    for (const auto& m : Meldungen(sim))
+      boden += 10.0 * static_cast<double>(m.size() + Antwortlaenge(m)) / baud;
   }
   state.counters["boden_zu_gemessen"] = boden / gemessen;
   state.counters["cpu_anteil"] = cpu / gemessen;

@@ -1,5 +1,5 @@
-// The settings file: reading any bytes keeps every value in its range, a changed key comes back, and all other
-// lines stay.
+// The settings file: reading any bytes keeps every value in its range, a changed key comes back, and all
+// other lines stay.
 #include <sys/stat.h>
 
 #include <cerrno>
@@ -53,7 +53,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t n) 
   Einstellungen_lesen();
   const Einstellungen& s = einstellungen;
   Verlangen(s.Com_port >= 1 && s.Com_port <= 8 && s.Com_art >= 0 && s.Com_art <= 2, "port in its range");
-  Verlangen(s.Host_port >= 0 && s.Host_port <= 65535 && s.Richt_modus >= 0 && s.Richt_modus <= 2, "numbers in range");
+  Verlangen(s.Host_port >= 0 && s.Host_port <= 65535 && s.Richt_modus >= 0 && s.Richt_modus <= 2,
+            "numbers in range");
 
   Ini ini(datei.inhalt);
   const auto fremd = ini.Lesen("Fremd", "bleibt");

@@ -1,5 +1,5 @@
-// In place of the sockets: the other end of the line in this process. A target sets `gegenueber` and fills `da` with
-// what is on its way to the tool.
+// In place of the sockets: the other end of the line in this process. A target sets `gegenueber` and fills
+// `da` with what is on its way to the tool.
 #pragma once
 
 #include <string>

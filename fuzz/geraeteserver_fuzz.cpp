@@ -36,8 +36,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t n) 
     nsio_RTS(port, 1);
     std::array<char, 64> puffer{};
     while (!server.weg || nsio_warten(port, 0) > 0) {
-      Verlangen(nsio_read(port, puffer.data(), static_cast<int>(puffer.size())) <= static_cast<int>(puffer.size()),
-                "no more bytes than asked for");
+      Verlangen(
+          nsio_read(port, puffer.data(), static_cast<int>(puffer.size())) <= static_cast<int>(puffer.size()),
+          "no more bytes than asked for");
       if (!server.weg && nsio_write(port, "S9\xFF\r", 4) < 0) break;
     }
   }

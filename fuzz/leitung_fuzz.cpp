@@ -29,9 +29,7 @@ struct Launischer_master : Gegenueber {
     switch (const std::size_t wahl = eingabe.leer() ? 0 : eingabe.byte(); wahl % 8) {
       case 0:
       case 1:
-      case 2:
-        da += aus.bytes;
-        break;
+      case 2: da += aus.bytes; break;
       case 3:  // cut
         da += aus.bytes.substr(0, aus.bytes.size() - std::min(aus.bytes.size(), wahl / 8));
         break;
@@ -46,9 +44,7 @@ struct Launischer_master : Gegenueber {
         da += aus.bytes;
         da += eingabe.text(wahl / 8);
         break;
-      case 7:
-        weg = wahl / 8 < 4;
-        break;
+      case 7: weg = wahl / 8 < 4; break;
     }
   }
 
@@ -89,24 +85,14 @@ void Ausfuehren(std::size_t vorgang) {
   Enocean_anzeige anzeige;
   switch (vorgang % 8) {
     case 0:
-    case 1:
-      u.Senden_starten();
-      break;
-    case 2:
-      Enocean_programmieren(true, anzeige);
-      break;
+    case 1: u.Senden_starten(); break;
+    case 2: Enocean_programmieren(true, anzeige); break;
     case 3:
       if (u.Initialisieren()) u.Senden_starten();
       break;
-    case 4:
-      Uhr_stellen({.Akt_zeit_text = "08:15:30", .Akt_datum_text = "04.05.2026"});
-      break;
-    case 5:
-      Master_abfragen();
-      break;
-    case 6:
-      Neustart_ausfuehren();
-      break;
+    case 4: Uhr_stellen({.Akt_zeit_text = "08:15:30", .Akt_datum_text = "04.05.2026"}); break;
+    case 5: Master_abfragen(); break;
+    case 6: Neustart_ausfuehren(); break;
     case 7:
       Can_senden("0201", "02", "5341000000000000");
       Ereignis_erzeugen("0400", "00", "01");
@@ -148,7 +134,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t n) 
   Beobachter niemand;
   Uebertragung u(niemand);
   Verlangen(u.Senden_starten() == Sendeergebnis::gesendet, "the next good run is good");
-  Verlangen(projekt.Ein_funktext[5] + projekt.Uhr_funktext[9] + projekt.Tev_funktext[63] + projekt.Grp_led[0] == 0,
-            "nothing is left to send");
+  Verlangen(
+      projekt.Ein_funktext[5] + projekt.Uhr_funktext[9] + projekt.Tev_funktext[63] + projekt.Grp_led[0] == 0,
+      "nothing is left to send");
   return 0;
 }

@@ -1,6 +1,6 @@
-// The project reader over all generations. The input is either a file as it stands, or changes to the lines of a
-// good one, so that the fuzzer comes as deep as a file is long. Whatever was read must come back from a file that
-// was saved: read, saved, read and saved again gives the same bytes.
+// The project reader over all generations. The input is either a file as it stands, or changes to the lines
+// of a good one, so that the fuzzer comes as deep as a file is long. Whatever was read must come back from a
+// file that was saved: read, saved, read and saved again gives the same bytes.
 #include <array>
 #include <string>
 #include <vector>

@@ -1,4 +1,5 @@
-// The terminal's line splitting: whatever the master says, no line grows without end and every piece is shown once.
+// The terminal's line splitting: whatever the master says, no line grows without end and every piece is shown
+// once.
 #include "basis/melder.h"
 #include "eingabe.h"
 #include "gegenueber.h"
@@ -48,7 +49,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t n) 
   if (art & 8) terminal.Filter[0] = std::string(e.text(e.byte() % 16));
   Redselig master(e.alles());
   gegenueber = &master;
-  Verlangen(terminal.Terminal_lauf(art & 1 ? Terminalmodus::liste : Terminalmodus::protokoll) != Terminalende::verlassen,
+  Verlangen(terminal.Terminal_lauf(art & 1 ? Terminalmodus::liste : Terminalmodus::protokoll) !=
+                Terminalende::verlassen,
             "a line that breaks down ends the terminal");
   return 0;
 }

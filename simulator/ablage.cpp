@@ -31,7 +31,8 @@ std::string als_text(const Bestand& b) {
   std::string text(kopf);
   for (std::uint32_t n = 0; n < Speicher::seitenzahl; ++n)
     if (const auto* s = b.speicher.seite(n)) text += "S " + hex(n, 3) + ' ' + hex(*s) + '\n';
-  for (const auto& [befehl, ziffern] : b.bloecke) text.append("B ").append(befehl).append(" ").append(ziffern).append("\n");
+  for (const auto& [befehl, ziffern] : b.bloecke)
+    text.append("B ").append(befehl).append(" ").append(ziffern).append("\n");
   for (std::size_t r = 0; r < b.empfaenger.size(); ++r)
     if (const auto& t = b.empfaenger[r].tabelle(); std::ranges::any_of(t, [](auto x) { return x != 0; }))
       text += "E " + hex(r, 1) + ' ' + hex(t) + '\n';

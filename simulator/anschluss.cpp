@@ -10,9 +10,9 @@ namespace zav::simulator {
 
 namespace {
 
-constexpr std::size_t eingang_hoechstens = 4096;       // bytes under way to the master
+constexpr std::size_t eingang_hoechstens = 4096;                    // bytes under way to the master
 constexpr std::size_t ausgang_hoechstens = std::size_t{64} * 1024;  // bytes that nobody has read yet
-constexpr double stueck = 0.005;                       // s; a long reply appears in pieces of this length
+constexpr double stueck = 0.005;  // s; a long reply appears in pieces of this length
 
 }  // namespace
 

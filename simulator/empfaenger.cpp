@@ -22,15 +22,11 @@ int laenge_von(char buchstabe) {
     case 'I':
     case 'R':
     case 'W':
-    case 'V':
-      return 2;
+    case 'V': return 2;
     case 'T':
-    case 't':
-      return 5;
-    case 'P':
-      return 6;
-    default:
-      return 0;
+    case 't': return 5;
+    case 'P': return 6;
+    default: return 0;
   }
 }
 
@@ -44,9 +40,7 @@ std::optional<Telegramm> Empfaenger::empfangen(const Telegramm& t) {
   const std::size_t ab = static_cast<std::size_t>(d[2]) << 8 | d[3];
   const bool seite_gibt_es = ab % seitengroesse == 0 && ab < tabellengroesse && d[4] == seitengroesse;
   switch (buchstabe) {
-    case 'C':
-      puffer.clear();
-      break;
+    case 'C': puffer.clear(); break;
     case 'P':
       if (puffer.size() < seitengroesse) puffer.insert(puffer.end(), d.begin() + 2, d.begin() + 6);
       break;
@@ -56,9 +50,7 @@ std::optional<Telegramm> Empfaenger::empfangen(const Telegramm& t) {
         if (seite_defekt[ab / seitengroesse]) geschrieben[ab] ^= 0xFF;
       }
       break;
-    case 'I':
-      gueltig = geschrieben;
-      break;
+    case 'I': gueltig = geschrieben; break;
     case 't':
       if (seite_gibt_es) {
         const auto von = geschrieben.begin() + static_cast<std::ptrdiff_t>(ab);
@@ -66,10 +58,8 @@ std::optional<Telegramm> Empfaenger::empfangen(const Telegramm& t) {
         antwort = {static_cast<std::uint8_t>(summe >> 8), static_cast<std::uint8_t>(summe), 0, 0, 0, 0};
       }
       break;
-    case 'R':
-      return antworttelegramm(t, antwort);
-    case 'W':
-      return antworttelegramm(t, gehoert);
+    case 'R': return antworttelegramm(t, antwort);
+    case 'W': return antworttelegramm(t, gehoert);
     default: {  // 'V'
       std::uint8_t sender = 0;
       for (std::size_t e = 0; e < tabellengroesse; e += 8)

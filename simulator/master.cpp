@@ -144,20 +144,11 @@ void Master::beantworten(const std::string& befehl, Ausgabe& aus, Ausfuehrung au
   if (regel) {
     const auto n = static_cast<std::size_t>(regel->wert);
     switch (regel->art) {
-      case Fehlerart::verloren:
-        antwort.clear();
-        break;
-      case Fehlerart::kurz:
-        antwort.resize(antwort.size() - std::min(n, antwort.size()));
-        break;
-      case Fehlerart::lang:
-        antwort.append(n, 'Z');
-        break;
-      case Fehlerart::muell:
-        antwort.insert(0, n, '#');
-        break;
-      default:
-        break;
+      case Fehlerart::verloren: antwort.clear(); break;
+      case Fehlerart::kurz: antwort.resize(antwort.size() - std::min(n, antwort.size())); break;
+      case Fehlerart::lang: antwort.append(n, 'Z'); break;
+      case Fehlerart::muell: antwort.insert(0, n, '#'); break;
+      default: break;
     }
   }
   aus.bytes += antwort;

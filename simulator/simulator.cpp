@@ -160,10 +160,8 @@ void Simulator::Kern::runde(const std::array<pollfd, 5>& p) {
   }
   if (p[4].revents != 0) wechsel();
   for (auto [a, ereignisse] : {std::pair{&tcp, p[1].revents}, std::pair{&pty, p[3].revents}})
-    if (a->offen() && (ereignisse & (POLLIN | POLLHUP | POLLERR)) != 0)
-      lesen(*a);
-    else
-      bedienen(*a);
+    if (a->offen() && (ereignisse & (POLLIN | POLLHUP | POLLERR)) != 0) lesen(*a);
+    else bedienen(*a);
   if (p[2].revents != 0) annehmen();
   geraet.zeit(jetzt());
   verteilen();

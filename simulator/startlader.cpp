@@ -56,10 +56,8 @@ void Startlader::empfangen(char c, double jetzt, std::string& aus) {
     return;
   }
   if (lage == Lage::empfaengt) {
-    if (c == '\r' || c == '\n')
-      satz_nehmen(aus);
-    else if (satz.size() <= satz_hoechstens)
-      satz += c;
+    if (c == '\r' || c == '\n') satz_nehmen(aus);
+    else if (satz.size() <= satz_hoechstens) satz += c;
     return;
   }
   if (c < ' ') return;
@@ -101,10 +99,8 @@ void Startlader::satz_nehmen(std::string& aus) {
   ++firmware.saetze;
   const bool stimmt = satz_stimmt(satz);
   const char typ = satz.size() > 1 ? satz[1] : ' ';
-  if (!stimmt)
-    ++firmware.falsche;
-  else if (const auto a = adressbytes(typ))
-    firmware.bytes += (satz.size() - 4) / 2 - a - 1;
+  if (!stimmt) ++firmware.falsche;
+  else if (const auto a = adressbytes(typ)) firmware.bytes += (satz.size() - 4) / 2 - a - 1;
   firmware.gueltig = firmware.bytes > 0 && firmware.falsche == 0;
   aus += stimmt ? '.' : '?';
   satz.clear();

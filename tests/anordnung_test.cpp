@@ -1,4 +1,5 @@
-// Every form: each control has a name of its own and stands in the layout exactly once, and every command does something.
+// Every form: each control has a name of its own and stands in the layout exactly once, and every command
+// does something.
 #include <gtest/gtest.h>
 
 #include <map>

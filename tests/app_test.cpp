@@ -30,7 +30,9 @@ class App : public ::testing::Test {
     projekt.App_text[16 * k + platz] = std::to_string(adresse);
     projekt.App_text2[16 * k + platz] = std::to_string(adressen_);
   }
-  static void taste(int k, int platz, int n, const char* text) { projekt.Dev_text[128 * k + 8 * platz + n] = text; }
+  static void taste(int k, int platz, int n, const char* text) {
+    projekt.Dev_text[128 * k + 8 * platz + n] = text;
+  }
   static str& feld(int ereignis, App_feld f) { return projekt.App_eigenschaften.zeile(ereignis)[f]; }
   static void setzen(int ereignis, std::initializer_list<std::pair<App_feld, const char*>> werte) {
     for (const auto& [f, wert] : werte) feld(ereignis, f) = wert;
@@ -92,54 +94,69 @@ TEST_F(App, ButtonsStandWhereTheirPropertiesPutThem) {
   taste(3, 2, 0, "Licht & Lärm");
   taste(3, 2, 5, "Store");
   taste(3, 2, 6, "Szene");
-  setzen(52, {});                        // no text: never exported
-  setzen(48, {{App_geraet, "3"}, {App_bereich, "2"}, {App_mit_icon, "1"}, {App_icon_name, "Licht"},
-              {App_mit_rueckmeldung, "1"}, {App_rueckmeldung, "513"}});
-  setzen(53, {{App_geraet, "2"}, {App_eigener_text, "1"}, {App_tastentext, "Straße"},
-              {App_mit_bestaetigung, "1"}, {App_frage_art, "3"}, {App_frage1, "Zu?"}, {App_ja1, "Ja"},
-              {App_nein1, "Nein"}, {App_frage2, "\"Auf\"?"}, {App_ja2, "J"}, {App_nein2, "N"}});
+  setzen(52, {});  // no text: never exported
+  setzen(48, {{App_geraet, "3"},
+              {App_bereich, "2"},
+              {App_mit_icon, "1"},
+              {App_icon_name, "Licht"},
+              {App_mit_rueckmeldung, "1"},
+              {App_rueckmeldung, "513"}});
+  setzen(53, {{App_geraet, "2"},
+              {App_eigener_text, "1"},
+              {App_tastentext, "Straße"},
+              {App_mit_bestaetigung, "1"},
+              {App_frage_art, "3"},
+              {App_frage1, "Zu?"},
+              {App_ja1, "Ja"},
+              {App_nein1, "Nein"},
+              {App_frage2, "\"Auf\"?"},
+              {App_ja2, "J"},
+              {App_nein2, "N"}});
   setzen(54, {{App_geraet, "1"}, {App_bereich, "1"}, {App_als_szene, "1"}});
   setzen(49, {{App_geraet, "3"}});
   const std::string xml = App_xml_bauen(projekt);
-  EXPECT_EQ(Teil(xml, "Normale Tasten"),
-            "  <node type=\"collection\">\r\n"
-            "    <node type=\"section\">\r\n"
-            "      <title>dach</title>\r\n"
-            "      <subtitle></subtitle>\r\n"
-            "      <node type=\"collection\">\r\n"
-            "        <node type=\"section\">\r\n"
-            "          <title>Estrich</title>\r\n"
-            "          <subtitle></subtitle>\r\n"
-            "          <node type=\"collection\">\r\n"
-            "          </node>\r\n"
-            "        </node>\r\n"
-            "      </node>\r\n"
-            "    </node>\r\n"
-            "    <node type=\"section\">\r\n"
-            "      <title>Erdgeschoss</title>\r\n"
-            "      <subtitle>hell</subtitle>\r\n"
-            "      <node type=\"collection\">\r\n"
-            "        <node type=\"section\">\r\n"
-            "          <title>Küche&apos;s</title>\r\n"
-            "          <subtitle></subtitle>\r\n"
-            "          <node type=\"collection\">\r\n"
-            "            <node type=\"button\" class=\"light\">\r\n"
-            "              <title>Licht &amp; Lärm</title>\r\n"
-            "              <address>I12-1</address>\r\n"
-            "              <icon>Licht</icon>\r\n"
-            "              <feedbackaddress>D0-1</feedbackaddress>\r\n"
-            "            </node>\r\n"
-            "            <node type=\"button\" class=\"light\" fordevice=\"tablet\">\r\n"
-            "              <title>Stra\xDF" "e</title>\r\n"
-            "              <address>I13-2</address>\r\n"
-            "              <confirmation forstate =\"off\" keyok=\"Ja\" keyabort=\"Nein\">Zu?</confirmation>\r\n"
-            "              <confirmation forstate =\"on\" keyok=\"J\" keyabort=\"N\">&quot;Auf&quot;?</confirmation>\r\n"
-            "            </node>\r\n"
-            "          </node>\r\n"
-            "        </node>\r\n"
-            "      </node>\r\n"
-            "    </node>\r\n"
-            "  </node>\r\n");
+  EXPECT_EQ(
+      Teil(xml, "Normale Tasten"),
+      "  <node type=\"collection\">\r\n"
+      "    <node type=\"section\">\r\n"
+      "      <title>dach</title>\r\n"
+      "      <subtitle></subtitle>\r\n"
+      "      <node type=\"collection\">\r\n"
+      "        <node type=\"section\">\r\n"
+      "          <title>Estrich</title>\r\n"
+      "          <subtitle></subtitle>\r\n"
+      "          <node type=\"collection\">\r\n"
+      "          </node>\r\n"
+      "        </node>\r\n"
+      "      </node>\r\n"
+      "    </node>\r\n"
+      "    <node type=\"section\">\r\n"
+      "      <title>Erdgeschoss</title>\r\n"
+      "      <subtitle>hell</subtitle>\r\n"
+      "      <node type=\"collection\">\r\n"
+      "        <node type=\"section\">\r\n"
+      "          <title>Küche&apos;s</title>\r\n"
+      "          <subtitle></subtitle>\r\n"
+      "          <node type=\"collection\">\r\n"
+      "            <node type=\"button\" class=\"light\">\r\n"
+      "              <title>Licht &amp; Lärm</title>\r\n"
+      "              <address>I12-1</address>\r\n"
+      "              <icon>Licht</icon>\r\n"
+      "              <feedbackaddress>D0-1</feedbackaddress>\r\n"
+      "            </node>\r\n"
+      "            <node type=\"button\" class=\"light\" fordevice=\"tablet\">\r\n"
+      "              <title>Stra\xDF"
+      "e</title>\r\n"
+      "              <address>I13-2</address>\r\n"
+      "              <confirmation forstate =\"off\" keyok=\"Ja\" keyabort=\"Nein\">Zu?</confirmation>\r\n"
+      "              <confirmation forstate =\"on\" keyok=\"J\" "
+      "keyabort=\"N\">&quot;Auf&quot;?</confirmation>\r\n"
+      "            </node>\r\n"
+      "          </node>\r\n"
+      "        </node>\r\n"
+      "      </node>\r\n"
+      "    </node>\r\n"
+      "  </node>\r\n");
   EXPECT_NE(Teil(xml, "Globale Tasten")
                 .find("      <title>Globale Tasten</title>\r\n"
                       "      <node type=\"button\" domain=\"global\" class=\"light\">\r\n"
@@ -167,7 +184,10 @@ TEST_F(App, QuestionsAndFeedbackFollowTheirKind) {
     const auto n = xml.find(name);
     return n == std::string::npos ? "" : xml.substr(n, xml.find("\r\n", n) - n);
   };
-  setzen(0, {{App_geraet, "3"}, {App_mit_bestaetigung, "1"}, {App_mit_rueckmeldung, "1"}, {App_frage1, "A"},
+  setzen(0, {{App_geraet, "3"},
+             {App_mit_bestaetigung, "1"},
+             {App_mit_rueckmeldung, "1"},
+             {App_frage1, "A"},
              {App_frage2, "B"}});
   struct Fall {
     const char* art;
@@ -180,8 +200,13 @@ TEST_F(App, QuestionsAndFeedbackFollowTheirKind) {
     setzen(0, {{App_frage_art, art}});
     EXPECT_EQ(zeile("<confirmation"), text);
   }
-  for (const auto& [nummer, text] : {std::pair{"0", "O0-0"}, {"511", "O63-7"}, {"512", "D0-0"}, {"639", "D31-3"},
-                                     {"640", "-"}, {"641", "-"}, {"", "-"}}) {
+  for (const auto& [nummer, text] : {std::pair{"0", "O0-0"},
+                                     {"511", "O63-7"},
+                                     {"512", "D0-0"},
+                                     {"639", "D31-3"},
+                                     {"640", "-"},
+                                     {"641", "-"},
+                                     {"", "-"}}) {
     setzen(0, {{App_rueckmeldung, nummer}});
     EXPECT_EQ(zeile("<feedbackaddress"), "<feedbackaddress>" + std::string(text) + "</feedbackaddress>");
   }
@@ -193,14 +218,21 @@ TEST_F(App, StoreysAreSortedWithoutCaseAndKeepTheirOrder) {
   const auto titel = [] {
     std::string folge;
     const std::string xml = App_xml_bauen(projekt);
-    for (auto n = xml.find("          <title>"); n != std::string::npos; n = xml.find("          <title>", n + 1)) {
+    for (auto n = xml.find("          <title>"); n != std::string::npos;
+         n = xml.find("          <title>", n + 1)) {
       folge += xml.substr(n + 17, 1);
     }
     return folge;
   };
   int k = 7;
-  for (const auto& [standort, raum] : {std::pair{"Ober", "1"}, {"erd", "2"}, {"ÄUSSERES", "3"}, {"ober", "4"},
-                                       {"äUSSERES", "5"}, {"Erd", "6"}, {"", "7"}, {"Ober", "8"}}) {
+  for (const auto& [standort, raum] : {std::pair{"Ober", "1"},
+                                       {"erd", "2"},
+                                       {"ÄUSSERES", "3"},
+                                       {"ober", "4"},
+                                       {"äUSSERES", "5"},
+                                       {"Erd", "6"},
+                                       {"", "7"},
+                                       {"Ober", "8"}}) {
     projekt.Komb_text[k] = standort;
     projekt.Komb_text2[k++] = raum;
   }
@@ -240,8 +272,8 @@ TEST_F(App, CamerasAreWrittenWithTheirKeys) {
             "  <node type=\"cameraview\" usecase=\"63\" cid=\"2\">\r\n"
             "    <title>Tür &amp; Tor</title> \r\n"
             "    <subtitle></subtitle> \r\n"
-            "    <mediaserver forstream=\"audio_video\" ipaddress=\"10.0.0.7\" httpport=\"80\" controlport=\"81\" "
-            "streamportpool=\"5000-5005\" devicemodel=\"axis.m1054.w\"/>\r\n"
+            "    <mediaserver forstream=\"audio_video\" ipaddress=\"10.0.0.7\" httpport=\"80\" "
+            "controlport=\"81\" streamportpool=\"5000-5005\" devicemodel=\"axis.m1054.w\"/>\r\n"
             "    <node type=\"button\" class=\"light\">\r\n"
             "      <title>Öffnen</title>\r\n"
             "      <address>I14-2</address>\r\n"
@@ -254,12 +286,14 @@ TEST_F(App, CamerasAreWrittenWithTheirKeys) {
 }
 
 TEST_F(App, TextsPassAsBytes) {
-  EXPECT_EQ(Xml_text("äöüÄÖÜéèà<>&\"'"),
-            "\xC3\xA4\xC3\xB6\xC3\xBC\xC3\x84\xC3\x96\xC3\x9C\xC3\xA9\xC3\xA8\xC3\xA0&lt;&gt;&amp;&quot;&apos;");
+  EXPECT_EQ(
+      Xml_text("äöüÄÖÜéèà<>&\"'"),
+      "\xC3\xA4\xC3\xB6\xC3\xBC\xC3\x84\xC3\x96\xC3\x9C\xC3\xA9\xC3\xA8\xC3\xA0&lt;&gt;&amp;&quot;&apos;");
   EXPECT_EQ(Xml_text("ß€ç\x7F"), "\xDF\x80\xE7\x7F");
   EXPECT_EQ(Xml_text(""), "");
-  EXPECT_EQ(App_titel_teil("a--b--c") + "|" + App_untertitel_teil("a--b--c") + "|" + App_untertitel_teil("a-b"),
-            "a|b--c|");
+  EXPECT_EQ(
+      App_titel_teil("a--b--c") + "|" + App_untertitel_teil("a--b--c") + "|" + App_untertitel_teil("a-b"),
+      "a|b--c|");
 }
 
 TEST_F(App, ExportAsksForTheFileAndKeepsTheOldOneOnFailure) {
@@ -281,16 +315,18 @@ TEST_F(App, ExportAsksForTheFileAndKeepsTheOldOneOnFailure) {
   EXPECT_EQ(Dateibytes(ordner / "a.xml"), App_xml_bauen(projekt));
   EXPECT_EQ(f.Label2.titel, "Geschrieben: " + ordner / "a.xml");
   d.erwarte_datei(Dateiwahl{.pfad = ordner / "fehlt/a.xml"});
-  d.erwarte({.text = "Datei oder Ordner nicht gefunden. Die Datei mit diesem Namen ist möglicherweise "
-                     "schreibgeschützt. Speichern Sie sie mit einem anderen Namen oder in einen anderen Ordner.",
+  d.erwarte({.text =
+                 "Datei oder Ordner nicht gefunden. Die Datei mit diesem Namen ist möglicherweise "
+                 "schreibgeschützt. Speichern Sie sie mit einem anderen Namen oder in einen anderen Ordner.",
              .titel = "ZAVlink: Fehler 2",
              .symbol = Symbol::Stopp});
   f.Command1.druecken();
   EXPECT_EQ(f.Label2.titel, "");
   projekt.Datei_version = "900";
   d.erwarte_text(
-      "Wenn Sie die neuen Funktionen von ZAVlink-Version 9.102 nutzen möchten, wählen Sie 'Speichern unter' und den "
-      "Dateityp 910. Achtung: Das Betriebssystem des ZAVmasters muss auf die Version 9 aufgerüstet werden.");
+      "Wenn Sie die neuen Funktionen von ZAVlink-Version 9.102 nutzen möchten, wählen Sie 'Speichern unter' "
+      "und den Dateityp 910. Achtung: Das Betriebssystem des ZAVmasters muss auf die Version 9 aufgerüstet "
+      "werden.");
   EXPECT_FALSE(App_daten_moeglich());
 }
 
@@ -299,11 +335,11 @@ TEST_F(App, ExportAsksForTheFileAndKeepsTheOldOneOnFailure) {
 TEST_F(App, AutomaticFillFindsIconAndFeedback) {
   apparat(0, 0, 14, 5, 1);
   taste(0, 0, 0, "STOREN auf");
-  projekt.Ein_relais(20, 6) = 5;   // blind: no feedback
+  projekt.Ein_relais(20, 6) = 5;  // blind: no feedback
   projekt.Ein_relais(21, 9) = 4;
   projekt.Ein_relais(21, 30) = 2;
   projekt.Ein_dimmer(22, 7, 2) = 60;
-  projekt.Dev_adr[5000] = 30;      // an LED shows it
+  projekt.Dev_adr[5000] = 30;  // an LED shows it
   setzen(20, {{App_rueckmeldung, "17"}, {App_frage1, "bleibt"}, {App_tastentext, "alt"}});
   const App_automatik automatik(projekt);
   for (int j = 0; j < 4; ++j) automatik.fuellen(0, j, projekt.App_eigenschaften.zeile(20 + j));
@@ -418,8 +454,8 @@ TEST_F(App, CamerasAreEditedDeletedAndKeptAsLines) {
     EXPECT_FALSE(f.offen());
   }
   EXPECT_EQ(projekt.Kamera_text[1],
-            "Eingang@01#a@3#b@02#192.168.1.20@03#80@04#80@05#6000@06#panasonic.bb.hcm5xx@07#@08#1@09#31@10#57@11#0@12#"
-            "0@13#0@14#");
+            "Eingang@01#a@3#b@02#192.168.1.20@03#80@04#80@05#6000@06#panasonic.bb.hcm5xx@07#@08#1@09#31@10#"
+            "57@11#0@12#0@13#0@14#");
   EXPECT_EQ(projekt.Kamera_text[0], "X") << "looking at a camera does not define it";
   EXPECT_EQ(sitzung.Projekt_geaendert, 1);
 

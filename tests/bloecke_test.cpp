@@ -184,7 +184,7 @@ TEST(Zeitbloecke, Datentabelle) {
   Block b;
   Datentabelle(p, e.Richt_modus, e.Sowi_datum, b);
   EXPECT_EQ(b.laenge(), 83);
-  EXPECT_EQ(Ab(b, 0, 5), "022622FFFF");            // 26 x 372 + 2 x 31 + 28 = 9762
+  EXPECT_EQ(Ab(b, 0, 5), "022622FFFF");             // 26 x 372 + 2 x 31 + 28 = 9762
   EXPECT_EQ(Ab(b, 39, 2 + 23), "340B" + Null(23));  // 35 x 372 + 9 x 31 + 24 = 13323
   EXPECT_EQ(Ab(b, 64, 1), "05");
   EXPECT_EQ(Ab(b, 65, 6), "0A25E700FFFF");  // 26 x 372 + 31 = 9703
@@ -220,8 +220,8 @@ TEST(Zeitbloecke, Stempel) {
   Projekt p;
   p.Projekt_kennung = "0123456789ABCDEF";
   p.Projekt_name = "C:\\Häuser/Villa Ä€";
-  EXPECT_EQ(Hex(Gepackt(Stempel, p)), "0123456789ABCDEF56696C6C6120C480" + Null(0) + std::string(
-                                          "20202020202020202020202020202020"));
+  EXPECT_EQ(Hex(Gepackt(Stempel, p)),
+            "0123456789ABCDEF56696C6C6120C480" + Null(0) + std::string("20202020202020202020202020202020"));
   p.Projekt_name = "/a/abcdefghijklmnopqrstuvwxyz";
   EXPECT_EQ(Ab(Gepackt(Stempel, p), 8, 30), "6162636465666768696A6B6C6D6E6F707172737475767778");
   for (const char* schlecht : {"", "0123456789ABCDE", "0123456789ABCDEG", "0123456789ABCDEF0"}) {
@@ -252,7 +252,8 @@ void Pruefe_codes(Projekt& p, Matrix& matrix, void (*packer)(const Projekt&, int
       std::vector<u8> soll(laenge);
       for (const int e : ebenen) soll[Ebenenstelle(e, ausgang / 8)] = static_cast<u8>(1U << (ausgang % 8));
       const Block b = Gepackt(packer, p, 1);
-      EXPECT_TRUE(std::ranges::equal(b.bytes(), soll)) << "code " << code << " output " << ausgang << ": " << Hex(b);
+      EXPECT_TRUE(std::ranges::equal(b.bytes(), soll))
+          << "code " << code << " output " << ausgang << ": " << Hex(b);
       matrix(1, ausgang) = 0;
     }
   }
@@ -261,16 +262,24 @@ void Pruefe_codes(Projekt& p, Matrix& matrix, void (*packer)(const Projekt&, int
 TEST(Ereignistabellen, CodesInEbenen) {
   Projekt p;
   Pruefe_codes(p, p.Ein_relais, Relaisseite_eingang, 204,
-               {{1, {1}}, {2, {0}}, {3, {0, 1}}, {4, {2}}, {5, {0, 1}}, {6, {0, 1}}, {7, {0, 1}},
-                {8, {}}, {-1, {}}, {31, {}}, {32767, {}}});
+               {{1, {1}},
+                {2, {0}},
+                {3, {0, 1}},
+                {4, {2}},
+                {5, {0, 1}},
+                {6, {0, 1}},
+                {7, {0, 1}},
+                {8, {}},
+                {-1, {}},
+                {31, {}},
+                {32767, {}}});
   Pruefe_codes(p, p.Tev_relais, Relaisseite_timer, 204,
                {{1, {1}}, {2, {0}}, {3, {0, 1}}, {4, {2}}, {5, {0, 1}}, {6, {0, 1}}, {7, {}}});
   Pruefe_codes(p, p.Uhr_relais, Relaisseite_uhr, 364,
-               {{1, {1}},        {2, {0}},         {3, {0, 1}},     {4, {2}},         {5, {0, 1}},
-                {6, {0, 1}},     {7, {1, 3}},      {8, {0, 3}},     {9, {0, 1, 3}},   {10, {2, 3}},
-                {11, {0, 1, 3}}, {12, {0, 1, 3}},  {13, {1, 4}},    {14, {0, 4}},     {15, {0, 1, 4}},
-                {16, {2, 4}},    {17, {0, 1, 4}},  {18, {0, 1, 4}}, {19, {3}},        {20, {4}},
-                {21, {}}});
+               {{1, {1}},     {2, {0}},     {3, {0, 1}},     {4, {2}},     {5, {0, 1}},     {6, {0, 1}},
+                {7, {1, 3}},  {8, {0, 3}},  {9, {0, 1, 3}},  {10, {2, 3}}, {11, {0, 1, 3}}, {12, {0, 1, 3}},
+                {13, {1, 4}}, {14, {0, 4}}, {15, {0, 1, 4}}, {16, {2, 4}}, {17, {0, 1, 4}}, {18, {0, 1, 4}},
+                {19, {3}},    {20, {4}},    {21, {}}});
 }
 
 TEST(Ereignistabellen, TimerUndSperren) {
@@ -304,17 +313,32 @@ TEST(Ereignistabellen, Dimmerseiten) {
   const auto setzen = [](auto& feld, int e, int d, std::array<int, 4> werte) {
     for (int n = 0; n < 4; ++n) feld(e, d, n) = static_cast<i16>(werte[static_cast<std::size_t>(n)]);
   };
-  for (auto [d, werte] : std::vector<std::pair<int, std::array<int, 4>>>{
-           {0, {1, 17, 1, 15}}, {1, {16, 0, 2, 3}}, {2, {17, 1, 100, 0}}, {3, {0, 16, 0, 8}}, {127, {18, 2, 300, 0}}}) {
+  for (auto [d, werte] : std::vector<std::pair<int, std::array<int, 4>>>{{0, {1, 17, 1, 15}},
+                                                                         {1, {16, 0, 2, 3}},
+                                                                         {2, {17, 1, 100, 0}},
+                                                                         {3, {0, 16, 0, 8}},
+                                                                         {127, {18, 2, 300, 0}}}) {
     setzen(p.Ein_dimmer, 5, d, werte);
     setzen(p.Uhr_dimmer, 5, d, werte);
     setzen(p.Tev_dimmer, 5, d, werte);
   }
   // Bits 0 (up 0), 1 (down 0), 4 (up 2), 5 (down 2); toggle 1 and 2, memory 0 and 3.
-  EXPECT_EQ(Ab(Gepackt(Dimmerseite_eingang, p, 5), 0, 8), "330002" "6401" "F308" "96");
+  EXPECT_EQ(Ab(Gepackt(Dimmerseite_eingang, p, 5), 0, 8),
+            "330002"
+            "6401"
+            "F308"
+            "96");
   EXPECT_EQ(Ab(Gepackt(Dimmerseite_eingang, p, 5), 248, 8), "000101012C000000");
-  EXPECT_EQ(Ab(Gepackt(Dimmerseite_uhr, p, 5), 0, 8), "000002" "6401" "F308" "00");
-  EXPECT_EQ(Ab(Gepackt(Dimmerseite_timer, p, 5), 0, 8), "000002" "6401" "F308" "00");
+  EXPECT_EQ(Ab(Gepackt(Dimmerseite_uhr, p, 5), 0, 8),
+            "000002"
+            "6401"
+            "F308"
+            "00");
+  EXPECT_EQ(Ab(Gepackt(Dimmerseite_timer, p, 5), 0, 8),
+            "000002"
+            "6401"
+            "F308"
+            "00");
 }
 
 TEST(Ereignistabellen, Tastenleds) {
@@ -374,7 +398,7 @@ TEST(Plan, BloeckeFensterUndFortschritt) {
   const auto plan = Plan();
   EXPECT_EQ(Fortschritt_bei(plan[2], 0), (Fortschritt{3, 33}));
   EXPECT_FALSE(Fortschritt_bei(plan[9], 0));
-  EXPECT_EQ(Fortschritt_bei(plan[10], 0)->aktuell, 0);      // 100 / 372
+  EXPECT_EQ(Fortschritt_bei(plan[10], 0)->aktuell, 0);  // 100 / 372
   EXPECT_EQ(Fortschritt_bei(plan[10], 371)->aktuell, 100);
   EXPECT_NEAR(Fortschritt_bei(plan[11], 1022)->gesamt, 22.2 + 0.111 * 99, 1e-9);
   EXPECT_NEAR(Fortschritt_bei(plan[17], 255)->gesamt, 99.9, 1e-9);

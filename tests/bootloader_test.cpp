@@ -1,4 +1,5 @@
-// Replacing the firmware: over a real pseudo-terminal to the simulated bootloader, and over a real device server.
+// Replacing the firmware: over a real pseudo-terminal to the simulated bootloader, and over a real device
+// server.
 #include <fcntl.h>
 #include <gtest/gtest.h>
 #include <signal.h>
@@ -65,12 +66,15 @@ TEST(Srecord, NamesTheFirstFault) {
   for (const auto& [datei, mangel] : {
            Fall{"", "Die Datei enthält keine Daten."},
            Fall{"S9030000FC\r\n", "Die Datei enthält keine Daten."},
-           Fall{gut.substr(0, gut.size() - 12), "Der Schluss-Record fehlt, die Datei ist vielleicht abgeschnitten."},
+           Fall{gut.substr(0, gut.size() - 12),
+                "Der Schluss-Record fehlt, die Datei ist vielleicht abgeschnitten."},
            Fall{gut.substr(0, gut.size() - 15), "Zeile 3 hat eine halbe Stelle."},
            Fall{"S1030000FD\r\n", "Zeile 1 hat eine falsche Prüfsumme."},
            Fall{"S1040000FB\r\n", "Zeile 1 hat eine falsche Länge."},
            Fall{"S1030000FC\r\n\r\nS103000ZFC\r\n", "Zeile 3 enthält ein ungültiges Zeichen."},
-           Fall{"\x7f" "ELF\x01\x02", "Zeile 1 ist kein S-Record."},
+           Fall{"\x7f"
+                "ELF\x01\x02",
+                "Zeile 1 ist kein S-Record."},
            Fall{"S4030000FC\r\n", "Zeile 1 ist kein S-Record."},
            Fall{gut + "S1030000FC\r\n", "Zeile 5 steht hinter dem Schluss-Record."},
        }) {
@@ -133,9 +137,9 @@ class Update : public ::testing::Test {
   }
   void Erwarte_ganzes_update(Bootloader& f, int saetze) {
     EXPECT_EQ(Schritte(f),
-              "1. Datei auswählen|2. Jetzt bitte ZAVmaster aus-/einschalten|3. Betriebssystem im ZAVmaster wird gelöscht|"
-              "4. ZAVmaster wird vorbereitet zum Update|5. ZAVmaster update läuft...|"
-              "6. Update erfolgreich, ZAVmaster wird neu gestartet|");
+              "1. Datei auswählen|2. Jetzt bitte ZAVmaster aus-/einschalten|3. Betriebssystem im ZAVmaster "
+              "wird gelöscht|4. ZAVmaster wird vorbereitet zum Update|5. ZAVmaster update läuft...|6. Update "
+              "erfolgreich, ZAVmaster wird neu gestartet|");
     EXPECT_TRUE(sim->firmware().gueltig);
     EXPECT_EQ(sim->firmware().falsche, 0U);
     EXPECT_EQ(sim->firmware().bytes, static_cast<std::size_t>(16 * saetze));
@@ -143,8 +147,8 @@ class Update : public ::testing::Test {
     EXPECT_EQ(f.ProgressBar1.wert, 15.0);
     EXPECT_TRUE(f.Command8.frei);
     const std::string& log = f.Text1.text();
-    for (const char* zeile : {"Ablauf-Info\r\n---\r\n", "*: Quit Bootloader and start ZAVmaster-1024\r\n", "ZAVmaster auf Empfang setzen\r\n",
-                              "Datenübertragung fertig\r\n"}) {
+    for (const char* zeile : {"Ablauf-Info\r\n---\r\n", "*: Quit Bootloader and start ZAVmaster-1024\r\n",
+                              "ZAVmaster auf Empfang setzen\r\n", "Datenübertragung fertig\r\n"}) {
       EXPECT_NE(log.find(zeile), std::string::npos) << zeile;
     }
     EXPECT_NE(log.find(" records, 0 bad"), std::string::npos) << log;
@@ -157,7 +161,8 @@ class Update : public ::testing::Test {
 
 TEST_F(Update, OverComInSixSteps) {
   Master();
-  einstellungen.Com_art = 1;  // the running master is reached over the network: the update takes COM all the same
+  einstellungen.Com_art =
+      1;  // the running master is reached over the network: the update takes COM all the same
   Com_art_setzen();
   Bootloader f;
   d.erwarte_datei(Dateiwahl{.pfad = Datei(Firmwaredatei(200))});
@@ -179,12 +184,14 @@ TEST_F(Update, RefusesANameWarnsOfAContentAndCanBeLeftWhileTheMasterIsSilent) {
   d.erwarte({.text = "Ungültige Update-Datei ZAVMASTER_"});
   f.Command9.druecken();
 
-  const Meldung warnung{.text = "Das ist keine einwandfreie Update-Datei: Zeile 1 ist kein S-Record.\r\n\r\nDas Betriebssystem im "
-                                "ZAVmaster wird trotzdem gelöscht, wenn Sie fortfahren. Fortfahren?",
-                        .titel = "Update-Assistent",
-                        .knoepfe = Knoepfe::Ja_Nein,
-                        .symbol = Symbol::Warnung,
-                        .standard = 2};
+  const Meldung warnung{
+      .text =
+          "Das ist keine einwandfreie Update-Datei: Zeile 1 ist kein S-Record.\r\n\r\nDas Betriebssystem im "
+          "ZAVmaster wird trotzdem gelöscht, wenn Sie fortfahren. Fortfahren?",
+      .titel = "Update-Assistent",
+      .knoepfe = Knoepfe::Ja_Nein,
+      .symbol = Symbol::Warnung,
+      .standard = 2};
   const std::string pfad = Datei("<html>");
   d.erwarte_datei(Dateiwahl{.pfad = pfad});
   d.erwarte(warnung, Antwort::Nein);
@@ -216,10 +223,10 @@ TEST_F(Update, LineThatBreaksDownWhileWaitingEndsTheRun) {
   EXPECT_TRUE(f.offen());
 }
 
-// ---- device server ----------------------------------------------------------------------------------------------------
+// ---- device server ----------------------------------------------------------------------------------------
 
-// A real device server in front of a pseudo-terminal, on a loopback address of this process's own: its TCP port is
-// fixed, and several tests may run at once.
+// A real device server in front of a pseudo-terminal, on a loopback address of this process's own: its TCP
+// port is fixed, and several tests may run at once.
 class Geraeteserver {
  public:
   Geraeteserver(const Testordner& ordner, const std::string& geraet) {
@@ -228,8 +235,7 @@ class Geraeteserver {
               std::to_string(pid % 254 + 1);
     const std::string datei = ordner / "ser2net.yaml";
     Datei_anlegen(datei, "%YAML 1.1\n---\nconnection: &zav\n  accepter: telnet(rfc2217),tcp," + adresse +
-                             ",4001\n  connector: serialdev(nouucplock=true)," + geraet +
-                             ",9600n71,local\n");
+                             ",4001\n  connector: serialdev(nouucplock=true)," + geraet + ",9600n71,local\n");
     prozess_ = fork();
     if (prozess_ == 0) {
       execlp("ser2net", "ser2net", "-n", "-c", datei.c_str(), nullptr);
@@ -275,7 +281,8 @@ TEST_F(Update, OverADeviceServerInSixSteps) {
   d.erwarte(neustartmeldung);
   f.Command10.druecken();
   Erwarte_ganzes_update(f, 200);
-  EXPECT_NE(f.Text1.text().find(std::to_string(inhalt.size()) + " Zeichen übermittelt\r\n"), std::string::npos);
+  EXPECT_NE(f.Text1.text().find(std::to_string(inhalt.size()) + " Zeichen übermittelt\r\n"),
+            std::string::npos);
 }
 
 TEST_F(Update, DeviceServerPassesEveryByteAndTakesTheLineSettings) {
@@ -322,7 +329,9 @@ TEST_F(Update, NoDeviceServerIsToldAndNothingStarts) {
   const std::string pfad = Datei(Firmwaredatei(1));
   Bootloader f;
   d.erwarte_datei(Dateiwahl{.pfad = pfad});
-  d.erwarte({.text = "Serial Device Server nicht gefunden, muss im lokalen Netzwerk sein, über DynDNS nicht möglich!"});
+  d.erwarte(
+      {.text =
+           "Serial Device Server nicht gefunden, muss im lokalen Netzwerk sein, über DynDNS nicht möglich!"});
   f.Command10.druecken();
   EXPECT_EQ(Schritte(f), "1. Datei auswählen|2.|3.|4.|5.|6.|");
 }

@@ -1,5 +1,5 @@
-// Radio senders and receivers: the definition dialog, what marks a receiver, its tables, and programming it over a
-// real line.
+// Radio senders and receivers: the definition dialog, what marks a receiver, its tables, and programming it
+// over a real line.
 #include <gtest/gtest.h>
 
 #include "enocean/enocean_definition.h"
@@ -52,7 +52,8 @@ class Enocean : public ::testing::Test {
     EXPECT_TRUE(f.offen()) << text;
   }
   static Meldung warnung(const std::string& text) {
-    return {.text = text, .titel = "Warnung", .knoepfe = Knoepfe::Ja_Nein_Abbrechen, .symbol = Symbol::Warnung};
+    return {
+        .text = text, .titel = "Warnung", .knoepfe = Knoepfe::Ja_Nein_Abbrechen, .symbol = Symbol::Warnung};
   }
 
   Drehbuch d;
@@ -97,7 +98,8 @@ TEST_F(Enocean, ChangedIdAndMovedReceiverAsk) {
   Enocean_Definition f(3);
   f.ID_Text.eingeben("BBBBBBBB");
   const Meldung andere = warnung(
-      "Wenn Sie diese ID ändern, müssen Sie auch den entsprechenden Sender ersetzen. Soll diese ID geändert werden?");
+      "Wenn Sie diese ID ändern, müssen Sie auch den entsprechenden Sender ersetzen. Soll diese ID geändert "
+      "werden?");
   const Meldung schieben = warnung(
       "Diese ID existiert zur Zeit im Empfänger 4. Soll diese auf den neuen Empfänger 7 verschoben werden?");
   d.erwarte(andere, Antwort::Nein);
@@ -118,8 +120,8 @@ TEST_F(Enocean, ChangedIdAndMovedReceiverAsk) {
   // The own place counts as a place that holds the ID; nothing of it is lost by a No.
   Enocean_Definition g(3);
   g.Option1.waehlen(1);
-  d.erwarte(warnung("Diese ID existiert zur Zeit im Empfänger 7. Soll diese auf den neuen Empfänger 1 verschoben "
-                    "werden?"),
+  d.erwarte(warnung("Diese ID existiert zur Zeit im Empfänger 7. Soll diese auf den neuen Empfänger 1 "
+                    "verschoben werden?"),
             Antwort::Nein);
   g.Command1.druecken();
   EXPECT_EQ(projekt.App_enocean_id[3], "BBBBBBBB");
@@ -147,9 +149,9 @@ TEST_F(Enocean, ReconcilingFlagsReceiversThatChanged) {
   for (const int d_ : {0, 1, 2, 3, 4}) sender(d_, "AAAAAAAA", d_, d_);
   projekt.App_enocean_empf[4] = 99;  // of a damaged file
   Enocean_schatten_nehmen();
-  projekt.App_text[0] = "77";            // another address
-  projekt.App_enocean_empf[1] = 12;      // moved
-  projekt.App_enocean_empf[2] = 255;     // gone
+  projekt.App_text[0] = "77";         // another address
+  projekt.App_enocean_empf[1] = 12;   // moved
+  projekt.App_enocean_empf[2] = 255;  // gone
   projekt.App_enocean_id[4] = "BBBBBBBB";
   Enocean_abgleichen();
   std::string geaendert;
@@ -313,8 +315,9 @@ TEST_F(Enocean, FailureLeavesTheFlagsOfWhatIsNotChecked) {
     f.Check1.haken(true);
     f.Command1.druecken();
     EXPECT_EQ(d.maengel(), "") << fall.regel;
-    EXPECT_EQ(std::to_string(projekt.Enocean_empf_geaendert[0]) + std::to_string(projekt.Enocean_empf_geaendert[9]),
-              fall.geaendert)
+    EXPECT_EQ(
+        std::to_string(projekt.Enocean_empf_geaendert[0]) + std::to_string(projekt.Enocean_empf_geaendert[9]),
+        fall.geaendert)
         << fall.regel;
     EXPECT_TRUE(f.Command1.frei);
   }

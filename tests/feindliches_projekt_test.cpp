@@ -1,5 +1,5 @@
-// A project file can hold any number where an address, a type or a time belongs. What is made of such a project may
-// be wrong, but nothing stops: neither a transfer nor any window.
+// A project file can hold any number where an address, a type or a time belongs. What is made of such a
+// project may be wrong, but nothing stops: neither a transfer nor any window.
 #include <gtest/gtest.h>
 
 #include <random>
@@ -30,14 +30,16 @@ namespace {
 
 // Numbers just beside and far beyond every limit.
 i16 Boese_zahl(std::mt19937& zufall) {
-  static constexpr int zahlen[] = {-32768, -640, -2,  -1,  0,   1,   2,   3,   15,   16,   17,   20,   21,   47,  48,
-                                   63,     64,   127, 128, 255, 256, 511, 512, 639, 640, 1023, 1024, 4095, 4096, 32767};
+  static constexpr int zahlen[] = {-32768, -640, -2,  -1,  0,   1,    2,    3,    15,   16,
+                                   17,     20,   21,  47,  48,  63,   64,   127,  128,  255,
+                                   256,    511,  512, 639, 640, 1023, 1024, 4095, 4096, 32767};
   return static_cast<i16>(zahlen[zufall() % std::size(zahlen)]);
 }
 str Boeser_text(std::mt19937& zufall) {
-  static const str texte[] = {"",         "0",        "-1",        "1",          "256",       "99999999999", "640",
-                              "24.00.00", "99:99:99", "31.02.20",  "00.00.00",   "\x1b[2J",   "Untergang + Zufall",
-                              "ä",        "12",       "6.6.",      "29.02.2027", "FFFFFFFF",  "Zeit + Zufall"};
+  static const str texte[] = {
+      "",         "0",        "-1",         "1",        "256",          "99999999999",        "640",
+      "24.00.00", "99:99:99", "31.02.20",   "00.00.00", "\x1b[2J",      "Untergang + Zufall", "ä",
+      "12",       "6.6.",     "29.02.2027", "FFFFFFFF", "Zeit + Zufall"};
   return zufall() % 40 == 0 ? str(5000, 'x') : texte[zufall() % std::size(texte)];
 }
 

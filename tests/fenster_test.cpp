@@ -1,5 +1,5 @@
-// The window program without a screen: every form as a window, and stories through real widgets, as a person clicks and
-// types them.
+// The window program without a screen: every form as a window, and stories through real widgets, as a person
+// clicks and types them.
 #include <gtest/gtest.h>
 #include <unistd.h>
 
@@ -69,8 +69,7 @@ class Fenster : public testing::Test {
   fs::path ordner_;
 };
 
-// ---- every form
-// -----------------------------------------------------------------------------------------------------
+// ---- every form -------------------------------------------------------------------------------------------
 
 QWidget* Widget_von(const Formfenster& f, const Steuerelement& e) {
   const auto w = f.gebautes().widgets.find(&e);
@@ -93,7 +92,8 @@ TEST_F(Alle_fenster, ZeigenJedesElementGenauEinmalUndPassenAufEinenKleinenSchirm
     Formfenster fenster(*form, nullptr);
     EXPECT_EQ(Platzierte(form->anordnung()).size(), form->elemente().size());
     for (const Steuerelement* e : form->elemente()) {
-      const bool da = Widget_von(fenster, *e) != nullptr || fenster.findChild<QAction*>(Q(e->name())) != nullptr;
+      const bool da =
+          Widget_von(fenster, *e) != nullptr || fenster.findChild<QAction*>(Q(e->name())) != nullptr;
       EXPECT_TRUE(da) << e->name();
     }
     fenster.show();
@@ -102,7 +102,8 @@ TEST_F(Alle_fenster, ZeigenJedesElementGenauEinmalUndPassenAufEinenKleinenSchirm
     EXPECT_LE(fenster.width(), 1366);
     for (const auto& [element, widget] : fenster.gebautes().widgets) {
       if (!widget->isVisible() || widget->focusPolicy() == Qt::NoFocus) continue;
-      EXPECT_FALSE(widget->accessibleName().isEmpty() && element->titel->empty() && !widget->inherits("QToolButton"))
+      EXPECT_FALSE(widget->accessibleName().isEmpty() && element->titel->empty() &&
+                   !widget->inherits("QToolButton"))
           << element->name() << " has no name to be read aloud";
     }
   }
@@ -163,15 +164,15 @@ TEST_F(Alle_fenster, WerteGehenHinUndHer) {
       if (e->art == Art::Textfeld && *e->frei) {
         static_cast<Textfeld*>(e)->setzen("Probe");
         fenster.nachholen();
-        EXPECT_EQ(*Gezeigt(*w), Gehalten(*e)) << e->name() << " after the program's change, before " << S(vorher);
+        EXPECT_EQ(*Gezeigt(*w), Gehalten(*e))
+            << e->name() << " after the program's change, before " << S(vorher);
       }
     }
   }
   EXPECT_GT(bedient, 300);
 }
 
-// ---- stories
-// --------------------------------------------------------------------------------------------------------
+// ---- stories ----------------------------------------------------------------------------------------------
 
 // What a person does in the windows and boxes that open next, in order. A step waits for its window.
 class Schritte final : public QObject {
@@ -183,14 +184,14 @@ class Schritte final : public QObject {
   // A box with this text, answered by the key of that caption.
   void antworten(const QString& text, const QString& knopf) {
     offen_.push_back({"", [text, knopf](QWidget& w) {
-      auto& kasten = static_cast<QMessageBox&>(w);
-      EXPECT_EQ(kasten.text(), text);
-      for (QAbstractButton* const k : kasten.buttons()) {
-        if (k->text().remove('&') == knopf) return k->click();
-      }
-      ADD_FAILURE() << "no key " << S(knopf);
-      kasten.reject();
-    }});
+                        auto& kasten = static_cast<QMessageBox&>(w);
+                        EXPECT_EQ(kasten.text(), text);
+                        for (QAbstractButton* const k : kasten.buttons()) {
+                          if (k->text().remove('&') == knopf) return k->click();
+                        }
+                        ADD_FAILURE() << "no key " << S(knopf);
+                        kasten.reject();
+                      }});
   }
   bool fertig() const { return offen_.empty(); }
 
@@ -199,8 +200,8 @@ class Schritte final : public QObject {
     QString fenster;  // "" = a box
     std::function<void(QWidget&)> tat;
   };
-  // A step may open a window and come back only when that has closed: the next look is ordered before it begins, by
-  // a timer of its own.
+  // A step may open a window and come back only when that has closed: the next look is ordered before it
+  // begins, by a timer of its own.
   void bestellen() {
     QTimer::singleShot(5, this, [this] { versuchen(); });
   }
@@ -232,7 +233,9 @@ W& Teil(Formfenster& f, const std::string& name) {
   EXPECT_TRUE(w->isVisible() && w->isEnabled()) << name << " cannot be used";
   return *w;
 }
-void Klick(Formfenster& f, const std::string& name) { QTest::mouseClick(&Teil<QPushButton>(f, name), Qt::LeftButton); }
+void Klick(Formfenster& f, const std::string& name) {
+  QTest::mouseClick(&Teil<QPushButton>(f, name), Qt::LeftButton);
+}
 void Waehlen(Formfenster& f, const std::string& name, const QString& text) {
   auto& liste = Teil<QComboBox>(f, name);
   const int i = liste.findText(text);
@@ -271,7 +274,9 @@ TEST_F(Geschichte, FunktionVergebenSpeichernSendenTasteDruecken) {
   master.start();
   // The master knows this project already.
   simulator::Bytes kennung;
-  for (std::size_t i = 0; i < 16; i += 2) kennung.push_back(static_cast<std::uint8_t>(std::stoi(projekt.Projekt_kennung.substr(i, 2), nullptr, 16)));
+  for (std::size_t i = 0; i < 16; i += 2)
+    kennung.push_back(
+        static_cast<std::uint8_t>(std::stoi(projekt.Projekt_kennung.substr(i, 2), nullptr, 16)));
   master.speicher_setzen(0x800, kennung);
   einstellungen.Com_art = 1;
   einstellungen.Host_name = einstellungen.Host_ip = "127.0.0.1";
@@ -308,8 +313,8 @@ TEST_F(Geschichte, FunktionVergebenSpeichernSendenTasteDruecken) {
       Klick(f, "Cancel");
     });
     schritte.antworten(
-        "Im ZAVmaster einen Neustart durchführen? 'Ja', wenn Schaltzeiten und Timer aktualisiert werden sollen. 'Nein', wenn nur "
-        "Ausgangsverknüpfungen geändert wurden.",
+        "Im ZAVmaster einen Neustart durchführen? 'Ja', wenn Schaltzeiten und Timer aktualisiert werden "
+        "sollen. 'Nein', wenn nur Ausgangsverknüpfungen geändert wurden.",
         "Nein");
     // The house has radio senders that were never programmed.
     schritte.in_fenster("Enocean_Send", [](Formfenster& f) { Klick(f, "Command5"); });
@@ -360,7 +365,8 @@ TEST_F(Geschichte, ApparatSetzenUndAdresseGeben) {
   schritte.in_fenster("Dialog_Kombination", [](Formfenster& f) {
     QWidget& karte = *f.gebautes().widgets.at(f.formular().element("Zellen"));
     // Cell 200: row 12, column 8.
-    const QPoint mitte(static_cast<int>((8 + 0.5) * karte.width() / 16), static_cast<int>((12 + 0.5) * karte.height() / 16));
+    const QPoint mitte(static_cast<int>((8 + 0.5) * karte.width() / 16),
+                       static_cast<int>((12 + 0.5) * karte.height() / 16));
     QTest::mouseClick(&karte, Qt::LeftButton, {}, mitte);
   });
   schritte.in_fenster("Einmask8", [](Formfenster& f) { QTest::keyClick(&f, Qt::Key_Escape); });

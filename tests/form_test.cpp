@@ -20,7 +20,8 @@ class Muster final : public Formular {
     Combo1[0].fuellen({"a", "b"});
     Combo1[0].wenn_geaendert = [this] { Combo1[1].sichtbar = Combo1[0].position() == 1; };
     OK.wenn_gedrueckt = [this] {
-      if (Fragen({.text = "Wirklich?", .titel = "Frage", .knoepfe = Knoepfe::Ja_Nein, .standard = 2})) schliessen();
+      if (Fragen({.text = "Wirklich?", .titel = "Frage", .knoepfe = Knoepfe::Ja_Nein, .standard = 2}))
+        schliessen();
     };
     Cancel.wenn_gedrueckt = [this] { schliessen(); };
   }

@@ -1,6 +1,6 @@
 // Every call fails once, and the process dies after every call: saving a project and the settings, with each
-// call to the file system in turn refused, and with the program killed before and after it. On the disk stands
-// the old file or the new one, whole.
+// call to the file system in turn refused, and with the program killed before and after it. On the disk
+// stands the old file or the new one, whole.
 #include <gtest/gtest.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -170,7 +170,8 @@ Zustaende Gut_gespeichert(const Sicherung& s, const Testordner& o, bool gab_es) 
   return z;
 }
 
-void Pruefen(const Sicherung& s, const std::function<void(const Testordner&, const Zustaende&, bool gab_es)>& f) {
+void Pruefen(const Sicherung& s,
+             const std::function<void(const Testordner&, const Zustaende&, bool gab_es)>& f) {
   for (const bool gab_es : {true, false}) {
     SCOPED_TRACE(std::string(s.name) + (gab_es ? " replaced" : " made new"));
     const Testordner o;

@@ -1,7 +1,7 @@
-// Every exchange fails once: whole transfers, erases, clock settings and radio receivers at the simulated master, over a real
-// socket and a real pseudo-terminal, with each fault put on each message in turn. After a fault stands the box
-// of its rule, what has gone is no longer flagged and everything else still is, and a second run brings the
-// master's memory to the image of the project.
+// Every exchange fails once: whole transfers, erases, clock settings and radio receivers at the simulated
+// master, over a real socket and a real pseudo-terminal, with each fault put on each message in turn. After a
+// fault stands the box of its rule, what has gone is no longer flagged and everything else still is, and a
+// second run brings the master's memory to the image of the project.
 #include <gtest/gtest.h>
 #include <netinet/in.h>
 #include <sys/socket.h>
@@ -256,7 +256,8 @@ class Jeder_austausch : public ::testing::TestWithParam<Verbindung> {
   }
 
   // The rule: what the tool makes of a fault on the exchange with index k of a transfer.
-  static Folge Erwartet(const std::vector<std::string>& ablauf, std::size_t k, const std::string& art, int mal) {
+  static Folge Erwartet(const std::vector<std::string>& ablauf, std::size_t k, const std::string& art,
+                        int mal) {
     const auto befehl = [&](std::size_t i) { return i < ablauf.size() ? ablauf[i][0] : ' '; };
     const bool daten = befehl(k) == 'V' || befehl(k) == 'R';
     const Folge heil{.bis = ablauf.size()};
@@ -280,8 +281,10 @@ class Jeder_austausch : public ::testing::TestWithParam<Verbindung> {
     return befehl(k) == 'R' ? fremd : Folge{Sendeergebnis::gescheitert, unsinn, k};
   }
 
-  void Transfer_pruefen(const std::vector<std::string>& ablauf, std::size_t k, const std::string& art, int mal = 1) {
-    SCOPED_TRACE(art + " x" + std::to_string(mal) + " at " + std::to_string(k + 1) + " " + ablauf[k].substr(0, 13));
+  void Transfer_pruefen(const std::vector<std::string>& ablauf, std::size_t k, const std::string& art,
+                        int mal = 1) {
+    SCOPED_TRACE(art + " x" + std::to_string(mal) + " at " + std::to_string(k + 1) + " " +
+                 ablauf[k].substr(0, 13));
     Master_unberuehrt();
     u.Nach_initialisierung = 0;
     const Folge soll = Erwartet(ablauf, k, art, mal);
@@ -324,7 +327,8 @@ TEST_P(Jeder_austausch, DerUebertragung) {
   ASSERT_EQ(ablauf.size(), 39U);
   for (std::size_t k = 0; k < ablauf.size(); ++k) {
     // All kinds on the network; on the serial line those that differ there, and one of the others by turns.
-    static constexpr const char* arten[] = {"stumm", "trenn", "F07", "muell", "lang", "F05", "kurz", "verloren"};
+    static constexpr const char* arten[] = {"stumm", "trenn", "F07",  "muell",
+                                            "lang",  "F05",   "kurz", "verloren"};
     for (std::size_t i = 0; i < std::size(arten); ++i) {
       const bool dran = i < 3 || i % 5 == k % 5 || (i < 7 && GetParam() == Verbindung::tcp);
       if (dran) Transfer_pruefen(ablauf, k, arten[i]);
@@ -382,7 +386,8 @@ TEST_P(Jeder_austausch, DesLoeschens) {
   std::ranges::fill(alles.grp.alle(), i16{1});
   alles.tabelle = 1;
   for (const std::size_t k : {0U, 1U}) {
-    for (const std::string art : {"stumm", "verloren", "kurz", "lang", "muell", "trenn", "F01", "F07", "F99"}) {
+    for (const std::string art :
+         {"stumm", "verloren", "kurz", "lang", "muell", "trenn", "F01", "F07", "F99"}) {
       SCOPED_TRACE(art + " at " + (k == 0 ? "V" : "EI"));
       Master_unberuehrt();
       u.Nach_initialisierung = 0;
@@ -459,10 +464,10 @@ TEST_P(Jeder_austausch, DerUhr) {
         SCOPED_TRACE(art + " x" + std::to_string(mal) + " at " + ablauf[k].substr(0, 1));
         sim.speicher_setzen(0x362000, simulator::Bytes(41, 0xEE));
         const bool heil = (art == "F07" && mal < 10) || (art == "lang" && k == 3);
-        const std::string box = heil                                 ? uhrfrage
-                                : Verstummt(art)                     ? keine_antwort
+        const std::string box = heil                              ? uhrfrage
+                                : Verstummt(art)                  ? keine_antwort
                                 : art == "lang" || art == "muell" ? unsinn
-                                                                     : std::string(Uebertragungstext(art));
+                                                                  : std::string(Uebertragungstext(art));
         EXPECT_EQ(Mit_fehler(art, k + 1, mal, Verstummt(art), stellen), heil);
         EXPECT_EQ(b.boxen, std::vector{box});
         EXPECT_TRUE(Ohne_fehler(stellen));
@@ -493,10 +498,12 @@ TEST_P(Jeder_austausch, DesFunkempfaengers) {
   vormerken(true);
   const auto ablauf = Ablauf(programmieren);
   ASSERT_EQ(ablauf.size(), 89U);  // 4 x 18 to write, one to take up, 4 x 4 to check
-  static constexpr const char* arten[] = {"stumm", "muell", "F80", "trenn", "lang", "F07", "kurz", "verloren"};
+  static constexpr const char* arten[] = {"stumm", "muell", "F80",  "trenn",
+                                          "lang",  "F07",   "kurz", "verloren"};
   for (std::size_t k = 0; k < ablauf.size(); ++k) {
     for (const std::string art : {arten[k % 8], arten[(k + 3) % 8]}) {
-      if (GetParam() == Verbindung::com && art == arten[(k + 3) % 8]) continue;  // each exchange opens the port anew
+      if (GetParam() == Verbindung::com && art == arten[(k + 3) % 8])
+        continue;  // each exchange opens the port anew
       SCOPED_TRACE(art + " at " + std::to_string(k + 1) + " " + ablauf[k]);
       vormerken(true);
       const bool zahlen = ablauf[k] == "x";
@@ -509,7 +516,8 @@ TEST_P(Jeder_austausch, DesFunkempfaengers) {
                                         : Enocean_ergebnis::gescheitert);
       EXPECT_EQ(projekt.Enocean_empf_geaendert[r], !heil && !verfaelscht);
       ASSERT_FALSE(b.boxen.empty());
-      EXPECT_TRUE(heil || verfaelscht || b.boxen.back().ends_with(" bei der Kommunikation.")) << b.boxen.back();
+      EXPECT_TRUE(heil || verfaelscht || b.boxen.back().ends_with(" bei der Kommunikation."))
+          << b.boxen.back();
 
       vormerken(true);
       EXPECT_EQ(Ohne_fehler(programmieren), Enocean_ergebnis::aktualisiert);

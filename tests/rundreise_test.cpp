@@ -1,5 +1,5 @@
-// Reading, saving and reading again: what an old generation brings into the store is what its saved file brings
-// back, cell by cell; and a file of a present generation comes back byte by byte, whatever its shape.
+// Reading, saving and reading again: what an old generation brings into the store is what its saved file
+// brings back, cell by cell; and a file of a present generation comes back byte by byte, whatever its shape.
 #include <gtest/gtest.h>
 
 #include <random>
@@ -57,7 +57,9 @@ TEST(Rundreise, FilesOfEveryShapeComeBackByteByByte) {
   const Setzen formen[] = {
       [](Projekt&, const str&) {},
       [](Projekt& p, const str& t) { p.Notizen = t + "\r\n" + t; },
-      [](Projekt& p, const str& t) { p.Grp_text[255] = p.Ein_text[0] = p.Relais_text[511] = p.Dimmer_text[127] = t; },
+      [](Projekt& p, const str& t) {
+        p.Grp_text[255] = p.Ein_text[0] = p.Relais_text[511] = p.Dimmer_text[127] = t;
+      },
       [](Projekt& p, const str&) { p.Ein_leer[0] = 1, p.Ein_dimmer(0, 127, 3) = -1; },
       [](Projekt& p, const str&) { p.Ein_leer[1023] = 1, p.Ein_timer(1023, 15) = 4; },
       [](Projekt& p, const str& t) { p.Uhr_leer[255] = 1, p.Uhr_relais(255, 511) = 20, p.Uhr_text[255] = t; },

@@ -54,7 +54,8 @@ class Shell : public ::testing::Test {
     Zeitraffer_setzen(1);
   }
   // A project of that generation in a file; its path without extension.
-  std::string Anlegen(const std::string& name, const std::string& version = "910", const std::string& notiz = "") {
+  std::string Anlegen(const std::string& name, const std::string& version = "910",
+                      const std::string& notiz = "") {
     Projekt p;
     p.Datei_version = version;
     p.Projekt_kennung = "0123456789ABCDEF";
@@ -76,8 +77,8 @@ class Shell : public ::testing::Test {
     return *haupt_;
   }
   void Ungespeichert_frage(Antwort a) {
-    d.erwarte({.text = "Es existieren möglicherweise ungespeicherte Projektdaten!\r\n\r\nMöchten Sie das aktuelle Projekt noch "
-                       "speichern?\r\n\r\n",
+    d.erwarte({.text = "Es existieren möglicherweise ungespeicherte Projektdaten!\r\n\r\nMöchten Sie das "
+                       "aktuelle Projekt noch speichern?\r\n\r\n",
                .titel = "Noch speichern?",
                .knoepfe = Knoepfe::Ja_Nein_Abbrechen,
                .symbol = Symbol::Warnung},
@@ -89,7 +90,7 @@ class Shell : public ::testing::Test {
   std::unique_ptr<Haupt> haupt_;
 };
 
-// ---- session ----------------------------------------------------------------------------------------------------------
+// ---- session ----------------------------------------------------------------------------------------------
 
 TEST_F(Shell, FirstStartHasNothingToOfferAndTheSecondWhatWasSaved) {
   d.erwarte_dialog<Gruss>([](Gruss& g) {
@@ -133,13 +134,15 @@ TEST_F(Shell, FirstStartHasNothingToOfferAndTheSecondWhatWasSaved) {
 }
 
 TEST_F(Shell, EndOfProgramAsksTwiceAboutUnsavedData) {
-  const Meldung erste{.text = "Es existieren ungespeicherte Projektdaten! Speichern?\r\n\r\nMit 'Ja' gelangen Sie zurück ins "
-                              "Hauptmenu und können die Datei wie gewohnt speichern.\r\n\r\n",
+  const Meldung erste{.text =
+                          "Es existieren ungespeicherte Projektdaten! Speichern?\r\n\r\nMit 'Ja' gelangen "
+                          "Sie zurück ins Hauptmenu und können die Datei wie gewohnt speichern.\r\n\r\n",
                       .titel = "ZAV-Datei",
                       .knoepfe = Knoepfe::Ja_Nein_Abbrechen,
                       .symbol = Symbol::Warnung};
-  const Meldung zweite{.text = "Wirklich nicht speichern? Mit 'Ja' gelangen Sie zurück ins Hauptmenu und können die Datei wie "
-                               "gewohnt speichern.",
+  const Meldung zweite{.text =
+                           "Wirklich nicht speichern? Mit 'Ja' gelangen Sie zurück ins Hauptmenu und können "
+                           "die Datei wie gewohnt speichern.",
                        .knoepfe = Knoepfe::Ja_Nein,
                        .symbol = Symbol::Stopp};
   haupt().Notizen.eingeben("neu");
@@ -164,7 +167,7 @@ TEST_F(Shell, EndOfProgramAsksTwiceAboutUnsavedData) {
   EXPECT_EQ(einstellungen.Host_ip, "haus.example");
 }
 
-// ---- files --------------------------------------------------------------------------------------------------------------
+// ---- files ------------------------------------------------------------------------------------------------
 
 TEST_F(Shell, OpenKeepsTheProjectOnCancelAndShowsTheWriteProtection) {
   einstellungen.Standard_ordner = ordner.pfad();
@@ -175,14 +178,15 @@ TEST_F(Shell, OpenKeepsTheProjectOnCancelAndShowsTheWriteProtection) {
   });
   EXPECT_TRUE(d.dateifragen()[0].schreibschutz_waehlbar);
   EXPECT_EQ(d.dateifragen()[0].ordner, ordner.pfad());
-  EXPECT_EQ(d.dateifragen()[0].filter, (std::vector<Dateifilter>{{"ZAVnet (*.zav)", "*.zav"}, {"Alles (*.*)", "*.*"}}));
+  EXPECT_EQ(d.dateifragen()[0].filter,
+            (std::vector<Dateifilter>{{"ZAVnet (*.zav)", "*.zav"}, {"Alles (*.*)", "*.*"}}));
   EXPECT_EQ(haupt().titel(), "ZAVlink Hauptmenu  -  " + a + ".zav (Schreibgeschützt)");
   EXPECT_EQ(haupt().Notizen.text(), "aus a");
 
   haupt().Notizen.eingeben("geändert");
   Dateimenue([&](Datei& f) {
-    d.erwarte({.text = "Diese Datei ist schreibgeschützt. Bitte speichern Sie sie unter anderem Namen mit 'Projekt speichern "
-                       "unter...'."});
+    d.erwarte({.text = "Diese Datei ist schreibgeschützt. Bitte speichern Sie sie unter anderem Namen mit "
+                       "'Projekt speichern unter...'."});
     f.Command3.druecken();
     EXPECT_TRUE(f.offen());
     // The question comes back as long as the save is cancelled; cancelling it ends the command.
@@ -209,15 +213,19 @@ TEST_F(Shell, OpenKeepsTheProjectOnCancelAndShowsTheWriteProtection) {
 
 TEST_F(Shell, SaveAsChoosesTheGenerationAndSaveAsksForAMissingName) {
   Dateimenue([&](Datei& f) {
-    d.erwarte_text("Der Speicherort ist unvollständig. Speichern Sie diese Datei bitte mit 'Projekt speichern unter...'.");
+    d.erwarte_text(
+        "Der Speicherort ist unvollständig. Speichern Sie diese Datei bitte mit 'Projekt speichern "
+        "unter...'.");
     d.erwarte_datei(Dateiwahl{.pfad = ordner / "c.zav", .filter_nr = 2});
     f.Command3.druecken();
   });
   EXPECT_EQ(Gelesen("c")->Datei_version, "800");
   Dateimenue([&](Datei& f) {
     EXPECT_EQ(f.Label1.titel, "Generation 800");
-    d.erwarte_text("Wenn Sie die neuen Funktionen von ZAVlink-Version 9.102 nutzen möchten, wählen Sie 'Speichern unter' und den "
-                   "Dateityp 910. Achtung: Das Betriebssystem des ZAVmasters muss auf die Version 9 aufgerüstet werden.");
+    d.erwarte_text(
+        "Wenn Sie die neuen Funktionen von ZAVlink-Version 9.102 nutzen möchten, wählen Sie 'Speichern "
+        "unter' und den Dateityp 910. Achtung: Das Betriebssystem des ZAVmasters muss auf die Version 9 "
+        "aufgerüstet werden.");
     f.Command4.druecken();
     EXPECT_TRUE(f.offen());
     d.erwarte_datei(std::nullopt);
@@ -228,8 +236,9 @@ TEST_F(Shell, SaveAsChoosesTheGenerationAndSaveAsksForAMissingName) {
   EXPECT_EQ(frage.vorschlag, ordner / "c");
   EXPECT_TRUE(frage.ueberschreiben_fragen);
   EXPECT_EQ(frage.endung, ".zav");
-  EXPECT_EQ(frage.filter, (std::vector<Dateifilter>{
-                              {"ZAVnet 910 (*.zav)", "*.zav"}, {"ZAVnet 90x (*.zav)", "*.zav"}, {"ZAVnet 8xx (*.zav)", "*.zav"}}));
+  EXPECT_EQ(frage.filter, (std::vector<Dateifilter>{{"ZAVnet 910 (*.zav)", "*.zav"},
+                                                    {"ZAVnet 90x (*.zav)", "*.zav"},
+                                                    {"ZAVnet 8xx (*.zav)", "*.zav"}}));
   // A name with a dot of its own is not cut.
   Dateimenue([&](Datei& f) {
     d.erwarte_datei(Dateiwahl{.pfad = ordner / "haus.v2", .filter_nr = 1});
@@ -243,8 +252,8 @@ TEST_F(Shell, ASaveThatFailsLosesNothingAndSaysSo) {
   haupt().Notizen.eingeben("Arbeit eines Tages");
   Dateimenue([&](Datei& f) {
     d.erwarte_text(Systemfehler_text(ENOENT) +
-                   ". Die Datei mit diesem Namen ist möglicherweise schreibgeschützt. Speichern Sie sie mit 'Projekt speichern "
-                   "unter...' mit einem anderen Namen oder in einen anderen Ordner.");
+                   ". Die Datei mit diesem Namen ist möglicherweise schreibgeschützt. Speichern Sie sie mit "
+                   "'Projekt speichern unter...' mit einem anderen Namen oder in einen anderen Ordner.");
     f.Command3.druecken();
   });
   EXPECT_EQ(sitzung.Projekt_geaendert, 1);
@@ -255,11 +264,12 @@ TEST_F(Shell, NewProjectAsksForItsFileAtOnce) {
   projekt.Projekt_name = Anlegen("alt");
   projekt.Datei_version = "800";
   projekt.Notizen = "alt";
-  const Meldung frage{.text = "Neues Projekt erstellen (Setzt alle Eingaben und Daten auf Standardwerte zurück)?",
-                      .titel = "Info",
-                      .knoepfe = Knoepfe::Ja_Nein,
-                      .symbol = Symbol::Information,
-                      .standard = 2};
+  const Meldung frage{
+      .text = "Neues Projekt erstellen (Setzt alle Eingaben und Daten auf Standardwerte zurück)?",
+      .titel = "Info",
+      .knoepfe = Knoepfe::Ja_Nein,
+      .symbol = Symbol::Information,
+      .standard = 2};
   Dateimenue([&](Datei& f) {
     d.erwarte(frage, Antwort::Nein);
     f.New.druecken();
@@ -325,17 +335,15 @@ TEST_F(Shell, ExportIsTheProjectAsJsonAndTheReportATable) {
   const auto art = std::string(Apparat_art(3)->titel);
   const std::string kopf = "EG\tKüche\t3\t" + art + "\ti12\t <Thermo> \t1\tLicht\t" + LED_liste()[29] + "\t";
   EXPECT_TRUE(bericht.starts_with("\xEF\xBB\xBFProjekt\t"));
-  const std::vector<std::string> zeilen{"Tab \"hier\"\r\n",
-                                        kopf + "O3-5\tDecke\tEin\r\n",
-                                        kopf + "T4\t\tStart & Restart\r\n",
-                                        "O3-5\tDecke\tAusschalten\r\n",
+  const std::vector<std::string> zeilen{"Tab \"hier\"\r\n", kopf + "O3-5\tDecke\tEin\r\n",
+                                        kopf + "T4\t\tStart & Restart\r\n", "O3-5\tDecke\tAusschalten\r\n",
                                         "1\tDienstag\t2\t\t06.30.00\t\tD1-2\t\t45 %, Tempo Sehr hoch\r\n"};
   for (const std::string& zeile : zeilen) {
     EXPECT_NE(bericht.find(zeile), std::string::npos) << zeile << "\n" << bericht;
   }
 }
 
-// ---- options and small dialogs ----------------------------------------------------------------------------------------
+// ---- options and small dialogs ----------------------------------------------------------------------------
 
 TEST_F(Shell, OptionsCheckTheNetworkAndCancelTakesAllBack) {
   einstellungen.Ports[2] = ordner / "kein-geraet";
@@ -436,7 +444,7 @@ TEST_F(Shell, ModifierKeysChooseTheInputEditorAndPortsAreSoughtWhereNeeded) {
   haupt().System_Optionen.druecken();
 }
 
-// ---- at the master ------------------------------------------------------------------------------------------------------
+// ---- at the master ----------------------------------------------------------------------------------------
 
 class Shell_am_master : public Shell {
  protected:
@@ -452,13 +460,14 @@ class Shell_am_master : public Shell {
     projekt.Ein_leer[5] = projekt.Ein_funktext[5] = 1;
   }
   void Initialisieren(Init_flash& f) {
-    d.erwarte_text("Der ZAVmaster enthält anschliessend keine Daten mehr! Möchten Sie fortfahren?", Antwort::Ja);
+    d.erwarte_text("Der ZAVmaster enthält anschliessend keine Daten mehr! Möchten Sie fortfahren?",
+                   Antwort::Ja);
     d.erwarte_text("Senden ist jetzt möglich");
     f.Command1.druecken();
   }
   const std::string neustartfrage =
-      "Im ZAVmaster einen Neustart durchführen? 'Ja', wenn Schaltzeiten und Timer aktualisiert werden sollen. 'Nein', wenn nur "
-      "Ausgangsverknüpfungen geändert wurden.";
+      "Im ZAVmaster einen Neustart durchführen? 'Ja', wenn Schaltzeiten und Timer aktualisiert werden "
+      "sollen. 'Nein', wenn nur Ausgangsverknüpfungen geändert wurden.";
   simulator::Simulator sim;
 };
 
@@ -504,10 +513,11 @@ TEST_F(Shell_am_master, RunningTransferCanBeStoppedAnEraseCannot) {
   d.bei_doevents = [&] {
     if (f.Command2.frei && f.ProgressBar1.wert > 0.0) f.schliessen_wuenschen();
   };
-  d.erwarte({.text = "F97: Sie haben die Übertragung zum ZAVmaster abgebrochen. Die Daten im ZAVmaster sind jetzt ungültig und es "
-                     "kann zu undefinierten Schaltzuständen kommen.\r\n\r\nDrücken Sie anschliessend die Schaltfläche 'Neustart "
-                     "ZAVmaster' oder unterbrechen Sie für einige Sekunden die Stromzufuhr von ZAVnet. Senden Sie raschmöglichst "
-                     "eine korrekte Datei zum ZAVmaster, damit die gewünschte Funktion gewährleistet ist.\r\n\r\n",
+  d.erwarte({.text = "F97: Sie haben die Übertragung zum ZAVmaster abgebrochen. Die Daten im ZAVmaster sind "
+                     "jetzt ungültig und es kann zu undefinierten Schaltzuständen kommen.\r\n\r\nDrücken Sie "
+                     "anschliessend die Schaltfläche 'Neustart ZAVmaster' oder unterbrechen Sie für einige "
+                     "Sekunden die Stromzufuhr von ZAVnet. Senden Sie raschmöglichst eine korrekte Datei zum "
+                     "ZAVmaster, damit die gewünschte Funktion gewährleistet ist.\r\n\r\n",
              .titel = "Abbruch der Übermittlung",
              .symbol = Symbol::Stopp});
   f.Command3.druecken();

@@ -315,8 +315,7 @@ TEST(Kamera, LineIsCutAtItsMarkersAndBuiltBack) {
   EXPECT_EQ(p.Kamera_text[4], "Rest@01#");
 }
 
-// ---- the commands on the open project
-// -----------------------------------------------------------------------------
+// ---- the commands on the open project ---------------------------------------------------------------------
 
 class Befehle : public testing::Test {
  protected:

@@ -134,8 +134,8 @@ class Terminal_am_master : public Terminaltest {
 TEST_P(Terminal_am_master, ListsEveryParticipantAfterARestart) {
   Verlassen_nach(7);
   EXPECT_EQ(t.Terminal_lauf(Terminalmodus::liste), Terminalende::verlassen);
-  EXPECT_EQ(s.zeilen, (std::vector<std::string>{"K000 ZAVin", "K001 ZAVin", "O0 ZAVswitch", "O1 ZAVmotor", "D0 ZAVdimmer",
-                                                "I252 Wetterstation", "6 Teilnehmer"}));
+  EXPECT_EQ(s.zeilen, (std::vector<std::string>{"K000 ZAVin", "K001 ZAVin", "O0 ZAVswitch", "O1 ZAVmotor",
+                                                "D0 ZAVdimmer", "I252 Wetterstation", "6 Teilnehmer"}));
   EXPECT_EQ(sim.neustarts(), 1);
 }
 

@@ -37,8 +37,9 @@ class Mitschrift : public Beobachter {
 };
 
 const Meldung neustartfrage{
-    .text = "Im ZAVmaster einen Neustart durchführen? 'Ja', wenn Schaltzeiten und Timer aktualisiert werden sollen. "
-            "'Nein', wenn nur Ausgangsverknüpfungen geändert wurden.",
+    .text =
+        "Im ZAVmaster einen Neustart durchführen? 'Ja', wenn Schaltzeiten und Timer aktualisiert werden "
+        "sollen. 'Nein', wenn nur Ausgangsverknüpfungen geändert wurden.",
     .titel = "Neustart ZAVmaster?",
     .knoepfe = Knoepfe::Ja_Nein_Abbrechen,
     .symbol = Symbol::Frage};
@@ -48,7 +49,9 @@ const Meldung loeschfrage{
     .knoepfe = Knoepfe::Ja_Nein,
     .symbol = Symbol::Warnung,
     .standard = 2};
-Meldung Fehlerbox(const std::string& text) { return {.text = text, .titel = "Fehler", .symbol = Symbol::Stopp}; }
+Meldung Fehlerbox(const std::string& text) {
+  return {.text = text, .titel = "Fehler", .symbol = Symbol::Stopp};
+}
 
 class Transfer : public ::testing::Test {
  protected:
@@ -127,14 +130,17 @@ class Transfer : public ::testing::Test {
     if (befehl != "W") return worte >> ziffern && sim.block(befehl) == ziffern;
     worte >> von >> bis >> ziffern;
     std::string ist;
-    for (const auto b : sim.speicher(*Hex_zahl(von), ziffern.size() / 2)) ist += Hex_text(0x100 + b).substr(1);
+    for (const auto b : sim.speicher(*Hex_zahl(von), ziffern.size() / 2))
+      ist += Hex_text(0x100 + b).substr(1);
     return ist == ziffern;
   }
   void Speicher_ist_abbild(const std::vector<std::string>& zeilen) const {
     for (const std::string& zeile : zeilen) EXPECT_TRUE(Angekommen(zeile)) << zeile.substr(0, 60);
   }
   static bool Nichts_vorgemerkt() {
-    const auto leer = [](const auto& feld) { return std::ranges::all_of(feld.alle(), [](auto w) { return w == 0; }); };
+    const auto leer = [](const auto& feld) {
+      return std::ranges::all_of(feld.alle(), [](auto w) { return w == 0; });
+    };
     return projekt.Uhr_tabelle_geaendert == 0 && leer(projekt.Ein_funktext) && leer(projekt.Uhr_funktext) &&
            leer(projekt.Tev_funktext) && leer(projekt.Grp_led);
   }
@@ -166,8 +172,8 @@ TEST_F(Transfer, ZuerstAllesDannNurWasSichAendert) {
     Sendet_alles();
     std::vector<std::string> befehle;
     for (const auto& m : sim.mitschrift()) befehle.push_back(m.substr(0, m.starts_with("D") ? 7 : 1));
-    const std::vector<std::string> soll{"i", "V", "D000800", "R", "A", "Q",       "T", "P", "H", "M", "D006000",
-                                        "W", "D362000", "W", "L", "D000800", "W"};
+    const std::vector<std::string> soll{"i", "V",       "D000800", "R",       "A", "Q", "T",       "P", "H",
+                                        "M", "D006000", "W",       "D362000", "W", "L", "D000800", "W"};
     if (seriell) {
       EXPECT_EQ(befehle.front(), "%");
       befehle.erase(befehle.begin());
@@ -207,7 +213,8 @@ TEST_F(Transfer, NachEinemFehlerGehtDerRest) {
   const Fall faelle[] = {
       {"stumm@i", "F98: Keine Antwort vom ZAVmaster"},
       {"F99@i", "F99: Neustart im ZAVmaster wurde durchgeführt"},
-      {"F06@D1", "F06: Wertebereich der Buffer-/Pageadresse falsch oder Endadresse kleiner als Startadresse."},
+      {"F06@D1",
+       "F06: Wertebereich der Buffer-/Pageadresse falsch oder Endadresse kleiner als Startadresse."},
       {"kurz@R", "F98: Keine Antwort vom ZAVmaster"},
       {"F02@A", "F02: Buffer Overrun im RAM"},
       {"F07@Qx10", "F07: Prüfsumme im ZAVmaster falsch."},
@@ -276,9 +283,14 @@ TEST_F(Transfer, WasVorDemErstenBlockEndet) {
     const char* master;
     bool passt;
   };
-  for (const Fall& f : {Fall{"910", "REV 09.04", true}, {"900", "REV 09.0x", true}, {"800", "REV 08.01", true},
-                        {"800", "REV 09.04", false}, {"910", "REV 08.01", false}, {"910", "REV 09.10", false},
-                        {"710", "REV 09.04", false}, {"", "REV 09.04", false}}) {
+  for (const Fall& f : {Fall{"910", "REV 09.04", true},
+                        {"900", "REV 09.0x", true},
+                        {"800", "REV 08.01", true},
+                        {"800", "REV 09.04", false},
+                        {"910", "REV 08.01", false},
+                        {"910", "REV 09.10", false},
+                        {"710", "REV 09.04", false},
+                        {"", "REV 09.04", false}}) {
     SCOPED_TRACE(std::string(f.datei_version) + " " + f.master);
     projekt.Datei_version = f.datei_version;
     sim.version_setzen(f.master);
@@ -325,7 +337,8 @@ TEST_F(Transfer, SperrenUndNeustart) {
   Synchron();
   u.Check1 = true;
   skript.erwarte(neustartfrage, Antwort::Ja);
-  skript.erwarte({.text = "F99: Neustart im ZAVmaster war erfolgreich", .titel = "Info", .symbol = Symbol::Information});
+  skript.erwarte(
+      {.text = "F99: Neustart im ZAVmaster war erfolgreich", .titel = "Info", .symbol = Symbol::Information});
   EXPECT_EQ(Senden(), Sendeergebnis::gesendet);
   EXPECT_EQ(sim.neustarts(), 1);
   EXPECT_FALSE(sim.gesperrt());
@@ -399,7 +412,8 @@ TEST_F(Transfer, UhrStellen) {
                       .titel = "Neustart ZAVmaster?",
                       .knoepfe = Knoepfe::Ja_Nein_Abbrechen,
                       .symbol = Symbol::Frage};
-  Uhrstellung uhr{.Akt_zeit_text = "08:15:30", .Akt_datum_text = "04.05.2026", .Akt_wochentag = 0, .Richt_modus = 1};
+  Uhrstellung uhr{
+      .Akt_zeit_text = "08:15:30", .Akt_datum_text = "04.05.2026", .Akt_wochentag = 0, .Richt_modus = 1};
   uhr.Sowi_datum = Sowi_daten_berechnen(2026);
   uhr.Sowi_datum[19] = "";
   for (const bool seriell : {false, true}) {

@@ -1,4 +1,5 @@
-// The weather station: what its reply means, the read-out and the eight weather functions, as a person uses them.
+// The weather station: what its reply means, the read-out and the eight weather functions, as a person uses
+// them.
 #include <gtest/gtest.h>
 
 #include "form/drehbuch.h"
@@ -60,9 +61,9 @@ TEST_F(Wetter, RepliesWithoutValuesTellWhatIsWrong) {
            Fall{"000000000000000000000000", Stand::keine_station},
            {"", Stand::keine_station},
            {"800000000000000000000000", Stand::keine_daten},
-           {"110...0AAA00000000000000", Stand::defekt},   // quality
-           {"118...0aaa00000000000000", Stand::defekt},   // lower case is no digit
-           {"118...0AAA000000000000", Stand::defekt},     // cut off
+           {"110...0AAA00000000000000", Stand::defekt},  // quality
+           {"118...0aaa00000000000000", Stand::defekt},  // lower case is no digit
+           {"118...0AAA000000000000", Stand::defekt},    // cut off
        }) {
     EXPECT_EQ(Wetter_entschluesseln(antwort).stand, stand) << antwort;
   }
@@ -115,8 +116,8 @@ TEST_F(Wetter, SilentMasterLeavesTheDisplayOpen) {
   EXPECT_TRUE(f.offen());
   EXPECT_TRUE(f.Command1.frei);
   sim.stop();
-  d.erwarte_text("TCP-Fehler -111: Fehler beim Öffnen. 127.0.0.1 (Port " + std::to_string(einstellungen.Host_port) +
-                 ") nimmt keine Verbindung an.");
+  d.erwarte_text("TCP-Fehler -111: Fehler beim Öffnen. 127.0.0.1 (Port " +
+                 std::to_string(einstellungen.Host_port) + ") nimmt keine Verbindung an.");
   d.erwarte({.text = "SIO: Fehler 1 bei Open Port"});
   f.Command2.druecken();
 }

@@ -1,5 +1,5 @@
-// The command line as a script sees it: arguments in; exit status, standard output, standard error and files out.
-// Against the simulated master over real sockets and pseudo-terminals.
+// The command line as a script sees it: arguments in; exit status, standard output, standard error and files
+// out. Against the simulated master over real sockets and pseudo-terminals.
 #include <gtest/gtest.h>
 #include <sys/resource.h>
 #include <sys/wait.h>
@@ -89,7 +89,7 @@ class Zav_mit_master : public Zav {
   simulator::Simulator master{{.pty = true}};
 };
 
-// ---- use ------------------------------------------------------------------------------------------------------------
+// ---- use --------------------------------------------------------------------------------------------------
 
 TEST_F(Zav, WrongUseIsTwoWithAGermanReason) {
   struct Fall {
@@ -148,7 +148,7 @@ TEST_F(Zav, HelpIsOnStandardOutputAndEveryCommandHasAnExample) {
   EXPECT_GE(befehle, 8);
 }
 
-// ---- files ------------------------------------------------------------------------------------------------------------
+// ---- files ------------------------------------------------------------------------------------------------
 
 TEST_F(Zav, NewAsksBeforeReplacing) {
   EXPECT_EQ(zav({"neu", pfad("haus"), "--zufall", "1"}).status, 0);
@@ -156,7 +156,8 @@ TEST_F(Zav, NewAsksBeforeReplacing) {
   EXPECT_EQ(projekt_in("haus.zav").Datei_version, "910");
   EXPECT_EQ(einstellungen.last_file[0], pfad("haus")) << "last files hold the path without extension";
 
-  const std::string frage = "[Datei ersetzen] " + pfad("haus.zav") + " besteht bereits. Soll die Datei ersetzt werden?\n";
+  const std::string frage =
+      "[Datei ersetzen] " + pfad("haus.zav") + " besteht bereits. Soll die Datei ersetzt werden?\n";
   struct Fall {
     std::vector<std::string> optionen;
     const char* tippt;
@@ -164,12 +165,9 @@ TEST_F(Zav, NewAsksBeforeReplacing) {
     std::string prompt;
   };
   const std::string prompt = " (j = Ja, n = Nein) ";
-  const std::vector<Fall> faelle{{{}, nullptr, false, ""},
-                                 {{"--nein"}, nullptr, false, ""},
-                                 {{}, "n\n", false, prompt},
-                                 {{}, "", false, prompt},
-                                 {{}, "was?\nJ\n", true, prompt + prompt},
-                                 {{"--ja"}, nullptr, true, ""}};
+  const std::vector<Fall> faelle{
+      {{}, nullptr, false, ""}, {{"--nein"}, nullptr, false, ""},         {{}, "n\n", false, prompt},
+      {{}, "", false, prompt},  {{}, "was?\nJ\n", true, prompt + prompt}, {{"--ja"}, nullptr, true, ""}};
   for (const Fall& f : faelle) {
     schreiben("haus.zav", erste);
     std::vector<std::string> argumente{"neu", pfad("haus.zav"), "--zufall", "2"};
@@ -190,7 +188,8 @@ TEST_F(Zav, RefusedFilesGiveNoDataAndDamagedOnesWhatIsLeft) {
 
   const Ergebnis fehlt = zav({"zeigen", pfad("gibtsnicht")});
   EXPECT_EQ(fehlt.status, 1);
-  EXPECT_NE(fehlt.fehler.find(": Fehler 2] Datei oder Ordner nicht gefunden"), std::string::npos) << fehlt.fehler;
+  EXPECT_NE(fehlt.fehler.find(": Fehler 2] Datei oder Ordner nicht gefunden"), std::string::npos)
+      << fehlt.fehler;
   for (const char* name : {"fremd", "leer", "gibtsnicht"}) {
     for (const char* befehl : {"zeigen", "abbild"}) {
       const Ergebnis e = zav({befehl, pfad(name), "--json"});
@@ -249,7 +248,7 @@ TEST_F(Zav, WhatCannotBeWrittenIsSaidAndNothingIsLost) {
   EXPECT_EQ(lesen("haus.zav"), vorher);
 }
 
-// ---- data -------------------------------------------------------------------------------------------------------------
+// ---- data -------------------------------------------------------------------------------------------------
 
 TEST_F(Zav, JsonHasTheNamesOfTheStoreAndNothingElse) {
   Projekt p;
@@ -296,7 +295,8 @@ TEST_F(Zav, ImagesOfOneDayAndSeedAreEqualAndSayWhatIsMarked) {
   EXPECT_EQ(a.aus, zav(fest).aus);
   EXPECT_EQ(a.aus.substr(0, 2), "A ");
   EXPECT_NE(a.aus.find("\nW 00A800 00A8CB "), std::string::npos) << "relay page of input event 5";
-  EXPECT_NE(a.aus.find("\nW 000800 00081F 0123456789ABCDEF68617573"), std::string::npos) << "stamp with the name \"haus\"";
+  EXPECT_NE(a.aus.find("\nW 000800 00081F 0123456789ABCDEF68617573"), std::string::npos)
+      << "stamp with the name \"haus\"";
 
   EXPECT_EQ(zav({"--heute", "21.11.2026", "--zufall", "7", "abbild", pfad("haus"), "-o", pfad("x")}).aus, "");
   EXPECT_EQ(lesen("x"), a.aus);
@@ -331,7 +331,8 @@ TEST_F(Zav, ReportsAreLinesOrLists) {
 
   const std::string treffer = "i12 - Erdgeschoss - Küche: Decke";
   EXPECT_EQ(zav({"suche", pfad("haus"), "O3-5"}).aus, treffer + "\n");
-  EXPECT_EQ(nlohmann::json::parse(zav({"suche", pfad("haus"), "O3-5", "--json"}).aus), nlohmann::json::array({treffer}));
+  EXPECT_EQ(nlohmann::json::parse(zav({"suche", pfad("haus"), "O3-5", "--json"}).aus),
+            nlohmann::json::array({treffer}));
   const Ergebnis nichts = zav({"suche", pfad("haus"), "T4", "--json"});
   EXPECT_EQ(nichts.status, 0);
   EXPECT_EQ(nichts.aus, "[]\n");
@@ -343,11 +344,13 @@ TEST_F(Zav, ReportsAreLinesOrLists) {
   EXPECT_EQ(tag["zeit"], "Sommerzeit");
   EXPECT_EQ(tag["auf_winterzeit"], "25.10.2026");
   EXPECT_NE(zav({"--heute", "28.03.2026", "sonne"}).aus.find("Winterzeit\n"), std::string::npos);
-  EXPECT_EQ(nlohmann::json::parse(zav({"--heute", "01.05.2028", "sonne", "--liste", "--json"}).aus).size(), 366U);
-  EXPECT_TRUE(zav({"--heute", "01.05.2028", "sonne", "--liste"}).aus.starts_with("Sonnenauf- und -untergang\nJanuar 2028\n"));
+  EXPECT_EQ(nlohmann::json::parse(zav({"--heute", "01.05.2028", "sonne", "--liste", "--json"}).aus).size(),
+            366U);
+  EXPECT_TRUE(zav({"--heute", "01.05.2028", "sonne", "--liste"})
+                  .aus.starts_with("Sonnenauf- und -untergang\nJanuar 2028\n"));
 }
 
-// ---- the master -------------------------------------------------------------------------------------------------------
+// ---- the master -------------------------------------------------------------------------------------------
 
 TEST_F(Zav_mit_master, SendsOverTcpAndOverASerialLine) {
   haus_anlegen("haus.zav");
@@ -358,7 +361,8 @@ TEST_F(Zav_mit_master, SendsOverTcpAndOverASerialLine) {
     ASSERT_EQ(e.status, 0) << e.fehler;
     EXPECT_NE(e.fehler.find("F99: Neustart im ZAVmaster war erfolgreich"), std::string::npos);
     EXPECT_EQ(simulator::hex(master.speicher(0x800, 12)), "0123456789ABCDEF68617573");
-    EXPECT_EQ(master.speicher(0x8000 + 5 * 0x800 + 12 + 9, 1)[0], 0) << "pair (3, 2): plane 1 of group 2 is empty";
+    EXPECT_EQ(master.speicher(0x8000 + 5 * 0x800 + 12 + 9, 1)[0], 0)
+        << "pair (3, 2): plane 1 of group 2 is empty";
     EXPECT_EQ(master.speicher(0x8000 + 5 * 0x800 + 12 + 6, 1)[0], 0x20) << "O3-5 on";
     EXPECT_EQ(master.speicher(0x8400 + 7 * 0x800 + 2, 1)[0], 55) << "D0-1 at 55 %";
     EXPECT_FALSE(master.gesperrt());
@@ -380,10 +384,12 @@ TEST_F(Zav_mit_master, SendsOverTcpAndOverASerialLine) {
 
 TEST_F(Zav_mit_master, AFailedTransferKeepsTheMarksOfWhatHasNotGone) {
   haus_anlegen("haus.zav");
-  ASSERT_EQ(zav({"--tcp", tcp(), "--nein", "senden", pfad("haus")}).status, 1) << "another project is in there";
+  ASSERT_EQ(zav({"--tcp", tcp(), "--nein", "senden", pfad("haus")}).status, 1)
+      << "another project is in there";
   EXPECT_EQ(projekt_in("haus.zav").Ein_funktext[5], 1);
 
-  // The stamp is there, as after an earlier transfer; the eighth page of switching times finds a broken memory.
+  // The stamp is there, as after an earlier transfer; the eighth page of switching times finds a broken
+  // memory.
   master.speicher_setzen(0x800, {0x01, 0x23, 0x45, 0x67, 0x89, 0xAB, 0xCD, 0xEF});
   struct Fall {
     const char* fehler;
@@ -391,7 +397,8 @@ TEST_F(Zav_mit_master, AFailedTransferKeepsTheMarksOfWhatHasNotGone) {
     u8 ein5, ein7;
     i16 tabelle;
   };
-  // Windowed blocks: 1 weather, 2 dates, 3 to 374 switching times, then 5, 7 relays, 5, 7 dimmers, LED tables.
+  // Windowed blocks: 1 weather, 2 dates, 3 to 374 switching times, then 5, 7 relays, 5, 7 dimmers, LED
+  // tables.
   for (const Fall& f : {Fall{"F03@W10", "F03", 1, 1, 1}, Fall{"trenn@W378", "F98", 0, 1, 0}}) {
     master.fehler_setzen({f.fehler});
     const std::string vorher = lesen("haus.zav");
@@ -422,7 +429,8 @@ TEST_F(Zav_mit_master, OldGenerationsAreNeverWritten) {
 
 TEST_F(Zav_mit_master, AsksVersionRestartsAndSetsTheClock) {
   const Ergebnis leer = zav({"--tcp", tcp(), "master", "--json"});
-  EXPECT_EQ(nlohmann::json::parse(leer.aus), nlohmann::json::parse(R"({"version": "REV 09.04", "projekt": ""})"));
+  EXPECT_EQ(nlohmann::json::parse(leer.aus),
+            nlohmann::json::parse(R"({"version": "REV 09.04", "projekt": ""})"));
   haus_anlegen("Küche.zav");
   ASSERT_EQ(zav({"--tcp", tcp(), "--ja", "senden", pfad("Küche"), "--initialisieren"}).status, 0);
   EXPECT_EQ(zav({"--tcp", tcp(), "master"}).aus, "Version  REV 09.04\nProjekt  Küche\n");
@@ -450,7 +458,8 @@ TEST_F(Zav_mit_master, PressesKeys) {
   using simulator::Tastenaktion;
   const auto e = master.ereignisse();
   ASSERT_EQ(e.size(), 3U);
-  EXPECT_EQ(e[0], (simulator::Ereignis{13, 2, Tastenaktion::druecken})) << "offset 5 is key 2 of the second address";
+  EXPECT_EQ(e[0], (simulator::Ereignis{13, 2, Tastenaktion::druecken}))
+      << "offset 5 is key 2 of the second address";
   EXPECT_EQ(e[1].aktion, Tastenaktion::loesen);
   EXPECT_EQ(e[2].aktion, Tastenaktion::kurz);
   EXPECT_EQ(zav({"--tcp", tcp(), "ereignis", "255", "4", "kurz"}).status, 1) << "beyond the last address";
@@ -465,7 +474,8 @@ TEST_F(Zav_mit_master, ReadsTheWeatherStation) {
             "Sonne Ost             31 kLux\nSonne Süd             18 kLux\nSonne West            7 kLux\n"
             "Tageslicht            240 Lux\nAussentemperatur      12.5 °C\nInnentemperatur       21 °C\n"
             "Windgeschwindigkeit   3.4 m/s = 12.2 km/h\nNiederschlag          Trocken\n");
-  EXPECT_EQ(nlohmann::json::parse(zav({"wetter", "--json", "--tcp", tcp()}).aus).at("aussentemperatur"), 12.5);
+  EXPECT_EQ(nlohmann::json::parse(zav({"wetter", "--json", "--tcp", tcp()}).aus).at("aussentemperatur"),
+            12.5);
   simulator::Wetter w;
   w.station = simulator::Station::fehlt;
   master.wetter_setzen(w);
@@ -519,7 +529,8 @@ TEST_F(Zav, WritesTheAppsDescriptorForGeneration910) {
   EXPECT_EQ(zav({"umwandeln", pfad("haus"), pfad("alt"), "--als", "900"}).status, 0);
   const Ergebnis e = zav({"app", pfad("alt"), "-o", pfad("neu.xml")});
   EXPECT_EQ(e.status, 1);
-  EXPECT_TRUE(e.fehler.starts_with("Wenn Sie die neuen Funktionen von ZAVlink-Version 9.102 nutzen")) << e.fehler;
+  EXPECT_TRUE(e.fehler.starts_with("Wenn Sie die neuen Funktionen von ZAVlink-Version 9.102 nutzen"))
+      << e.fehler;
   EXPECT_FALSE(fs::exists(pfad("neu.xml")));
 }
 
@@ -536,7 +547,8 @@ TEST_F(Zav, TheEmbeddedMasterLeavesTheSettingsAlone) {
 TEST_F(Zav, NobodyAtTheOtherEndIsAnErrorWithAReason) {
   haus_anlegen("haus.zav");
   for (const auto& weg : {std::vector<std::string>{"--tcp", "127.0.0.1:1"}, {"--com", "/dev/gibtsnicht"}}) {
-    for (const auto& befehl : {std::vector<std::string>{"master"}, {"neustart"}, {"uhr"}, {"senden", pfad("haus")}}) {
+    for (const auto& befehl :
+         {std::vector<std::string>{"master"}, {"neustart"}, {"uhr"}, {"senden", pfad("haus")}}) {
       std::vector<std::string> a = weg;
       a.emplace_back("--ja");
       a.insert(a.end(), befehl.begin(), befehl.end());
@@ -560,7 +572,7 @@ TEST_F(Zav_mit_master, ProgressIsForPeople) {
   EXPECT_EQ(zav(leise, "").fehler.find("%"), std::string::npos);
 }
 
-// ---- the program ------------------------------------------------------------------------------------------------------
+// ---- the program ------------------------------------------------------------------------------------------
 
 // Starts the program itself; its standard error goes to the file "fehler".
 int starten(const std::string& befehl) {
@@ -577,9 +589,10 @@ TEST_F(Zav_mit_master, TheProgramEndsCleanlyOnCtrlC) {
     langsam.warten([&] { return langsam.anzahl("W") > 5; });
     starten("kill -INT $(cat " + pfad("pid") + ")");
   });
-  const std::string befehl = "sh -c 'echo $$ > " + pfad("pid") + "; exec " ZAV_PROGRAMM " --ja --tcp 127.0.0.1:" +
-                             std::to_string(langsam.tcp_port()) + " senden " + pfad("haus") + " --initialisieren 2> " +
-                             pfad("fehler") + "'";
+  const std::string befehl =
+      "sh -c 'echo $$ > " + pfad("pid") +
+      "; exec " ZAV_PROGRAMM " --ja --tcp 127.0.0.1:" + std::to_string(langsam.tcp_port()) + " senden " +
+      pfad("haus") + " --initialisieren 2> " + pfad("fehler") + "'";
   const int status = starten(befehl);
   strg_c.join();
   EXPECT_EQ(status, 1);
@@ -600,11 +613,12 @@ TEST_F(Zav, TheExampleHouseIsWhatItsProgramWrites) {
   ASSERT_EQ(starten(EINFAMILIENHAUS_PROGRAMM " " + pfad("haus.zav")), 0);
   std::ifstream d(EINFAMILIENHAUS_DATEI, std::ios::binary);
   const std::string abgelegt{std::istreambuf_iterator<char>(d), {}};
-  EXPECT_TRUE(lesen("haus.zav") == abgelegt) << "examples/einfamilienhaus.zav is out of date: run the program again";
+  EXPECT_TRUE(lesen("haus.zav") == abgelegt)
+      << "examples/einfamilienhaus.zav is out of date: run the program again";
   EXPECT_EQ(zav({"abbild", pfad("haus")}).fehler, "") << "every value of it fits the master";
 }
 
-// ---- in front of the living system ---------------------------------------------------------------------------------
+// ---- in front of the living system ------------------------------------------------------------------------
 
 TEST_F(Zav_mit_master, ProtokollWritesLinesUntilItsTimeOrCtrlC) {
   EXPECT_EQ(zav({"--tcp", tcp(), "protokoll", "--liste", "--filter", "O0", "K00", "--dauer", "1"}).aus,
@@ -616,7 +630,8 @@ TEST_F(Zav_mit_master, ProtokollWritesLinesUntilItsTimeOrCtrlC) {
     std::this_thread::sleep_for(std::chrono::milliseconds(300));
     kill(getpid(), SIGINT);
   });
-  const Ergebnis e = zav({"--com", master.pty_name(), "--json", "--heute", "04.05.2026", "protokoll", "--datum"});
+  const Ergebnis e =
+      zav({"--com", master.pty_name(), "--json", "--heute", "04.05.2026", "protokoll", "--datum"});
   haus.join();
   EXPECT_EQ(e.status, 0);
   EXPECT_EQ(nlohmann::json::parse(e.aus), nlohmann::json({"K007 T3 ---  04.05.2026"}));

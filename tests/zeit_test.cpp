@@ -45,8 +45,7 @@ class Zeit : public ::testing::Test {
   Drehbuch d;
 };
 
-// ---- Uhr
-// -----------------------------------------------------------------------------------------------------------
+// ---- Uhr --------------------------------------------------------------------------------------------------
 
 TEST_F(Zeit, RowGetsTimeAndFunctionsAndTheTextsComeAtClose) {
   Uhr f;
@@ -198,8 +197,7 @@ TEST_F(Zeit, SortOrdersByTheTextOfTheTime) {
   EXPECT_EQ(projekt.Uhr_tabelle_geaendert, 1);
 }
 
-// ---- Form_Setup_uhr
-// ------------------------------------------------------------------------------------------------
+// ---- Form_Setup_uhr ---------------------------------------------------------------------------------------
 
 TEST_F(Zeit, SequencerSortsChecksAndCommitsOnOkOnly) {
   Form_Setup_uhr f;
@@ -261,8 +259,7 @@ TEST_F(Zeit, SequencerSortsChecksAndCommitsOnOkOnly) {
   EXPECT_TRUE(projekt == vorher);
 }
 
-// ---- Uhrseite
-// ------------------------------------------------------------------------------------------------------
+// ---- Uhrseite ---------------------------------------------------------------------------------------------
 
 TEST_F(Zeit, ClockPageTakesGoodTimesAndRefusesOthers) {
   Uhrseite f;

@@ -54,10 +54,11 @@ void Tag_ausgeben(Lauf& lauf, const Sonneninfo& s) {
     lauf.aus << tag.dump(2) << '\n';
     return;
   }
-  lauf.aus << "Datum                         " << Datum_text(s.tag) << "\nSonnenaufgang um              " << s.aufgang
-           << "\nSonnenuntergang um            " << s.untergang << "\nZeit                          " << s.zeit
-           << "\nWinterzeit auf Sommerzeit am  " << Datum_text(s.auf_sommerzeit)
-           << "\nSommerzeit auf Winterzeit am  " << Datum_text(s.auf_winterzeit) << '\n';
+  lauf.aus << "Datum                         " << Datum_text(s.tag) << "\nSonnenaufgang um              "
+           << s.aufgang << "\nSonnenuntergang um            " << s.untergang
+           << "\nZeit                          " << s.zeit << "\nWinterzeit auf Sommerzeit am  "
+           << Datum_text(s.auf_sommerzeit) << "\nSommerzeit auf Winterzeit am  "
+           << Datum_text(s.auf_winterzeit) << '\n';
 }
 
 }  // namespace
@@ -68,11 +69,13 @@ Ausfuehrung Befehl_suche(CLI::App& app) {
   };
   const auto a = std::make_shared<Argumente>();
   app.add_option("DATEI", a->datei, "Projekt; .zav wird ergänzt")->required();
-  app.add_option("AUSGANG", a->ausgang, "Relaisausgang O0-0 bis O63-7, Dimmer D0-0 bis D31-3 oder Timer T0 bis T15")
+  app.add_option("AUSGANG", a->ausgang,
+                 "Relaisausgang O0-0 bis O63-7, Dimmer D0-0 bis D31-3 oder Timer T0 bis T15")
       ->required()
       ->each([](const std::string& t) {
         if (!Ziel_lesen(t)) {
-          throw CLI::ValidationError("\"" + t + "\" ist kein Ausgang wie O3-5, D1-2 oder T4", CLI::ExitCodes::ValidationError);
+          throw CLI::ValidationError("\"" + t + "\" ist kein Ausgang wie O3-5, D1-2 oder T4",
+                                     CLI::ExitCodes::ValidationError);
         }
       });
   return [a](Lauf& lauf) {

@@ -20,7 +20,7 @@ struct Lauf {
   std::ostream& aus;  // data
   Konsole& konsole;   // everything else
   bool json = false;
-  bool simulator = false;         // the master is a simulated one of this call
+  bool simulator = false;          // the master is a simulated one of this call
   Einstellungen gespeichert = {};  // the settings as stored, before options overrode them
 };
 

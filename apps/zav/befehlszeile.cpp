@@ -24,30 +24,34 @@ namespace {
 
 constexpr std::array befehle{
     Befehl{"neu", "Legt ein neues Projekt der Generation 910 an", "zav neu haus", Befehl_neu},
-    Befehl{"zeigen", "Zeigt die Kennzahlen eines Projekts, mit --json das ganze Projekt", "zav zeigen haus --json",
-           Befehl_zeigen},
+    Befehl{"zeigen", "Zeigt die Kennzahlen eines Projekts, mit --json das ganze Projekt",
+           "zav zeigen haus --json", Befehl_zeigen},
     Befehl{"umwandeln", "Öffnet ein Projekt jeder Generation und speichert es unter neuem Namen",
            "zav umwandeln alt neu --als 910", Befehl_umwandeln},
     Befehl{"abbild", "Gibt alles aus, was eine Übertragung schreiben würde", "zav abbild haus -o haus.txt",
            Befehl_abbild},
-    Befehl{"senden", "Überträgt ein Projekt zum ZAVmaster", "zav --tcp 192.168.1.20:4001 senden haus --neustart",
-           Befehl_senden},
+    Befehl{"senden", "Überträgt ein Projekt zum ZAVmaster",
+           "zav --tcp 192.168.1.20:4001 senden haus --neustart", Befehl_senden},
     Befehl{"master", "Fragt Version und Projektname des ZAVmasters ab", "zav --com 1 master", Befehl_master},
     Befehl{"neustart", "Startet den ZAVmaster neu", "zav --ja neustart", Befehl_neustart},
-    Befehl{"uhr", "Stellt die Uhr des ZAVmasters und die Daten der Zeitumstellung", "zav --nein uhr --umstellung 1",
-           Befehl_uhr},
+    Befehl{"uhr", "Stellt die Uhr des ZAVmasters und die Daten der Zeitumstellung",
+           "zav --nein uhr --umstellung 1", Befehl_uhr},
     Befehl{"protokoll", "Zeigt die Ereignisse am Bus, wie sie geschehen, mit --liste alle Busteilnehmer",
            "zav --com 1 protokoll --filter K000 --zeit", Befehl_protokoll},
-    Befehl{"ereignis", "Drückt, löst oder tippt eine Taste, als täte es jemand im Haus", "zav --com 1 ereignis 12 0 kurz",
-           Befehl_ereignis},
+    Befehl{"ereignis", "Drückt, löst oder tippt eine Taste, als täte es jemand im Haus",
+           "zav --com 1 ereignis 12 0 kurz", Befehl_ereignis},
     Befehl{"wetter", "Zeigt die aktuellen Werte der Wetterstation", "zav --com 1 wetter", Befehl_wetter},
     Befehl{"enocean", "Programmiert die Funkempfänger", "zav --com 1 enocean haus --alle", Befehl_enocean},
-    Befehl{"app", "Schreibt den Deskriptor für die Telefon-App ZAVapp", "zav app haus -o haus.xml", Befehl_app},
-    Befehl{"suche", "Listet alle Ereignisse, die auf einen Ausgang oder Timer wirken", "zav suche haus O3-5", Befehl_suche},
-    Befehl{"touchpanel", "Zeigt die Adressen-Referenz für Touchpanels", "zav touchpanel haus", Befehl_touchpanel},
-    Befehl{"sonne", "Zeigt Sonnenzeiten und Zeitumstellung eines Tages oder Jahres", "zav --heute 21.06.2026 sonne",
-           Befehl_sonne},
-    Befehl{"update", "Ersetzt das Betriebssystem des ZAVmasters", "zav --com 1 update ZAVMAStER_0904.s19", Befehl_update},
+    Befehl{"app", "Schreibt den Deskriptor für die Telefon-App ZAVapp", "zav app haus -o haus.xml",
+           Befehl_app},
+    Befehl{"suche", "Listet alle Ereignisse, die auf einen Ausgang oder Timer wirken", "zav suche haus O3-5",
+           Befehl_suche},
+    Befehl{"touchpanel", "Zeigt die Adressen-Referenz für Touchpanels", "zav touchpanel haus",
+           Befehl_touchpanel},
+    Befehl{"sonne", "Zeigt Sonnenzeiten und Zeitumstellung eines Tages oder Jahres",
+           "zav --heute 21.06.2026 sonne", Befehl_sonne},
+    Befehl{"update", "Ersetzt das Betriebssystem des ZAVmasters", "zav --com 1 update ZAVMAStER_0904.s19",
+           Befehl_update},
 };
 
 // What stands before, behind or between the command's own arguments.
@@ -83,7 +87,8 @@ std::string Pruefe_tcp(const std::string& t) {
 }
 std::string Pruefe_com(const std::string& t) {
   const bool ziffern = !t.empty() && t.find_first_not_of("0123456789") == std::string::npos;
-  if (t.empty() || (ziffern && !Comnummer_lesen(t))) return "\"" + t + "\" ist weder 1 bis 8 noch eine Gerätedatei";
+  if (t.empty() || (ziffern && !Comnummer_lesen(t)))
+    return "\"" + t + "\" ist weder 1 bis 8 noch eine Gerätedatei";
   return "";
 }
 std::string Pruefe_heute(const std::string& t) {
@@ -105,10 +110,13 @@ void Geprueft(CLI::App& app, const char* name, std::string& ziel, const char* we
 
 void Optionen_anmelden(CLI::App& app, Optionen& o) {
   Geprueft(app, "--tcp", o.tcp, "HOST:PORT", "über TCP mit dem ZAVmaster sprechen", Pruefe_tcp);
-  Geprueft(app, "--com", o.com, "N|GERÄT", "über COM-Port N (1 bis 8) oder die Gerätedatei sprechen", Pruefe_com);
+  Geprueft(app, "--com", o.com, "N|GERÄT", "über COM-Port N (1 bis 8) oder die Gerätedatei sprechen",
+           Pruefe_com);
   app.add_flag("--simulator", o.simulator, "für diesen Befehl einen simulierten ZAVmaster starten");
-  Geprueft(app, "--heute", o.heute, "TT.MM.JJJJ", "Datum, das als heute gilt (sonst das des Computers)", Pruefe_heute);
-  Geprueft(app, "--zufall", o.zufall, "N", "Saat der Zufallsverschiebungen (sonst von der Uhr)", Pruefe_zufall);
+  Geprueft(app, "--heute", o.heute, "TT.MM.JJJJ", "Datum, das als heute gilt (sonst das des Computers)",
+           Pruefe_heute);
+  Geprueft(app, "--zufall", o.zufall, "N", "Saat der Zufallsverschiebungen (sonst von der Uhr)",
+           Pruefe_zufall);
   app.add_flag("--ja", o.ja, "jede Frage mit Ja beantworten");
   app.add_flag("--nein", o.nein, "jede Frage mit Nein beantworten");
   app.add_flag("--json", o.json, "Daten als ein JSON-Dokument");
@@ -176,7 +184,8 @@ int Befehlszeile(std::vector<std::string> argumente, Endgeraet geraet) {
   app.formatter(std::make_shared<Hilfeseite>());
   app.set_help_flag("--hilfe", "diese Hilfe zeigen");
   app.set_version_flag("--version", "zav " + std::string(version), "die Version zeigen");
-  app.footer("zav BEFEHL --hilfe zeigt die Argumente eines Befehls.\nBeispiel: zav --simulator --ja senden haus");
+  app.footer(
+      "zav BEFEHL --hilfe zeigt die Argumente eines Befehls.\nBeispiel: zav --simulator --ja senden haus");
   app.fallthrough();
   app.require_subcommand(1);
   Optionen_anmelden(app, optionen);
@@ -198,7 +207,8 @@ int Befehlszeile(std::vector<std::string> argumente, Endgeraet geraet) {
     geraet.aus << "zav " << version << '\n' << std::flush;
     return geraet.aus ? 0 : 1;
   } catch (const CLI::ParseError& fehler) {
-    geraet.fehler << Bedienfehler(fehler, app) << "\nzav --hilfe zeigt alle Befehle und Optionen.\n" << std::flush;
+    geraet.fehler << Bedienfehler(fehler, app) << "\nzav --hilfe zeigt alle Befehle und Optionen.\n"
+                  << std::flush;
     return 2;
   }
   try {

@@ -8,8 +8,9 @@
 
 namespace zav {
 
-// Runs one call with the arguments behind the program's name. Returns the exit status: 0 done; 1 the operation
-// failed, was refused or showed an error box; 2 wrong use. The project, the settings and the link are fresh for each call.
+// Runs one call with the arguments behind the program's name. Returns the exit status: 0 done; 1 the
+// operation failed, was refused or showed an error box; 2 wrong use. The project, the settings and the link
+// are fresh for each call.
 int Befehlszeile(std::vector<std::string> argumente, Endgeraet geraet);
 
 }  // namespace zav

@@ -60,12 +60,14 @@ bool Protokollieren(Lauf& lauf, const Protokollargumente& a) {
   terminal.Check2 = a.datum;
   const Abbruchwache wache([] { sitzung.Abbruch = 1; });
   if (const auto sekunden = Zahl_lesen(a.dauer)) {
-    const auto ende = std::chrono::steady_clock::now() + std::chrono::milliseconds(Echte_millisekunden(*sekunden));
+    const auto ende =
+        std::chrono::steady_clock::now() + std::chrono::milliseconds(Echte_millisekunden(*sekunden));
     lauf.konsole.bei_runde = [ende] {
       if (std::chrono::steady_clock::now() >= ende) sitzung.Abbruch = 1;
     };
   }
-  const Terminalende ergebnis = terminal.Terminal_lauf(a.liste ? Terminalmodus::liste : Terminalmodus::protokoll);
+  const Terminalende ergebnis =
+      terminal.Terminal_lauf(a.liste ? Terminalmodus::liste : Terminalmodus::protokoll);
   lauf.konsole.bei_runde = nullptr;
   lauf.konsole.Fortschritt_ende();
   if (ergebnis == Terminalende::abgelehnt) {
@@ -74,7 +76,8 @@ bool Protokollieren(Lauf& lauf, const Protokollargumente& a) {
     lauf.konsole.Fehler("Die Verbindung zum ZAVmaster ist unterbrochen.");
   }
   if (lauf.json) {
-    lauf.aus << nlohmann::json(ausgabe.zeilen).dump(2, ' ', false, nlohmann::json::error_handler_t::replace) << '\n';
+    lauf.aus << nlohmann::json(ausgabe.zeilen).dump(2, ' ', false, nlohmann::json::error_handler_t::replace)
+             << '\n';
   }
   return ergebnis == Terminalende::verlassen;
 }
@@ -131,7 +134,8 @@ Ausfuehrung Befehl_update(CLI::App& app) {
   };
   const auto a = std::make_shared<Argumente>();
   app.add_option("DATEI", a->datei, "Update-Datei (.s19), ZAVMAStER_ im Namen")->required();
-  app.add_option("--ethernet", a->host, "über einen Serial Device Server im lokalen Netzwerk statt über COM")->type_name("HOST");
+  app.add_option("--ethernet", a->host, "über einen Serial Device Server im lokalen Netzwerk statt über COM")
+      ->type_name("HOST");
   return [a](Lauf& lauf) {
     if (!a->host.empty()) einstellungen.Host_ip = a->host;
     Updateanzeige anzeige(lauf.konsole);

@@ -79,7 +79,9 @@ Ausfuehrung Befehl_abbild(CLI::App& app) {
   };
   const auto a = std::make_shared<Argumente>();
   app.add_option("DATEI", a->datei, "Projekt; .zav wird ergänzt")->required();
-  app.add_option("-o", a->ausgabe, "in diese Datei schreiben statt auf die Standardausgabe")->type_name("AUSGABE")->take_last();
+  app.add_option("-o", a->ausgabe, "in diese Datei schreiben statt auf die Standardausgabe")
+      ->type_name("AUSGABE")
+      ->take_last();
   app.add_flag("--nur-geaenderte", a->nur_geaenderte, "nur, was seit der letzten Übertragung geändert wurde");
   app.add_flag("--sperren", a->sperren, "mit den Sperrbefehlen für Eingänge und Wetter");
   return [a](Lauf& lauf) {
@@ -95,7 +97,8 @@ Ausfuehrung Befehl_abbild(CLI::App& app) {
     }
     const Dateiergebnis geschrieben = Datei_schreiben(a->ausgabe, daten);
     if (geschrieben) return true;
-    lauf.konsole.Fehler(a->ausgabe + " konnte nicht geschrieben werden: " + Systemfehler_text(geschrieben.fehler));
+    lauf.konsole.Fehler(a->ausgabe +
+                        " konnte nicht geschrieben werden: " + Systemfehler_text(geschrieben.fehler));
     return false;
   };
 }

@@ -22,7 +22,8 @@ constexpr std::size_t namensbreite = 22;
 
 // Names of the values for scripts.
 constexpr std::array<const char*, wettersensoren> schluessel{
-    "sonne_ost", "sonne_sued", "sonne_west", "tageslicht", "aussentemperatur", "innentemperatur", "windgeschwindigkeit"};
+    "sonne_ost",        "sonne_sued",      "sonne_west",         "tageslicht",
+    "aussentemperatur", "innentemperatur", "windgeschwindigkeit"};
 
 std::string Namensspalte(std::string_view name) {
   return std::string(name) + std::string(namensbreite - Zeichen_anzahl(name), ' ');
@@ -95,7 +96,8 @@ Ausfuehrung Befehl_enocean(CLI::App& app) {
       const Abbruchwache wache([] { leitung.Abbruch_flag = 1; });
       ergebnis = Enocean_programmieren(a->alle, anzeige);
     }
-    const bool zu_speichern = projekt.Enocean_empf_geaendert != vorher && !Alte_generation(projekt.Datei_version);
+    const bool zu_speichern =
+        projekt.Enocean_empf_geaendert != vorher && !Alte_generation(projekt.Datei_version);
     const bool gesichert = !zu_speichern || Projekt_sichern(lauf, Projektpfad(a->datei));
     return ergebnis == Enocean_ergebnis::aktualisiert && gesichert;
   };

@@ -28,7 +28,8 @@ std::string Tafel(std::string_view kopf, const std::vector<Zeilenpaar>& zeilen) 
 
 std::string Optionsname(const CLI::Option& o) {
   std::string name = o.get_positional() ? o.get_name() : Ersetzen(o.get_name(false, true), ",", ", ");
-  if (o.nonpositional() && o.get_type_size() != 0 && !o.get_type_name().empty()) name += " " + o.get_type_name();
+  if (o.nonpositional() && o.get_type_size() != 0 && !o.get_type_name().empty())
+    name += " " + o.get_type_name();
   return name;
 }
 
@@ -36,7 +37,8 @@ std::vector<Zeilenpaar> Optionen(const CLI::App& app, bool benannte) {
   std::vector<Zeilenpaar> zeilen;
   for (const CLI::Option* o : app.get_options()) {
     const bool hilfe_des_befehls = app.get_parent() != nullptr && o == app.get_help_ptr();
-    if (o->nonpositional() == benannte && !hilfe_des_befehls) zeilen.emplace_back(Optionsname(*o), o->get_description());
+    if (o->nonpositional() == benannte && !hilfe_des_befehls)
+      zeilen.emplace_back(Optionsname(*o), o->get_description());
   }
   return zeilen;
 }
@@ -54,10 +56,12 @@ std::string Aufruf(const CLI::App& app) {
 
 }  // namespace
 
-std::string Hilfeseite::make_help(const CLI::App* app, std::string /*name*/, CLI::AppFormatMode /*mode*/) const {
+std::string Hilfeseite::make_help(const CLI::App* app, std::string /*name*/,
+                                  CLI::AppFormatMode /*mode*/) const {
   std::string text = app->get_description() + ".\n\n" + Aufruf(*app);
   std::vector<Zeilenpaar> befehle;
-  for (const CLI::App* b : app->get_subcommands({})) befehle.emplace_back(b->get_name(), b->get_description());
+  for (const CLI::App* b : app->get_subcommands({}))
+    befehle.emplace_back(b->get_name(), b->get_description());
   text += Tafel("Befehle", befehle);
   text += Tafel("Argumente", Optionen(*app, false));
   text += Tafel("Optionen", Optionen(*app, true));

@@ -31,7 +31,8 @@ constexpr std::array antwortwahlen{
     Antwortwahl{Knoepfe::OK, "", Antwort::OK, Antwort::OK},
     Antwortwahl{Knoepfe::OK_Abbrechen, " (j = OK, a = Abbrechen) ", Antwort::OK, Antwort::Abbrechen},
     Antwortwahl{Knoepfe::Ja_Nein, " (j = Ja, n = Nein) ", Antwort::Ja, Antwort::Nein},
-    Antwortwahl{Knoepfe::Ja_Nein_Abbrechen, " (j = Ja, n = Nein, a = Abbrechen) ", Antwort::Ja, Antwort::Nein},
+    Antwortwahl{Knoepfe::Ja_Nein_Abbrechen, " (j = Ja, n = Nein, a = Abbrechen) ", Antwort::Ja,
+                Antwort::Nein},
 };
 
 constexpr int balkenbreite = 30;

@@ -43,8 +43,8 @@ class Konsole final : public Oberflaeche {
   // One line on standard error that is no error.
   void Anmerken(std::string_view text);
 
-  // A line of a running operation's log; how far the operation has come, in percent, and what it is at. Shown to a
-  // person only.
+  // A line of a running operation's log; how far the operation has come, in percent, and what it is at. Shown
+  // to a person only.
   void Protokoll(std::string_view zeile);
   void Fortschritt_zeigen(double gesamt, std::string_view taetigkeit);
   void Fortschritt_ende();
@@ -70,8 +70,8 @@ class Konsole final : public Oberflaeche {
   std::string fluechtig_;  // the line that is to vanish, "" none
 };
 
-// While it lives, Ctrl-C and the request to end (SIGINT, SIGTERM) do not end the program: `bei_abbruch` runs at
-// the next turn of the surface. A second signal ends it at once.
+// While it lives, Ctrl-C and the request to end (SIGINT, SIGTERM) do not end the program: `bei_abbruch` runs
+// at the next turn of the surface. A second signal ends it at once.
 class Abbruchwache {
  public:
   explicit Abbruchwache(void (*bei_abbruch)());

@@ -61,11 +61,13 @@ struct Sendemarken {
 
 // What a transfer did not tell by a box.
 void Ergebnis_melden(Konsole& konsole, Sendeergebnis e) {
-  if (e == Sendeergebnis::keine_antwort) konsole.Fehler("Der ZAVmaster hat auf die Frage nach seiner Version nicht geantwortet.");
+  if (e == Sendeergebnis::keine_antwort)
+    konsole.Fehler("Der ZAVmaster hat auf die Frage nach seiner Version nicht geantwortet.");
   if (e == Sendeergebnis::nicht_synchron) {
     konsole.Anmerken("Mit --initialisieren wird der ZAVmaster vorher gelöscht und dann alles übertragen.");
   }
-  if (e == Sendeergebnis::zu_breit) konsole.Fehler("Die Übertragung endete vorzeitig: ein Wert der Storenparameter ist zu gross.");
+  if (e == Sendeergebnis::zu_breit)
+    konsole.Fehler("Die Übertragung endete vorzeitig: ein Wert der Storenparameter ist zu gross.");
 }
 
 struct Sendeargumente {
@@ -98,7 +100,8 @@ Ausfuehrung Befehl_senden(CLI::App& app) {
     if (a->neustart) lauf.konsole.bejahter_titel = neustart_titel;
     const Sendemarken vorher;
     const bool gesendet = Uebertragen(lauf, *a);
-    const bool zu_speichern = Sendemarken() != vorher && !a->nicht_speichern && !Alte_generation(projekt.Datei_version);
+    const bool zu_speichern =
+        Sendemarken() != vorher && !a->nicht_speichern && !Alte_generation(projekt.Datei_version);
     const bool gesichert = !zu_speichern || Projekt_sichern(lauf, Projektpfad(a->datei));
     return gesendet && gesichert;
   };
@@ -141,7 +144,8 @@ Ausfuehrung Befehl_neustart(CLI::App& /*app*/) {
 
 Ausfuehrung Befehl_uhr(CLI::App& app) {
   const auto modus = std::make_shared<std::string>();
-  app.add_option("--umstellung", *modus, "Zeitumstellung: 0 keine, 1 nach den Daten, 2 Funkuhr (sonst wie eingestellt)")
+  app.add_option("--umstellung", *modus,
+                 "Zeitumstellung: 0 keine, 1 nach den Daten, 2 Funkuhr (sonst wie eingestellt)")
       ->type_name("0|1|2")
       ->take_last()
       ->each([](const std::string& m) {
@@ -176,7 +180,8 @@ struct Tastenaktion {
   std::string_view name;
   int nummer;
 };
-constexpr std::array tastenaktionen{Tastenaktion{"loesen", 0}, Tastenaktion{"druecken", 1}, Tastenaktion{"kurz", 2}};
+constexpr std::array tastenaktionen{Tastenaktion{"loesen", 0}, Tastenaktion{"druecken", 1},
+                                    Tastenaktion{"kurz", 2}};
 
 constexpr int erste_geraetenummer = 1024;  // of an input module on the bus; two for each address
 constexpr int groesster_versatz = 23;      // of a device with six addresses
@@ -185,7 +190,8 @@ constexpr int groesster_versatz = 23;      // of a device with six addresses
 void Zahlargument(CLI::App& app, const char* name, std::string& ziel, const char* hilfe, int bis) {
   app.add_option(name, ziel, hilfe)->required()->each([bis](const std::string& t) {
     if (!Zahl_lesen(t, 0, bis)) {
-      throw CLI::ValidationError("möglich sind 0 bis " + std::to_string(bis), CLI::ExitCodes::ValidationError);
+      throw CLI::ValidationError("möglich sind 0 bis " + std::to_string(bis),
+                                 CLI::ExitCodes::ValidationError);
     }
   });
 }
@@ -199,20 +205,27 @@ Ausfuehrung Befehl_ereignis(CLI::App& app) {
   const auto a = std::make_shared<Argumente>();
   Zahlargument(app, "ADRESSE", a->adresse, "erste Adresse des Apparats, 0 bis 255", adressen - 1);
   Zahlargument(app, "TASTE", a->taste, "Taste des Apparats, von 0 an gezählt", groesster_versatz);
-  const auto aktion_von = [](const std::string& t) { return std::ranges::find(tastenaktionen, t, &Tastenaktion::name); };
-  app.add_option("AKTION", a->aktion, "druecken, loesen oder kurz")->required()->each([aktion_von](const std::string& t) {
-    if (aktion_von(t) == tastenaktionen.end()) {
-      throw CLI::ValidationError("möglich sind druecken, loesen und kurz", CLI::ExitCodes::ValidationError);
-    }
-  });
+  const auto aktion_von = [](const std::string& t) {
+    return std::ranges::find(tastenaktionen, t, &Tastenaktion::name);
+  };
+  app.add_option("AKTION", a->aktion, "druecken, loesen oder kurz")
+      ->required()
+      ->each([aktion_von](const std::string& t) {
+        if (aktion_von(t) == tastenaktionen.end()) {
+          throw CLI::ValidationError("möglich sind druecken, loesen und kurz",
+                                     CLI::ExitCodes::ValidationError);
+        }
+      });
   return [a, aktion_von](Lauf& lauf) {
     const int taste = *Zahl_lesen(a->taste);
     const int adresse = *Zahl_lesen(a->adresse) + taste / 4;
     if (adresse >= adressen) {
-      lauf.konsole.Fehler("Adresse " + std::to_string(adresse) + " dieser Taste gibt es nicht, die höchste ist 255.");
+      lauf.konsole.Fehler("Adresse " + std::to_string(adresse) +
+                          " dieser Taste gibt es nicht, die höchste ist 255.");
       return false;
     }
-    Ereignis_erzeugen(Hex4(2 * adresse + erste_geraetenummer), Hex2(aktion_von(a->aktion)->nummer), Hex2(taste % 4 + 1));
+    Ereignis_erzeugen(Hex4(2 * adresse + erste_geraetenummer), Hex2(aktion_von(a->aktion)->nummer),
+                      Hex2(taste % 4 + 1));
     return leitung.Port_fehler == 0 && Antwort_ist_gut();
   };
 }

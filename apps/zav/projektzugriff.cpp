@@ -17,7 +17,8 @@ bool Projekt_oeffnen(Lauf& lauf, const std::string& datei) {
   projekt.Projekt_name = pfad.string();
   const Laden ergebnis = Projekt_laden();
   if (ergebnis == Laden::unvollstaendig) {
-    lauf.konsole.Fehler(pfad.string() + " konnte nicht bis zum Ende gelesen werden: " + Systemfehler_text(sitzung.Dateifehler));
+    lauf.konsole.Fehler(pfad.string() + " konnte nicht bis zum Ende gelesen werden: " +
+                        Systemfehler_text(sitzung.Dateifehler));
   }
   return ergebnis == Laden::geladen;
 }
@@ -26,7 +27,8 @@ bool Projekt_sichern(Lauf& lauf, const std::filesystem::path& pfad) {
   projekt.Projekt_name = std::filesystem::path(pfad).replace_extension().string();
   const Speichern ergebnis = Projekt_speichern();
   if (ergebnis == Speichern::nicht_geschrieben) {
-    lauf.konsole.Fehler(pfad.string() + " konnte nicht geschrieben werden (" + Systemfehler_text(sitzung.Dateifehler) +
+    lauf.konsole.Fehler(pfad.string() + " konnte nicht geschrieben werden (" +
+                        Systemfehler_text(sitzung.Dateifehler) +
                         "). Die Datei auf der Platte ist unverändert.");
   }
   return ergebnis == Speichern::gespeichert;

@@ -46,7 +46,8 @@ std::vector<Zeile> Kennzahlen_zeilen(const Projekt& p) {
       {"Dimmerausgänge", Von(k.dimmer_benutzt, dimmerausgaenge)},
       {"Timer", Von(k.timer_benutzt, timeranzahl)},
       {"Wetterfunktionen", std::to_string(k.wetterfunktionen)},
-      {"Funksender", std::to_string(k.funksender) + " an " + std::to_string(k.funkempfaenger) + " Empfängern"},
+      {"Funksender",
+       std::to_string(k.funksender) + " an " + std::to_string(k.funkempfaenger) + " Empfängern"},
       {"App-Tasten", std::to_string(k.apptasten)},
       {"Kameras", std::to_string(k.kameras)},
   };

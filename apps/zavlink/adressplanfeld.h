@@ -5,6 +5,7 @@
 
 namespace zav::fenster {
 
-QWidget* Adressplanfeld_bauen(const Anordnung& a, Auffrischer& auffrischer, QWidget* eltern, Gebautes& ergebnis);
+QWidget* Adressplanfeld_bauen(const Anordnung& a, Auffrischer& auffrischer, QWidget* eltern,
+                              Gebautes& ergebnis);
 
 }  // namespace zav::fenster

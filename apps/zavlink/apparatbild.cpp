@@ -29,18 +29,35 @@ struct Aussehen {
   const char* symbol = "";
 };
 constexpr Aussehen aussehen[] = {
-    {1, 32, Gestalt::tasten},       {33, 38, Gestalt::steckdose},      {39, 40, Gestalt::thermostat},
-    {41, 41, Gestalt::bewegung},    {42, 42, Gestalt::symbol, "glocke"}, {43, 43, Gestalt::blende},
-    {44, 44, Gestalt::lautsprecher}, {45, 45, Gestalt::bewegung},      {46, 64, Gestalt::tasten},
-    {65, 67, Gestalt::sender},      {68, 69, Gestalt::klemmen},        {70, 71, Gestalt::sender},
-    {72, 74, Gestalt::klemmen},     {75, 75, Gestalt::symbol, "wetter"}, {76, 77, Gestalt::klemmen},
-    {78, 78, Gestalt::thermostat},  {79, 79, Gestalt::symbol, "touchpanel"}, {80, 80, Gestalt::blende},
-    {81, 86, Gestalt::tasten},      {87, 87, Gestalt::sender},         {88, 88, Gestalt::symbol, "funk"},
-    {89, 89, Gestalt::bewegung},    {90, 92, Gestalt::tasten},         {93, 93, Gestalt::symbol, "kamera"},
+    {1, 32, Gestalt::tasten},
+    {33, 38, Gestalt::steckdose},
+    {39, 40, Gestalt::thermostat},
+    {41, 41, Gestalt::bewegung},
+    {42, 42, Gestalt::symbol, "glocke"},
+    {43, 43, Gestalt::blende},
+    {44, 44, Gestalt::lautsprecher},
+    {45, 45, Gestalt::bewegung},
+    {46, 64, Gestalt::tasten},
+    {65, 67, Gestalt::sender},
+    {68, 69, Gestalt::klemmen},
+    {70, 71, Gestalt::sender},
+    {72, 74, Gestalt::klemmen},
+    {75, 75, Gestalt::symbol, "wetter"},
+    {76, 77, Gestalt::klemmen},
+    {78, 78, Gestalt::thermostat},
+    {79, 79, Gestalt::symbol, "touchpanel"},
+    {80, 80, Gestalt::blende},
+    {81, 86, Gestalt::tasten},
+    {87, 87, Gestalt::sender},
+    {88, 88, Gestalt::symbol, "funk"},
+    {89, 89, Gestalt::bewegung},
+    {90, 92, Gestalt::tasten},
+    {93, 93, Gestalt::symbol, "kamera"},
 };
 
 const Aussehen& Aussehen_von(int typ) {
-  const auto* const a = std::ranges::find_if(aussehen, [typ](const Aussehen& e) { return typ >= e.von && typ <= e.bis; });
+  const auto* const a =
+      std::ranges::find_if(aussehen, [typ](const Aussehen& e) { return typ >= e.von && typ <= e.bis; });
   return a != std::end(aussehen) ? *a : aussehen[0];
 }
 
@@ -79,7 +96,8 @@ void Taste_malen(QPainter& p, const QRectF& r, const Apparatbild::Taste& t, bool
   const QFontMetricsF mass(p.font());
   const QString text = t.text.isEmpty() ? QString::number(nummer) : t.text;
   const bool zweizeilig = innen.height() > 2.2 * mass.height() && text.contains(' ');
-  if (zweizeilig && mass.boundingRect(innen, Qt::AlignCenter | Qt::TextWordWrap, text).height() <= innen.height() &&
+  if (zweizeilig &&
+      mass.boundingRect(innen, Qt::AlignCenter | Qt::TextWordWrap, text).height() <= innen.height() &&
       mass.boundingRect(innen, Qt::AlignCenter | Qt::TextWordWrap, text).width() <= innen.width()) {
     p.drawText(innen, Qt::AlignCenter | Qt::TextWordWrap, text);
   } else {
@@ -148,7 +166,9 @@ void Bewegung_malen(QPainter& p, const QRectF& r) {
   const QRectF linse(r.center().x() - radius, r.center().y() - radius, 2 * radius, 2 * radius);
   p.drawChord(linse, 0, 180 * 16);
   for (const double f : {1.3, 1.7}) {
-    p.drawArc(QRectF(r.center().x() - radius * f, r.center().y() - radius * f, 2 * radius * f, 2 * radius * f), 225 * 16, 90 * 16);
+    p.drawArc(
+        QRectF(r.center().x() - radius * f, r.center().y() - radius * f, 2 * radius * f, 2 * radius * f),
+        225 * 16, 90 * 16);
   }
 }
 
@@ -158,7 +178,8 @@ void Lautsprecher_malen(QPainter& p, const QRectF& r) {
   const double schritt = std::min(r.width(), r.height()) / 7;
   for (int x = -2; x <= 2; ++x) {
     for (int y = -2; y <= 2; ++y) {
-      if (x * x + y * y <= 5) p.drawEllipse(r.center() + QPointF(x * schritt, y * schritt), schritt * 0.22, schritt * 0.22);
+      if (x * x + y * y <= 5)
+        p.drawEllipse(r.center() + QPointF(x * schritt, y * schritt), schritt * 0.22, schritt * 0.22);
     }
   }
 }
@@ -173,8 +194,10 @@ void Sender_malen(QPainter& p, const QRectF& r, const Apparatbild& bild) {
   for (int zeile = 0; zeile < 5; ++zeile) {
     for (int spalte = 0; spalte < 3; ++spalte) {
       const auto n = static_cast<std::size_t>(3 * zeile + spalte);
-      p.setBrush(n < bild.tasten.size() && bild.tasten.at(n).belegt ? Farbe_qt(Farbe::belegt).darker(140) : led);
-      p.drawEllipse(QPointF(koerper.left() + koerper.width() * (spalte + 1) / 4, koerper.top() + koerper.height() * (zeile + 1) / 6),
+      p.setBrush(n < bild.tasten.size() && bild.tasten.at(n).belegt ? Farbe_qt(Farbe::belegt).darker(140)
+                                                                    : led);
+      p.drawEllipse(QPointF(koerper.left() + koerper.width() * (spalte + 1) / 4,
+                            koerper.top() + koerper.height() * (zeile + 1) / 6),
                     hoehe * 0.032, hoehe * 0.032);
     }
   }
@@ -182,7 +205,8 @@ void Sender_malen(QPainter& p, const QRectF& r, const Apparatbild& bild) {
 
 void Klemmen_malen(QPainter& p, const QRectF& r, const Apparatbild& bild, const Apparatart& art) {
   const int anzahl = art.adressen > 1 ? 8 : 4;
-  const QRectF baugruppe(r.left() + r.width() * 0.06, r.center().y() - r.height() * 0.3, r.width() * 0.88, r.height() * 0.6);
+  const QRectF baugruppe(r.left() + r.width() * 0.06, r.center().y() - r.height() * 0.3, r.width() * 0.88,
+                         r.height() * 0.6);
   p.setPen(QPen(zeichen, 1.5));
   p.setBrush(Qt::white);
   p.drawRoundedRect(baugruppe, 3, 3);
@@ -191,7 +215,8 @@ void Klemmen_malen(QPainter& p, const QRectF& r, const Apparatbild& bild, const 
     const bool belegt = bild.tasten.at(static_cast<std::size_t>(i)).belegt;
     p.setPen(QPen(zeichen, 1));
     p.setBrush(belegt ? Farbe_qt(Farbe::belegt) : QColor(Qt::white));
-    p.drawEllipse(QPointF(baugruppe.left() + (i + 0.5) * schritt, baugruppe.bottom() - schritt * 0.7), schritt * 0.3, schritt * 0.3);
+    p.drawEllipse(QPointF(baugruppe.left() + (i + 0.5) * schritt, baugruppe.bottom() - schritt * 0.7),
+                  schritt * 0.3, schritt * 0.3);
   }
   p.setPen(zeichen);
   p.setFont(Schrift(baugruppe.height() * 0.26));
@@ -220,7 +245,8 @@ void Apparat_malen(QPainter& p, const QRectF& r, const Apparatbild& bild) {
   if (fuss > 0) {
     p.setPen(led);
     p.setFont(Schrift(10));
-    p.drawText(QRectF(r.left() + rand, r.bottom() - fuss - 3, r.width() - 2 * rand, fuss), Qt::AlignRight | Qt::AlignVCenter, bild.adresse);
+    p.drawText(QRectF(r.left() + rand, r.bottom() - fuss - 3, r.width() - 2 * rand, fuss),
+               Qt::AlignRight | Qt::AlignVCenter, bild.adresse);
   }
   const Aussehen& a = Aussehen_von(bild.typ);
   switch (a.gestalt) {
@@ -233,7 +259,8 @@ void Apparat_malen(QPainter& p, const QRectF& r, const Apparatbild& bild) {
     case Gestalt::klemmen: Klemmen_malen(p, innen, bild, *art); break;
     case Gestalt::symbol: {
       const double mass = std::min(innen.width(), innen.height()) * 0.7;
-      Symbol_malen(p, QRectF(innen.center().x() - mass / 2, innen.center().y() - mass / 2, mass, mass), a.symbol, zeichen, QColor("#1d6fb8"));
+      Symbol_malen(p, QRectF(innen.center().x() - mass / 2, innen.center().y() - mass / 2, mass, mass),
+                   a.symbol, zeichen, QColor("#1d6fb8"));
       break;
     }
     case Gestalt::blende:
@@ -244,7 +271,8 @@ void Apparat_malen(QPainter& p, const QRectF& r, const Apparatbild& bild) {
   }
   if (art->ist(gruppe_funk)) {
     const double mass = std::clamp(r.width() * 0.16, 10.0, 18.0);
-    Symbol_malen(p, QRectF(r.left() + 3, r.bottom() - mass - 2, mass, mass), "funk", zeichen, QColor("#1d6fb8"));
+    Symbol_malen(p, QRectF(r.left() + 3, r.bottom() - mass - 2, mass, mass), "funk", zeichen,
+                 QColor("#1d6fb8"));
   }
   p.restore();
 }
@@ -265,7 +293,8 @@ void Layout_malen(QPainter& p, const QRectF& r, int nummer, const QColor& linie,
   p.setPen(QPen(linie, 1.2));
   for (int z = 0; z < layout->zeilen; ++z) {
     for (int s = 0; s < layout->spalten; ++s) {
-      p.drawRect(QRectF(ecke.x() + s * schritt, ecke.y() + z * schritt, schritt, schritt).adjusted(0.6, 0.6, -0.6, -0.6));
+      p.drawRect(QRectF(ecke.x() + s * schritt, ecke.y() + z * schritt, schritt, schritt)
+                     .adjusted(0.6, 0.6, -0.6, -0.6));
     }
   }
   p.restore();

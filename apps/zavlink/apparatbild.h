@@ -1,4 +1,5 @@
-// Pictures of devices and of layouts, drawn from the catalogue: plates with their keys, LEDs and the sign of the kind.
+// Pictures of devices and of layouts, drawn from the catalogue: plates with their keys, LEDs and the sign of
+// the kind.
 #pragma once
 
 #include <QPainter>

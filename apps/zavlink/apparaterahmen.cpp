@@ -46,7 +46,8 @@ class Apparaterahmen final : public QWidget {
     p.setRenderHint(QPainter::Antialiasing);
     if (form_.kombination() < 0) {
       p.setPen(palette().color(QPalette::PlaceholderText));
-      p.drawText(rect(), Qt::AlignCenter | Qt::TextWordWrap, "Links eine Kombination wählen\noder eine neue anlegen.");
+      p.drawText(rect(), Qt::AlignCenter | Qt::TextWordWrap,
+                 "Links eine Kombination wählen\noder eine neue anlegen.");
       return;
     }
     // The frame is as large as its plates.
@@ -95,7 +96,8 @@ class Apparaterahmen final : public QWidget {
       case Qt::Key_Return:
       case Qt::Key_Enter:
       case Qt::Key_Space:
-        if (form_.platz() >= 0 && Apparat_art(typ(form_.platz())) == nullptr) Handeln([this] { druecken(form_.mnuChoose); });
+        if (form_.platz() >= 0 && Apparat_art(typ(form_.platz())) == nullptr)
+          Handeln([this] { druecken(form_.mnuChoose); });
         return;
       default: QWidget::keyPressEvent(e); return;
     }
@@ -145,8 +147,10 @@ class Apparaterahmen final : public QWidget {
     const Layout* const layout = Layout_von(projekt.Komb_layout[form_.kombination()]);
     const int spalten = layout == nullptr ? 4 : layout->spalten;
     const int zeilen = layout == nullptr ? 4 : layout->zeilen;
-    const double mass = std::clamp(std::min((width() - 2 * rahmenrand - 4) / spalten, (height() - 2 * rahmenrand - 4) / zeilen) - abstand,
-                                   platz_kleinst, platz_groesst);
+    const double mass = std::clamp(
+        std::min((width() - 2 * rahmenrand - 4) / spalten, (height() - 2 * rahmenrand - 4) / zeilen) -
+            abstand,
+        platz_kleinst, platz_groesst);
     const double links = (width() - spalten * (mass + abstand) + abstand) / 2;
     const int zeile = i / 4;
     return {links + i % 4 * (mass + abstand), rahmenrand + 2 + zeile * (mass + abstand), mass, mass};

@@ -5,6 +5,7 @@
 
 namespace zav::fenster {
 
-QWidget* Apparaterahmen_bauen(const Anordnung& a, Auffrischer& auffrischer, QWidget* eltern, Gebautes& ergebnis);
+QWidget* Apparaterahmen_bauen(const Anordnung& a, Auffrischer& auffrischer, QWidget* eltern,
+                              Gebautes& ergebnis);
 
 }  // namespace zav::fenster

@@ -17,7 +17,8 @@ namespace {
 // Puts the lines of the page into a grid whenever the device has changed.
 class Apparatseitenfeld final : public QScrollArea {
  public:
-  Apparatseitenfeld(Einmask8& form, const Gebautes& g, QWidget* eltern) : QScrollArea(eltern), form_(form), gebautes_(g) {
+  Apparatseitenfeld(Einmask8& form, const Gebautes& g, QWidget* eltern)
+      : QScrollArea(eltern), form_(form), gebautes_(g) {
     setFrameShape(QFrame::NoFrame);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setWidgetResizable(true);
@@ -32,7 +33,9 @@ class Apparatseitenfeld final : public QScrollArea {
 
   QSize sizeHint() const override { return {72 * raster, 46 * raster}; }
   QSize minimumSizeHint() const override {
-    return {std::max(56 * raster, widget()->minimumSizeHint().width() + verticalScrollBar()->sizeHint().width()), 24 * raster};
+    return {
+        std::max(56 * raster, widget()->minimumSizeHint().width() + verticalScrollBar()->sizeHint().width()),
+        24 * raster};
   }
 
   void ordnen() {

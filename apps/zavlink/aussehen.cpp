@@ -24,13 +24,18 @@ void Flaeche_malen(QPainter& p, const QStyleOption& o, bool vorgabe) {
   QColor flaeche = o.palette.color(QPalette::Button);
   if (!frei) flaeche = o.palette.color(QPalette::Window);
   if (z.testFlag(QStyle::State_Sunken)) flaeche = flaeche.darker(115);
-  else if (frei && z.testFlag(QStyle::State_MouseOver)) flaeche = flaeche.lightness() < 128 ? flaeche.lighter(115) : flaeche.darker(104);
+  else if (frei && z.testFlag(QStyle::State_MouseOver))
+    flaeche = flaeche.lightness() < 128 ? flaeche.lighter(115) : flaeche.darker(104);
   const bool gedrueckt = z.testFlag(QStyle::State_On);
-  const bool ring = frei && (vorgabe || gedrueckt || (z.testFlag(QStyle::State_HasFocus) && z.testFlag(QStyle::State_KeyboardFocusChange)));
+  const bool ring =
+      frei && (vorgabe || gedrueckt ||
+               (z.testFlag(QStyle::State_HasFocus) && z.testFlag(QStyle::State_KeyboardFocusChange)));
   p.save();
   p.setRenderHint(QPainter::Antialiasing);
   p.setBrush(flaeche);
-  p.setPen(QPen(ring ? QApplication::palette().color(QPalette::Highlight) : QApplication::palette().color(QPalette::Mid), gedrueckt ? 2 : 1));
+  p.setPen(QPen(ring ? QApplication::palette().color(QPalette::Highlight)
+                     : QApplication::palette().color(QPalette::Mid),
+                gedrueckt ? 2 : 1));
   p.drawRoundedRect(QRectF(o.rect).adjusted(1, 1, -1, -1), rundung, rundung);
   p.restore();
 }
@@ -51,7 +56,8 @@ void Feld_malen(QPainter& p, const QStyleOption& o) {
   p.setRenderHint(QPainter::Antialiasing);
   p.setPen(Linie(o));
   p.setBrush(o.palette.color(o.state.testFlag(QStyle::State_Enabled) ? QPalette::Base : QPalette::Window));
-  if (!o.state.testFlag(QStyle::State_Enabled) && o.palette.color(QPalette::Base) != QApplication::palette().color(QPalette::Base)) {
+  if (!o.state.testFlag(QStyle::State_Enabled) &&
+      o.palette.color(QPalette::Base) != QApplication::palette().color(QPalette::Base)) {
     p.setBrush(o.palette.color(QPalette::Base));
   }
   p.drawRoundedRect(QRectF(o.rect).adjusted(0.8, 0.8, -0.8, -0.8), rundung, rundung);
@@ -69,7 +75,8 @@ void Rahmen_malen(QPainter& p, const QStyleOption& o) {
 // Boxes and option buttons: an outline, filled in the highlight's colour when set.
 void Anzeige_beginnen(QPainter& p, const QStyleOption& o, bool an) {
   const bool frei = o.state.testFlag(QStyle::State_Enabled);
-  const QColor voll = frei ? QApplication::palette().color(QPalette::Highlight) : QApplication::palette().color(QPalette::Mid);
+  const QColor voll = frei ? QApplication::palette().color(QPalette::Highlight)
+                           : QApplication::palette().color(QPalette::Mid);
   p.setRenderHint(QPainter::Antialiasing);
   p.setPen(an ? QPen(voll, 1) : Linie(o));
   p.setBrush(an ? voll : QApplication::palette().color(frei ? QPalette::Base : QPalette::Window));
@@ -83,7 +90,9 @@ void Haken_malen(QPainter& p, const QStyleOption& o) {
   p.drawRoundedRect(r, 3, 3);
   if (an) {
     p.setPen(QPen(Qt::white, r.width() * 0.13, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-    const auto ort = [&r](double x, double y) { return QPointF(r.left() + x * r.width(), r.top() + y * r.height()); };
+    const auto ort = [&r](double x, double y) {
+      return QPointF(r.left() + x * r.width(), r.top() + y * r.height());
+    };
     p.drawPolyline(QPolygonF({ort(0.24, 0.52), ort(0.43, 0.71), ort(0.77, 0.31)}));
   }
   p.restore();
@@ -146,7 +155,9 @@ QSize Stil::sizeFromContents(ContentsType t, const QStyleOption* o, const QSize&
 void Stil::drawControl(ControlElement e, const QStyleOption* o, QPainter* p, const QWidget* w) const {
   if (e == CE_PushButtonBevel) {
     const auto* const knopf = qstyleoption_cast<const QStyleOptionButton*>(o);
-    if (w != nullptr && w->property("flach").toBool() && !(o->state & (State_MouseOver | State_Sunken | State_HasFocus))) return;
+    if (w != nullptr && w->property("flach").toBool() &&
+        !(o->state & (State_MouseOver | State_Sunken | State_HasFocus)))
+      return;
     if (knopf != nullptr && !knopf->features.testFlag(QStyleOptionButton::HasMenu)) {
       Flaeche_malen(*p, *o, knopf->features.testFlag(QStyleOptionButton::DefaultButton));
       return;
@@ -167,8 +178,10 @@ void Stil::drawControl(ControlElement e, const QStyleOption* o, QPainter* p, con
     const bool gewaehlt = o->state.testFlag(State_Selected);
     const QRect r = o->rect;
     p->fillRect(QRect(r.left(), r.bottom(), r.width(), 1), o->palette.color(QPalette::Mid));
-    if (o->state.testFlag(State_MouseOver) && !gewaehlt) p->fillRect(r.adjusted(0, 0, 0, -1), o->palette.color(QPalette::Midlight));
-    if (gewaehlt) p->fillRect(QRect(r.left(), r.bottom() - 2, r.width(), 3), o->palette.color(QPalette::Highlight));
+    if (o->state.testFlag(State_MouseOver) && !gewaehlt)
+      p->fillRect(r.adjusted(0, 0, 0, -1), o->palette.color(QPalette::Midlight));
+    if (gewaehlt)
+      p->fillRect(QRect(r.left(), r.bottom() - 2, r.width(), 3), o->palette.color(QPalette::Highlight));
     return;
   }
   QProxyStyle::drawControl(e, o, p, w);
@@ -199,7 +212,8 @@ void Aussehen_setzen(Thema thema) {
   QApplication::setPalette(dunkel ? Palette_dunkel() : Palette_hell());
   QLocale::setDefault(QLocale(QLocale::German, QLocale::Switzerland));
   static QTranslator texte;
-  if (texte.load("qtbase_de", QLibraryInfo::path(QLibraryInfo::TranslationsPath))) QApplication::installTranslator(&texte);
+  if (texte.load("qtbase_de", QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+    QApplication::installTranslator(&texte);
 }
 
 }  // namespace zav::fenster

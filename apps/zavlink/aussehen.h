@@ -11,7 +11,8 @@ class Stil final : public QProxyStyle {
   Stil();
   int pixelMetric(PixelMetric m, const QStyleOption* o, const QWidget* w) const override;
   int styleHint(StyleHint h, const QStyleOption* o, const QWidget* w, QStyleHintReturn* r) const override;
-  QSize sizeFromContents(ContentsType t, const QStyleOption* o, const QSize& s, const QWidget* w) const override;
+  QSize sizeFromContents(ContentsType t, const QStyleOption* o, const QSize& s,
+                         const QWidget* w) const override;
   void drawControl(ControlElement e, const QStyleOption* o, QPainter* p, const QWidget* w) const override;
   void drawPrimitive(PrimitiveElement e, const QStyleOption* o, QPainter* p, const QWidget* w) const override;
 };

@@ -34,7 +34,8 @@ void Baumfeld::neu_fuellen() {
   gezeigt_ = baum_.knoten();
   zweige_.clear();
   clear();
-  std::vector<int> blaetter(gezeigt_.size(), 0);  // leaves so far below each node: they stand before its branches
+  std::vector<int> blaetter(gezeigt_.size(),
+                            0);  // leaves so far below each node: they stand before its branches
   std::vector<bool> hat_kinder(gezeigt_.size(), false);
   for (const Baum::Knoten& k : gezeigt_) {
     if (k.eltern >= 0) hat_kinder.at(static_cast<std::size_t>(k.eltern)) = true;
@@ -55,7 +56,8 @@ void Baumfeld::neu_fuellen() {
     if (!k.bild.empty()) zweig->setIcon(0, Symbolbild(k.bild));
     zweige_.push_back(zweig);
   }
-  for (std::size_t i = 0; i < gezeigt_.size(); ++i) zweige_[i]->setExpanded(gezeigt_[i].offen || gezeigt_[i].eltern < 0);
+  for (std::size_t i = 0; i < gezeigt_.size(); ++i)
+    zweige_[i]->setExpanded(gezeigt_[i].offen || gezeigt_[i].eltern < 0);
 }
 
 void Baumfeld::auffrischen() {

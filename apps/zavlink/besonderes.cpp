@@ -1,9 +1,9 @@
 // The painted widgets by the names under which layouts ask for them.
 #include <array>
 
+#include "zavlink/adressplanfeld.h"
 #include "zavlink/apparaterahmen.h"
 #include "zavlink/apparatseitenfeld.h"
-#include "zavlink/adressplanfeld.h"
 #include "zavlink/bilderwahl.h"
 #include "zavlink/renderer.h"
 #include "zavlink/tagesskala.h"
@@ -16,9 +16,9 @@ Besonderer_bau Besonderer_bau_von(const std::string& name) {
     Besonderer_bau bau;
   };
   static constexpr std::array tabelle{
-      Eintrag{"adressplan", Adressplanfeld_bauen},   Eintrag{"apparatebilder", Bilderwahl_bauen},
+      Eintrag{"adressplan", Adressplanfeld_bauen},     Eintrag{"apparatebilder", Bilderwahl_bauen},
       Eintrag{"apparaterahmen", Apparaterahmen_bauen}, Eintrag{"apparatseite", Apparatseitenfeld_bauen},
-      Eintrag{"tasterbilder", Bilderwahl_bauen},     Eintrag{"Tagesskala", Tagesskala_bauen},
+      Eintrag{"tasterbilder", Bilderwahl_bauen},       Eintrag{"Tagesskala", Tagesskala_bauen},
   };
   for (const Eintrag& e : tabelle) {
     if (e.name == name) return e.bau;

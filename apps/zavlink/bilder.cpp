@@ -1,4 +1,5 @@
-// Makes a picture of every window: zavlink_bilder PROJECT FOLDER [NAME...]. Run it with QT_QPA_PLATFORM=offscreen.
+// Makes a picture of every window: zavlink_bilder PROJECT FOLDER [NAME...]. Run it with
+// QT_QPA_PLATFORM=offscreen.
 #include <QApplication>
 #include <QDir>
 #include <QFile>

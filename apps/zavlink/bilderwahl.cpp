@@ -27,7 +27,8 @@ int Apparat_der_zelle(const Anordnung& a, const std::string& text) {
 
 class Bilderwahl final : public Kartenfeld {
  public:
-  Bilderwahl(Auswahl& auswahl, std::vector<int> typen, QWidget* eltern) : Kartenfeld(auswahl, eltern), typen_(std::move(typen)) {}
+  Bilderwahl(Auswahl& auswahl, std::vector<int> typen, QWidget* eltern)
+      : Kartenfeld(auswahl, eltern), typen_(std::move(typen)) {}
 
  protected:
   int spalten() const override { return auswahl().anzahl() > 40 ? 11 : auswahl().anzahl() > 16 ? 8 : 5; }

@@ -62,9 +62,10 @@ void Handeln(const std::function<void()>& tat) {
   try {
     tat();
   } catch (const std::exception& fehler) {
-    QMessageBox::critical(nullptr, "Fehler im Programm",
-                          QString("Der Befehl wurde abgebrochen. Bitte speichern Sie das Projekt unter anderem Namen.\n\n%1")
-                              .arg(fehler.what()));
+    QMessageBox::critical(
+        nullptr, "Fehler im Programm",
+        QString("Der Befehl wurde abgebrochen. Bitte speichern Sie das Projekt unter anderem Namen.\n\n%1")
+            .arg(fehler.what()));
   }
 }
 
@@ -137,7 +138,8 @@ class Reglerfeld final : public QSlider {
 
 QWidget* Schieber_bauen(Schieber& s, Auffrischer& auf, QWidget* eltern) {
   auto* const w = new Reglerfeld(eltern);
-  QObject::connect(w, &QSlider::valueChanged, w, [&s](int wert) { Handeln(s, [&s, wert] { s.schieben(wert); }); });
+  QObject::connect(w, &QSlider::valueChanged, w,
+                   [&s](int wert) { Handeln(s, [&s, wert] { s.schieben(wert); }); });
   auf.binden(s, [&s, w] {
     const QSignalBlocker stumm(w);
     Gemeinsames(*w, s);
@@ -204,7 +206,8 @@ QWidget* Kalender_bauen(Kalender& k, Auffrischer& auf, QWidget* eltern) {
   w->setFirstDayOfWeek(Qt::Monday);
   w->setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
   w->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
-  for (const auto& [name, pfeil] : {std::pair{"qt_calendar_prevmonth", Qt::LeftArrow}, {"qt_calendar_nextmonth", Qt::RightArrow}}) {
+  for (const auto& [name, pfeil] :
+       {std::pair{"qt_calendar_prevmonth", Qt::LeftArrow}, {"qt_calendar_nextmonth", Qt::RightArrow}}) {
     if (auto* const knopf = w->findChild<QToolButton*>(name)) {
       knopf->setIcon(QIcon());
       knopf->setArrowType(pfeil);
@@ -260,7 +263,8 @@ QAction* Aktion_bauen(Steuerelement& e, Auffrischer& auf, QObject* eltern) {
   if (e.art == Art::Kaestchen) {
     auto& k = static_cast<Kaestchen&>(e);
     aktion->setCheckable(true);
-    QObject::connect(aktion, &QAction::toggled, aktion, [&k](bool an) { Handeln(k, [&k, an] { k.haken(an); }); });
+    QObject::connect(aktion, &QAction::toggled, aktion,
+                     [&k](bool an) { Handeln(k, [&k, an] { k.haken(an); }); });
     auf.binden(e, [&k, aktion, gemeinsames] {
       const QSignalBlocker stumm(aktion);
       gemeinsames();

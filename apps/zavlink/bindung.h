@@ -1,4 +1,5 @@
-// One widget for one control: the widget forwards the user's act, a change of the control refreshes the widget.
+// One widget for one control: the widget forwards the user's act, a change of the control refreshes the
+// widget.
 #pragma once
 
 #include <QAction>

@@ -23,7 +23,8 @@ void Einfaerben(QWidget& w, Farbe f) {
     return;
   }
   QPalette p = QApplication::palette(&w);
-  for (const auto rolle : {QPalette::Base, QPalette::Button, QPalette::Window}) p.setColor(rolle, Farbe_qt(f));
+  for (const auto rolle : {QPalette::Base, QPalette::Button, QPalette::Window})
+    p.setColor(rolle, Farbe_qt(f));
   for (const auto rolle : {QPalette::Text, QPalette::ButtonText, QPalette::WindowText}) {
     p.setColor(rolle, Farbe_schrift());
     p.setColor(QPalette::Disabled, rolle, QColor(96, 98, 104));
@@ -49,20 +50,40 @@ QPalette Aus(const Tabelle& farben, const char* gesperrt) {
 }  // namespace
 
 QPalette Palette_hell() {
-  return Aus({{{QPalette::Window, "#f4f5f7"}, {QPalette::WindowText, "#1f2328"}, {QPalette::Base, "#ffffff"},
-               {QPalette::AlternateBase, "#f7f8fa"}, {QPalette::Text, "#1f2328"}, {QPalette::Button, "#ffffff"},
-               {QPalette::ButtonText, "#1f2328"}, {QPalette::Highlight, "#1d6fb8"}, {QPalette::HighlightedText, "#ffffff"},
-               {QPalette::PlaceholderText, "#79808a"}, {QPalette::ToolTipBase, "#ffffff"}, {QPalette::ToolTipText, "#1f2328"},
-               {QPalette::Link, "#1d6fb8"}, {QPalette::Mid, "#c3c8cf"}, {QPalette::Midlight, "#e3e6ea"}}},
+  return Aus({{{QPalette::Window, "#f4f5f7"},
+               {QPalette::WindowText, "#1f2328"},
+               {QPalette::Base, "#ffffff"},
+               {QPalette::AlternateBase, "#f7f8fa"},
+               {QPalette::Text, "#1f2328"},
+               {QPalette::Button, "#ffffff"},
+               {QPalette::ButtonText, "#1f2328"},
+               {QPalette::Highlight, "#1d6fb8"},
+               {QPalette::HighlightedText, "#ffffff"},
+               {QPalette::PlaceholderText, "#79808a"},
+               {QPalette::ToolTipBase, "#ffffff"},
+               {QPalette::ToolTipText, "#1f2328"},
+               {QPalette::Link, "#1d6fb8"},
+               {QPalette::Mid, "#c3c8cf"},
+               {QPalette::Midlight, "#e3e6ea"}}},
              "#8d949d");
 }
 
 QPalette Palette_dunkel() {
-  return Aus({{{QPalette::Window, "#22262b"}, {QPalette::WindowText, "#e6e8eb"}, {QPalette::Base, "#191c20"},
-               {QPalette::AlternateBase, "#1e2226"}, {QPalette::Text, "#e6e8eb"}, {QPalette::Button, "#2e343a"},
-               {QPalette::ButtonText, "#e6e8eb"}, {QPalette::Highlight, "#3f8fd6"}, {QPalette::HighlightedText, "#ffffff"},
-               {QPalette::PlaceholderText, "#8b929b"}, {QPalette::ToolTipBase, "#2e343a"}, {QPalette::ToolTipText, "#e6e8eb"},
-               {QPalette::Link, "#6cb2ec"}, {QPalette::Mid, "#4a525b"}, {QPalette::Midlight, "#363d44"}}},
+  return Aus({{{QPalette::Window, "#22262b"},
+               {QPalette::WindowText, "#e6e8eb"},
+               {QPalette::Base, "#191c20"},
+               {QPalette::AlternateBase, "#1e2226"},
+               {QPalette::Text, "#e6e8eb"},
+               {QPalette::Button, "#2e343a"},
+               {QPalette::ButtonText, "#e6e8eb"},
+               {QPalette::Highlight, "#3f8fd6"},
+               {QPalette::HighlightedText, "#ffffff"},
+               {QPalette::PlaceholderText, "#8b929b"},
+               {QPalette::ToolTipBase, "#2e343a"},
+               {QPalette::ToolTipText, "#e6e8eb"},
+               {QPalette::Link, "#6cb2ec"},
+               {QPalette::Mid, "#4a525b"},
+               {QPalette::Midlight, "#363d44"}}},
              "#7c848d");
 }
 

@@ -92,8 +92,10 @@ std::function<std::unique_ptr<Formular>()> Stueck_nach(std::function<void(F&)> t
 std::vector<Schaustueck> Formenschau() {
   const int ereignis = Erstes(projekt.Ein_leer, 1024);
   const int uhr_sonne = Erstes(projekt.Uhr_astro, 256);
-  const int wetter = std::max(0, Adresse_von(Apparat_finden([](int typ) { return typ == apparat_wetterstation; })));
-  const int sender = std::max(0, Apparat_finden([](int typ) { return typ > 0 && Apparat_funkart(typ) != 0; }));
+  const int wetter =
+      std::max(0, Adresse_von(Apparat_finden([](int typ) { return typ == apparat_wetterstation; })));
+  const int sender =
+      std::max(0, Apparat_finden([](int typ) { return typ > 0 && Apparat_funkart(typ) != 0; }));
   const auto seite = [](int n) { return [n](Actmask& f) { f.TabStrip1.waehlen(n); }; };
   return {
       {"gruss", Stueck<Gruss>()},
@@ -112,11 +114,14 @@ std::vector<Schaustueck> Formenschau() {
        })},
       {"layoutwahl", Stueck<Layoutwahl>(0)},
       {"apparatwahl", Stueck<Apparatwahl>(std::string("Feller + Diverse auswählen"), Apparate_feller())},
-      {"apparatwahl-enocean", Stueck<Apparatwahl>(std::string("Enocean + Diverse auswählen"), Apparate_enocean())},
+      {"apparatwahl-enocean",
+       Stueck<Apparatwahl>(std::string("Enocean + Diverse auswählen"), Apparate_enocean())},
       {"adressen", Stueck<Dialog_Kombination>(std::string("12"), 2)},
       {"funktionen-schalten", Stueck<Actmask>(ereignis, std::string("Erdgeschoss - Küche - Licht"))},
-      {"funktionen-dimmen", Stueck_nach<Actmask>(seite(1), ereignis, std::string("Erdgeschoss - Küche - Licht"))},
-      {"funktionen-timer", Stueck_nach<Actmask>(seite(2), ereignis, std::string("Erdgeschoss - Küche - Licht"))},
+      {"funktionen-dimmen",
+       Stueck_nach<Actmask>(seite(1), ereignis, std::string("Erdgeschoss - Küche - Licht"))},
+      {"funktionen-timer",
+       Stueck_nach<Actmask>(seite(2), ereignis, std::string("Erdgeschoss - Küche - Licht"))},
       {"neustart", Stueck<Actmask_init>()},
       {"neustart-dimmen", Stueck_nach<Actmask_init>([](Actmask_init& f) { f.TabStrip1.waehlen(1); })},
       {"dimmermodus", Stueck<Dimmermode>()},
@@ -132,7 +137,8 @@ std::vector<Schaustueck> Formenschau() {
       {"schaltzeit-fest", Stueck<Uhr_Astro>(0, std::string("Storen auf"), std::string("06.30.00"))},
       {"sonnen-info", Stueck<Uhr_Astro_Rechner>()},
       {"wetterlogik", Stueck<Wetterlogik>(wetter, Funktionen_oeffnen{})},
-      {"pruefbedingungen", Stueck_nach<Wetterlogik>([](Wetterlogik& f) { f.Command2.druecken(); }, wetter, Funktionen_oeffnen{})},
+      {"pruefbedingungen",
+       Stueck_nach<Wetterlogik>([](Wetterlogik& f) { f.Command2.druecken(); }, wetter, Funktionen_oeffnen{})},
       {"wetterdisplay", Stueck<Wetterdisplay>()},
       {"enocean_definition", Stueck<Enocean_Definition>(sender)},
       {"enocean_send", Stueck<Enocean_Send>()},

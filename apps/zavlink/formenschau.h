@@ -1,5 +1,5 @@
-// Every window of the program over the loaded project, in a state worth seeing: for the pictures of the manual and for
-// the test that walks all forms.
+// Every window of the program over the loaded project, in a state worth seeing: for the pictures of the
+// manual and for the test that walks all forms.
 #pragma once
 
 #include <functional>

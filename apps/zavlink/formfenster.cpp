@@ -26,11 +26,14 @@ constexpr QSize kleiner_schirm{1366, 768};
 constexpr QSize schirmrand{16, 28};
 
 // Sizes of windows are the window program's own matter and stand in a file of their own.
-QSettings Fenstergroessen() { return QSettings(QSettings::IniFormat, QSettings::UserScope, "ZAVlink", "Fenster"); }
+QSettings Fenstergroessen() {
+  return QSettings(QSettings::IniFormat, QSettings::UserScope, "ZAVlink", "Fenster");
+}
 
 }  // namespace
 
-Formfenster::Formfenster(Formular& f, QWidget* eltern) : QDialog(eltern), form_(f), auffrischer_(new Auffrischer(this)) {
+Formfenster::Formfenster(Formular& f, QWidget* eltern)
+    : QDialog(eltern), form_(f), auffrischer_(new Auffrischer(this)) {
   setObjectName(Q(f.name()));
   if (eltern == nullptr) setWindowFlags(Qt::Window);
   setWindowFlag(Qt::WindowMaximizeButtonHint);
@@ -112,7 +115,8 @@ void Formfenster::nachfuehren() {
   if (form_.fokus() != fokus_) {
     fokus_ = form_.fokus();
     const auto w = gebautes_.widgets.find(fokus_);
-    if (w != gebautes_.widgets.end()) QTimer::singleShot(0, w->second, [ziel = w->second] { ziel->setFocus(); });
+    if (w != gebautes_.widgets.end())
+      QTimer::singleShot(0, w->second, [ziel = w->second] { ziel->setFocus(); });
   }
   if (!form_.offen()) schleife_.quit();
 }

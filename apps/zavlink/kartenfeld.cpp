@@ -23,7 +23,8 @@ Kartenfeld::Kartenfeld(Auswahl& auswahl, QWidget* eltern) : QWidget(eltern), aus
 }
 
 void Kartenfeld::auffrischen() {
-  zeiger_ = std::clamp(auswahl_.position() >= 0 ? auswahl_.position() : zeiger_, 0, std::max(0, auswahl_.anzahl() - 1));
+  zeiger_ = std::clamp(auswahl_.position() >= 0 ? auswahl_.position() : zeiger_, 0,
+                       std::max(0, auswahl_.anzahl() - 1));
   updateGeometry();
   update();
 }
@@ -33,11 +34,14 @@ int Kartenfeld::zeilen() const { return std::max(1, (auswahl_.anzahl() + spalten
 
 QSize Kartenfeld::zellmass() const {
   int breite = 36;
-  for (const auto& e : auswahl_.eintraege()) breite = std::max(breite, std::min(150, fontMetrics().horizontalAdvance(Q(e.text)) + 12));
+  for (const auto& e : auswahl_.eintraege())
+    breite = std::max(breite, std::min(150, fontMetrics().horizontalAdvance(Q(e.text)) + 12));
   return {breite, 28};
 }
 
-QSize Kartenfeld::sizeHint() const { return {spalten() * zellmass().width(), zeilen() * zellmass().height()}; }
+QSize Kartenfeld::sizeHint() const {
+  return {spalten() * zellmass().width(), zeilen() * zellmass().height()};
+}
 QSize Kartenfeld::minimumSizeHint() const {
   return {spalten() * std::min(zellmass().width(), 60), zeilen() * std::min(zellmass().height(), 56)};
 }

@@ -1,4 +1,5 @@
-// A map of cells to choose from by mouse or keyboard. The cells' look is the subclass's; the plain map shows their texts.
+// A map of cells to choose from by mouse or keyboard. The cells' look is the subclass's; the plain map shows
+// their texts.
 #pragma once
 
 #include <QWidget>
@@ -46,8 +47,8 @@ class Kartenfeld : public QWidget {
   void zeigen(int i);
 
   Auswahl& auswahl_;
-  int zeiger_ = 0;      // cell of the keyboard
-  int ueber_ = -1;      // cell under the pointer
+  int zeiger_ = 0;  // cell of the keyboard
+  int ueber_ = -1;  // cell under the pointer
 };
 
 }  // namespace zav::fenster

@@ -36,7 +36,8 @@ Aufruf Lesen(const QApplication& programm) {
   parser.setApplicationDescription("ZAVlink: Konfiguration und Service des ZAVnet-Bussystems.");
   const QCommandLineOption hilfe({"h", "help", "hilfe"}, "Zeigt diese Hilfe.");
   const QCommandLineOption versionsfrage({"v", "version"}, "Zeigt die Version.");
-  const QCommandLineOption simulator("simulator", "Startet mit einem simulierten ZAVmaster als Schnittstelle.");
+  const QCommandLineOption simulator("simulator",
+                                     "Startet mit einem simulierten ZAVmaster als Schnittstelle.");
   const QCommandLineOption hell("hell", "Helle Darstellung.");
   const QCommandLineOption dunkel("dunkel", "Dunkle Darstellung.");
   parser.addOptions({hilfe, versionsfrage, simulator, hell, dunkel});
@@ -70,7 +71,8 @@ void Handbuch_zeigen(const std::string& form) {
 
 // A trial keeps its settings to itself: the simulated interface must not become the user's.
 void Einstellungen_trennen() {
-  const QString ordner = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) + "/ZAVlink/Simulator";
+  const QString ordner =
+      QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) + "/ZAVlink/Simulator";
   QDir().mkpath(ordner);
   qputenv("XDG_CONFIG_HOME", ordner.toUtf8());
 }

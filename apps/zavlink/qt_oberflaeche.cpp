@@ -54,7 +54,8 @@ void Einrichten(QFileDialog& d, const Dateifrage& f) {
   d.setDirectory(!f.ordner.empty() && QDir(Q(f.ordner)).exists() ? Q(f.ordner) : QDir::homePath());
   QStringList filter;
   // The patterns stand in the filter's text already; Qt reads them from its brackets.
-  for (const Dateifilter& e : f.filter) filter << (Q(e.text).contains('(') ? Q(e.text) : Q(e.text) + " (" + Q(e.muster) + ")");
+  for (const Dateifilter& e : f.filter)
+    filter << (Q(e.text).contains('(') ? Q(e.text) : Q(e.text) + " (" + Q(e.muster) + ")");
   if (!filter.isEmpty()) {
     d.setNameFilters(filter);
     d.selectNameFilter(filter.value(f.filter_nr));
@@ -66,9 +67,10 @@ void Einrichten(QFileDialog& d, const Dateifrage& f) {
 
 std::optional<Dateiwahl> Fragen_qt(QFileDialog& d, QCheckBox* schutz) {
   if (d.exec() != QDialog::Accepted || d.selectedFiles().isEmpty()) return std::nullopt;
-  return Dateiwahl{.pfad = S(d.selectedFiles().first()),
-                   .filter_nr = std::max(0, static_cast<int>(d.nameFilters().indexOf(d.selectedNameFilter()))),
-                   .schreibgeschuetzt = schutz != nullptr && schutz->isChecked()};
+  return Dateiwahl{
+      .pfad = S(d.selectedFiles().first()),
+      .filter_nr = std::max(0, static_cast<int>(d.nameFilters().indexOf(d.selectedNameFilter()))),
+      .schreibgeschuetzt = schutz != nullptr && schutz->isChecked()};
 }
 
 }  // namespace
@@ -102,7 +104,8 @@ void Qt_oberflaeche::Zeiger_setzen(Zeiger z) {
 }
 
 void Qt_oberflaeche::Hinweis(const std::string& text) {
-  if (auto* const fenster = qobject_cast<Formfenster*>(QApplication::activeWindow())) fenster->hinweis_zeigen(Q(text));
+  if (auto* const fenster = qobject_cast<Formfenster*>(QApplication::activeWindow()))
+    fenster->hinweis_zeigen(Q(text));
 }
 
 void Qt_oberflaeche::DoEvents() { QApplication::processEvents(); }
@@ -120,7 +123,8 @@ std::optional<Dateiwahl> Qt_oberflaeche::Datei_oeffnen(const Dateifrage& f) {
   QCheckBox* schutz = nullptr;
   if (f.schreibschutz_waehlbar) {
     schutz = new QCheckBox("Sch&reibgeschützt öffnen", &d);
-    if (auto* const gitter = qobject_cast<QGridLayout*>(d.layout())) gitter->addWidget(schutz, gitter->rowCount(), 0, 1, -1);
+    if (auto* const gitter = qobject_cast<QGridLayout*>(d.layout()))
+      gitter->addWidget(schutz, gitter->rowCount(), 0, 1, -1);
   }
   return Fragen_qt(d, schutz);
 }
@@ -134,8 +138,8 @@ std::optional<Dateiwahl> Qt_oberflaeche::Datei_speichern(const Dateifrage& f) {
 }
 
 std::optional<std::string> Qt_oberflaeche::Ordner_waehlen(const std::string& beginn) {
-  const QString ordner = QFileDialog::getExistingDirectory(QApplication::activeWindow(), "Ordner wählen",
-                                                           QDir(Q(beginn)).exists() ? Q(beginn) : QDir::homePath());
+  const QString ordner = QFileDialog::getExistingDirectory(
+      QApplication::activeWindow(), "Ordner wählen", QDir(Q(beginn)).exists() ? Q(beginn) : QDir::homePath());
   if (ordner.isEmpty()) return std::nullopt;
   return S(ordner);
 }

@@ -16,6 +16,8 @@ inline std::string S(const QString& text) {
   return {b.constData(), static_cast<std::size_t>(b.size())};
 }
 // A caption without its mnemonic mark.
-inline QString Ohne_kuerzel(QString text) { return text.replace(QRegularExpression("&(?!&)"), "").replace("&&", "&"); }
+inline QString Ohne_kuerzel(QString text) {
+  return text.replace(QRegularExpression("&(?!&)"), "").replace("&&", "&");
+}
 
 }  // namespace zav::fenster

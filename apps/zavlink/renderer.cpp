@@ -28,7 +28,8 @@ bool Hat_beschriftung(const Anordnung& a) {
     case Art::Kalender: return true;
     case Art::Auswahl: {
       const auto form = static_cast<const Auswahl&>(*a.element).form;
-      return form == Auswahl::Form::Klappliste || form == Auswahl::Form::Liste || form == Auswahl::Form::Optionen;
+      return form == Auswahl::Form::Klappliste || form == Auswahl::Form::Liste ||
+             form == Auswahl::Form::Optionen;
     }
     default: return false;
   }
@@ -44,8 +45,8 @@ bool Element_waechst(const Steuerelement& e, Richtung r) {
     case Art::Auswahl: {
       const auto& a = static_cast<const Auswahl&>(e);
       if (a.form == Auswahl::Form::Raster || a.form == Auswahl::Form::Liste) return true;
-      return r == Richtung::waagrecht &&
-             ((a.form == Auswahl::Form::Leiste && a.anzahl() >= leiste_breit) || a.form == Auswahl::Form::Reiter);
+      return r == Richtung::waagrecht && ((a.form == Auswahl::Form::Leiste && a.anzahl() >= leiste_breit) ||
+                                          a.form == Auswahl::Form::Reiter);
     }
     case Art::Schieber:
     case Art::Balken: return r == Richtung::waagrecht;
@@ -68,9 +69,11 @@ bool Ist_menue(const Anordnung& a) {
 // Higher than one line: what stands beside it is aligned to its top.
 bool Ist_hoch(const Anordnung& a) {
   using A = Anordnung::Art;
-  if (a.art == A::Element) return Element_waechst(*a.element, Richtung::senkrecht) || a.element->art == Art::Kalender;
+  if (a.art == A::Element)
+    return Element_waechst(*a.element, Richtung::senkrecht) || a.element->art == Art::Kalender;
   if (a.art == A::Zeile) return std::ranges::any_of(a.kinder, Ist_hoch);
-  return a.art == A::Spalte || a.art == A::Gruppe || a.art == A::Raster || a.art == A::Reiter || a.art == A::Besonders;
+  return a.art == A::Spalte || a.art == A::Gruppe || a.art == A::Raster || a.art == A::Reiter ||
+         a.art == A::Besonders;
 }
 
 // A column of commands with their signs: shown as a flat list.
@@ -234,7 +237,8 @@ class Baumeister {
       if (befehle) {
         for (const char* merkmal : {"links", "flach"}) t.widget->setProperty(merkmal, true);
       }
-      const bool knopf = !befehle && k.art == Anordnung::Art::Element && k.element->art == Art::Taste && kinder.size() < 4;
+      const bool knopf =
+          !befehle && k.art == Anordnung::Art::Element && k.element->art == Art::Taste && kinder.size() < 4;
       Einsetzen(*spalte, t, waechst ? 1 : 0, knopf ? Qt::AlignLeft : Qt::Alignment{});
     }
     if (!gefuellt) spalte->addStretch(1);
@@ -370,11 +374,12 @@ class Baumeister {
   Gebautes& ergebnis_;
 };
 
-// Names to be read aloud for controls without a caption: the label or captioned control before them in their row, the
-// heading of their column, else the title of their group. They follow when a label's text changes.
+// Names to be read aloud for controls without a caption: the label or captioned control before them in their
+// row, the heading of their column, else the title of their group. They follow when a label's text changes.
 class Namensgeber {
  public:
-  Namensgeber(Auffrischer& auf, Gebautes& g, QString titel) : auf_(auf), gebautes_(g), gruppe_(std::move(titel)) {}
+  Namensgeber(Auffrischer& auf, Gebautes& g, QString titel)
+      : auf_(auf), gebautes_(g), gruppe_(std::move(titel)) {}
 
   void gehen(const Anordnung& a) {
     const QString gruppe = gruppe_;
@@ -439,13 +444,13 @@ std::string Stamm(const std::string& name) { return name.substr(0, name.find('('
 void Kontextmenues_anhaengen(Auffrischer& auf, Gebautes& g) {
   for (const auto& [element, widget] : g.widgets) {
     if (widget->property("eigenes_menue").toBool()) continue;  // several controls in one painted widget
-    auto* const e = const_cast<Steuerelement*>(element);  // the map holds the form's own controls
+    auto* const e = const_cast<Steuerelement*>(element);       // the map holds the form's own controls
     const bool hoert = e->art == Art::Taste && static_cast<Taste*>(e)->wenn_rechts_gedrueckt != nullptr;
     if (!hoert && !g.kontextmenues.contains(Stamm(e->name()))) continue;
     widget->setContextMenuPolicy(Qt::CustomContextMenu);
-    QObject::connect(widget, &QWidget::customContextMenuRequested, widget, [e, w = widget, &g, &auf](QPoint p) {
-      Kontextmenue_zeigen(*e, g, auf, w->mapToGlobal(p));
-    });
+    QObject::connect(
+        widget, &QWidget::customContextMenuRequested, widget,
+        [e, w = widget, &g, &auf](QPoint p) { Kontextmenue_zeigen(*e, g, auf, w->mapToGlobal(p)); });
   }
 }
 
@@ -466,7 +471,8 @@ QWidget* Teil_bauen(const Anordnung& a, Auffrischer& auf, QWidget* eltern, Gebau
   return Baumeister(auf, ergebnis).Als_widget(a, eltern);
 }
 
-void Aufbauen(const Anordnung& a, Auffrischer& auf, QWidget* eltern, Gebautes& ergebnis, const QString& titel) {
+void Aufbauen(const Anordnung& a, Auffrischer& auf, QWidget* eltern, Gebautes& ergebnis,
+              const QString& titel) {
   Baumeister meister(auf, ergebnis);
   // The dialog's buttons stay outside of what may have to scroll.
   Anordnung inhalt = a;

@@ -27,13 +27,16 @@ struct Gebautes {
 // Fills `ergebnis`, which painted widgets keep: it must live as long as they do. A popup menu opens on the
 // controls whose name is its title ("Command15" for Command15(0) to Command15(23)).
 // `titel` names what has no name of its own.
-void Aufbauen(const Anordnung& a, Auffrischer& auffrischer, QWidget* eltern, Gebautes& ergebnis, const QString& titel);
+void Aufbauen(const Anordnung& a, Auffrischer& auffrischer, QWidget* eltern, Gebautes& ergebnis,
+              const QString& titel);
 
-// Opens the popup menu of a control at a place of the screen, after the control's own handler for the right button.
+// Opens the popup menu of a control at a place of the screen, after the control's own handler for the right
+// button.
 void Kontextmenue_zeigen(Steuerelement& e, const Gebautes& g, Auffrischer& auffrischer, QPoint stelle);
 
-// A painted widget for a node Besonders(name, ...): gets the node (its children are the controls that it shows and
-// serves) and builds the widget; adds to `widgets` what it shows. An unknown name is laid out as a column.
+// A painted widget for a node Besonders(name, ...): gets the node (its children are the controls that it
+// shows and serves) and builds the widget; adds to `widgets` what it shows. An unknown name is laid out as a
+// column.
 using Besonderer_bau = QWidget* (*)(const Anordnung&, Auffrischer&, QWidget* eltern, Gebautes&);
 Besonderer_bau Besonderer_bau_von(const std::string& name);
 

@@ -17,7 +17,8 @@ namespace zav::fenster {
 
 namespace {
 
-// Each icon: the lines in the text's colour, and the accents (second tone) in the highlight's. SVG path data, 24 x 24.
+// Each icon: the lines in the text's colour, and the accents (second tone) in the highlight's. SVG path data,
+// 24 x 24.
 struct Zeichnung {
   std::string_view name, linien, akzent;
 };
@@ -26,17 +27,21 @@ constexpr std::array zeichnungen{
     Zeichnung{"oeffnen", "M3 19V5h6l2 3h9v3", "M3 19l4-8h15l-4 8z"},
     Zeichnung{"speichern", "M4 4h13l3 3v13H4z M8 4v5h7V4", "M8 20v-7h8v7"},
     Zeichnung{"haus", "M3 12L12 4l9 8 M6 10v10h12V10", "M10 20v-6h4v6"},
-    Zeichnung{"eingaenge", "M5 3h14v18H5z M12 3v18 M5 12h14", "M8.5 7.5h.1 M15.5 7.5h.1 M8.5 16.5h.1 M15.5 16.5h.1"},
-    Zeichnung{"lampe", "M9 18h6 M10 21h4 M8 14a6 6 0 1 1 8 0c-1 1-1 2-1 4H9c0-2 0-3-1-4z", "M12 1v1 M3 9h1 M20 9h1"},
+    Zeichnung{"eingaenge", "M5 3h14v18H5z M12 3v18 M5 12h14",
+              "M8.5 7.5h.1 M15.5 7.5h.1 M8.5 16.5h.1 M15.5 16.5h.1"},
+    Zeichnung{"lampe", "M9 18h6 M10 21h4 M8 14a6 6 0 1 1 8 0c-1 1-1 2-1 4H9c0-2 0-3-1-4z",
+              "M12 1v1 M3 9h1 M20 9h1"},
     Zeichnung{"store", "M4 4h16 M4 8h16 M4 12h16 M4 16h16", "M12 16v5 M10 21h4"},
     Zeichnung{"dimmer", "M12 3a9 9 0 1 0 .1 0z", "M12 12l5-5 M12 12h.1"},
     Zeichnung{"timer", "M12 7a7 7 0 1 0 .1 0z M10 3h4 M12 3v4", "M12 14V10"},
     Zeichnung{"uhr", "M12 3a9 9 0 1 0 .1 0z", "M12 7v5l4 2"},
     Zeichnung{"stellen", "M12 3a9 9 0 1 0 9 9", "M12 7v5l4 2 M15 3h6v6 M21 3l-5 5"},
     Zeichnung{"sequenzer", "M4 5h16v15H4z M4 9h16 M8 3v4 M16 3v4", "M8 13h3 M13 16h3"},
-    Zeichnung{"sonne", "M12 8a4 4 0 1 0 .1 0z", "M12 2v3 M12 19v3 M2 12h3 M19 12h3 M5 5l2 2 M17 17l2 2 M19 5l-2 2 M7 17l-2 2"},
+    Zeichnung{"sonne", "M12 8a4 4 0 1 0 .1 0z",
+              "M12 2v3 M12 19v3 M2 12h3 M19 12h3 M5 5l2 2 M17 17l2 2 M19 5l-2 2 M7 17l-2 2"},
     Zeichnung{"wetter", "M7 18a4 4 0 1 1 1-8 5 5 0 0 1 10 1 3.5 3.5 0 0 1 0 7z", "M9 21l1-2 M14 21l1-2"},
-    Zeichnung{"funk", "M12 13v8 M12 12h.1", "M8 16a6 6 0 0 1 0-8 M16 16a6 6 0 0 0 0-8 M5 19a10 10 0 0 1 0-14 M19 19a10 10 0 0 0 0-14"},
+    Zeichnung{"funk", "M12 13v8 M12 12h.1",
+              "M8 16a6 6 0 0 1 0-8 M16 16a6 6 0 0 0 0-8 M5 19a10 10 0 0 1 0-14 M19 19a10 10 0 0 0 0-14"},
     Zeichnung{"telefon", "M7 2h10v20H7z", "M10 18h4"},
     Zeichnung{"kamera", "M3 7h12v10H3z M15 11l6-3v8l-6-3", "M9 12a2 2 0 1 0 .1 0z"},
     Zeichnung{"master", "M4 5h16v14H4z M8 5v14", "M11 9h6 M11 12h6 M11 15h3"},
@@ -46,7 +51,8 @@ constexpr std::array zeichnungen{
     Zeichnung{"protokoll", "M4 4h16v16H4z", "M7 9l3 3-3 3 M12 15h5"},
     Zeichnung{"optionen", "M4 7h9 M17 7h3 M4 17h3 M11 17h9", "M15 5a2 2 0 1 0 .1 0z M9 15a2 2 0 1 0 .1 0z"},
     Zeichnung{"info", "M12 3a9 9 0 1 0 .1 0z", "M12 11v6 M12 7.5h.1"},
-    Zeichnung{"update", "M5 5h14v14H5z M9 2v3 M15 2v3 M9 19v3 M15 19v3 M2 9h3 M2 15h3 M19 9h3 M19 15h3", "M12 9v6 M9.5 12l2.5 3 2.5-3"},
+    Zeichnung{"update", "M5 5h14v14H5z M9 2v3 M15 2v3 M9 19v3 M15 19v3 M2 9h3 M2 15h3 M19 9h3 M19 15h3",
+              "M12 9v6 M9.5 12l2.5 3 2.5-3"},
     Zeichnung{"touchpanel", "M3 5h18v12H3z M9 21h6 M12 17v4", "M7 9h4v4H7z M14 9h3 M14 13h3"},
     Zeichnung{"drucken", "M7 9V3h10v6 M5 17H3V9h18v8h-2", "M7 14h10v7H7z"},
     Zeichnung{"beenden", "M14 4H5v16h9", "M10 12h11 M17 8l4 4-4 4"},
@@ -74,24 +80,28 @@ int Nummer_nach(const std::string& name, std::string_view vorsilbe) {
   return name.starts_with(vorsilbe) ? Q(name).mid(static_cast<qsizetype>(vorsilbe.size())).toInt() : -1;
 }
 
-void Bild_malen(QPainter& p, const QRectF& r, const std::string& name, const QColor& linie, const QColor& akzent) {
+void Bild_malen(QPainter& p, const QRectF& r, const std::string& name, const QColor& linie,
+                const QColor& akzent) {
   if (const int typ = Nummer_nach(name, "apparat-"); typ >= 0) return Apparat_malen(p, r, {.typ = typ});
-  if (const int nummer = Nummer_nach(name, "layout-"); nummer >= 0) return Layout_malen(p, r, nummer, linie, akzent);
+  if (const int nummer = Nummer_nach(name, "layout-"); nummer >= 0)
+    return Layout_malen(p, r, nummer, linie, akzent);
   Symbol_malen(p, r, name, linie, akzent);
 }
 
 }  // namespace
 
-void Symbol_malen(QPainter& p, const QRectF& r, std::string_view name, const QColor& linie, const QColor& akzent) {
+void Symbol_malen(QPainter& p, const QRectF& r, std::string_view name, const QColor& linie,
+                  const QColor& akzent) {
   const auto z = std::ranges::find(zeichnungen, name, &Zeichnung::name);
   if (z == zeichnungen.end()) return;
   const auto pfad = [](std::string_view d, const QColor& farbe) {
-    return QString("<path d='%1' fill='none' stroke='%2' stroke-width='1.8' stroke-linecap='round' "
-                   "stroke-linejoin='round'/>")
+    return QString(
+               "<path d='%1' fill='none' stroke='%2' stroke-width='1.8' stroke-linecap='round' "
+               "stroke-linejoin='round'/>")
         .arg(Q(d), farbe.name());
   };
-  const QString svg = "<svg xmlns='http://www.w3.org/2000/svg' viewBox='0 0 24 24'>" + pfad(z->linien, linie) +
-                      pfad(z->akzent, akzent) + "</svg>";
+  const QString svg = "<svg xmlns='http://www.w3.org/2000/svg' viewBox='0 0 24 24'>" +
+                      pfad(z->linien, linie) + pfad(z->akzent, akzent) + "</svg>";
   QSvgRenderer(svg.toUtf8()).render(&p, r);
 }
 
@@ -105,9 +115,11 @@ QIcon Symbolbild(const std::string& name) {
   const QColor blass = palette.color(QPalette::Disabled, QPalette::WindowText);
   QIcon symbol;
   for (const int groesse : {18, 24, 36, 48}) {
-    symbol.addPixmap(Gemalt(groesse, [&](QPainter& p, const QRectF& r) { Bild_malen(p, r, name, linie, akzent); }));
-    symbol.addPixmap(Gemalt(groesse, [&](QPainter& p, const QRectF& r) { Bild_malen(p, r, name, blass, blass); }),
-                     QIcon::Disabled);
+    symbol.addPixmap(
+        Gemalt(groesse, [&](QPainter& p, const QRectF& r) { Bild_malen(p, r, name, linie, akzent); }));
+    symbol.addPixmap(
+        Gemalt(groesse, [&](QPainter& p, const QRectF& r) { Bild_malen(p, r, name, blass, blass); }),
+        QIcon::Disabled);
   }
   fertige.insert(schluessel, symbol);
   return symbol;

@@ -1,5 +1,5 @@
-// The program's icons: one family of two-tone line drawings on a grid of 24, drawn from paths, so that they are
-// sharp at every scale and follow the light or dark palette.
+// The program's icons: one family of two-tone line drawings on a grid of 24, drawn from paths, so that they
+// are sharp at every scale and follow the light or dark palette.
 #pragma once
 
 #include <QIcon>
@@ -11,9 +11,11 @@ class QPainter;
 
 namespace zav::fenster {
 
-// The icon of that name; an empty icon for an unknown one. "apparat-N" and "layout-N" are pictures of the catalogue.
+// The icon of that name; an empty icon for an unknown one. "apparat-N" and "layout-N" are pictures of the
+// catalogue.
 QIcon Symbolbild(const std::string& name);
 // Paints a symbol in two given tones; nothing for an unknown name.
-void Symbol_malen(QPainter& p, const QRectF& r, std::string_view name, const QColor& linie, const QColor& akzent);
+void Symbol_malen(QPainter& p, const QRectF& r, std::string_view name, const QColor& linie,
+                  const QColor& akzent);
 
 }  // namespace zav::fenster

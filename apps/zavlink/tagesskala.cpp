@@ -40,10 +40,12 @@ class Tagesskala final : public QWidget {
  private:
   static constexpr int hoehe = 128;
   static constexpr double rand = 28;
-  static constexpr double achse = 40;       // of the hours, from above
+  static constexpr double achse = 40;  // of the hours, from above
   static constexpr double balken_oben = 72, balken_hoehe = 20;
 
-  double x(double ort) const { return rand + (ort - skala_anfang) / (skala_ende - skala_anfang) * (width() - 2 * rand); }
+  double x(double ort) const {
+    return rand + (ort - skala_anfang) / (skala_ende - skala_anfang) * (width() - 2 * rand);
+  }
 
   static const Tagesbild::Marke* finden(const Tagesbild& b, Tagesbild::Rolle rolle) {
     const auto m = std::ranges::find(b.marken, rolle, &Tagesbild::Marke::rolle);
@@ -75,7 +77,8 @@ class Tagesskala final : public QWidget {
       farbe.setAlpha(110);
       p.setPen(Qt::NoPen);
       p.setBrush(farbe);
-      p.drawRect(QRectF(x(b.band->von), balken_oben + 4, std::max(2.0, x(b.band->bis) - x(b.band->von)), balken_hoehe - 8));
+      p.drawRect(QRectF(x(b.band->von), balken_oben + 4, std::max(2.0, x(b.band->bis) - x(b.band->von)),
+                        balken_hoehe - 8));
     }
   }
 
@@ -109,7 +112,8 @@ class Tagesskala final : public QWidget {
         const double haken = links ? 6 : -6;
         p.setPen(QPen(QColor(64, 150, 64), 2));
         p.drawPolyline(QPolygonF({QPointF(ort + haken, balken_oben), QPointF(ort, balken_oben),
-                                  QPointF(ort, balken_oben + balken_hoehe), QPointF(ort + haken, balken_oben + balken_hoehe)}));
+                                  QPointF(ort, balken_oben + balken_hoehe),
+                                  QPointF(ort + haken, balken_oben + balken_hoehe)}));
         p.setPen(schrift);
         // Each limit's time stands outside, so that narrow limits stay readable.
         const double aussen = std::clamp(links ? ort - 2 * halb + 4 : ort - 4, 4.0, width() - 2 * halb - 4);
@@ -122,11 +126,13 @@ class Tagesskala final : public QWidget {
         p.drawLine(QPointF(ort, achse + 4), QPointF(ort, balken_oben + balken_hoehe + 2));
         p.setBrush(farbe);
         p.setPen(Qt::NoPen);
-        p.drawPolygon(QPolygonF({QPointF(ort, achse), QPointF(ort - 5, achse - 8), QPointF(ort + 5, achse - 8)}));
+        p.drawPolygon(
+            QPolygonF({QPointF(ort, achse), QPointF(ort - 5, achse - 8), QPointF(ort + 5, achse - 8)}));
         QFont fett = font();
         fett.setBold(true);
         const double breite = QFontMetricsF(fett).horizontalAdvance(Q(m.text)) + 12;
-        const QRectF feld(std::clamp(ort + 5, 4.0, width() - breite - 4), balken_oben + 1, breite, balken_hoehe - 2);
+        const QRectF feld(std::clamp(ort + 5, 4.0, width() - breite - 4), balken_oben + 1, breite,
+                          balken_hoehe - 2);
         p.drawRoundedRect(feld, 4, 4);
         p.setPen(palette().color(QPalette::HighlightedText));
         p.setFont(fett);

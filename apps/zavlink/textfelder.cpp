@@ -15,7 +15,8 @@ namespace zav::fenster {
 
 namespace {
 
-// In characters: fields up to the first hold times, dates and numbers; beyond the second they grow with the window.
+// In characters: fields up to the first hold times, dates and numbers; beyond the second they grow with the
+// window.
 constexpr int laenge_zahl = 10;
 constexpr int laenge_wachsend = 36;
 constexpr int laenge_unbegrenzt = 24;
@@ -34,7 +35,8 @@ class Zeilenfeld final : public QLineEdit {
 
   QSize sizeHint() const override { return {breite(hint_zeichen()), QLineEdit::sizeHint().height()}; }
   QSize minimumSizeHint() const override {
-    return {breite(std::min(hint_zeichen(), Textfeld_waechst(t_) ? 12 : laenge_wachsend)), QLineEdit::minimumSizeHint().height()};
+    return {breite(std::min(hint_zeichen(), Textfeld_waechst(t_) ? 12 : laenge_wachsend)),
+            QLineEdit::minimumSizeHint().height()};
   }
 
  protected:
@@ -50,14 +52,16 @@ class Zeilenfeld final : public QLineEdit {
  private:
   // A popup or another window is no change of field; nor is a control that went away meanwhile.
   bool wechsel(const QFocusEvent* e) const {
-    return e->reason() != Qt::PopupFocusReason && e->reason() != Qt::ActiveWindowFocusReason && t_.frei && t_.sichtbar;
+    return e->reason() != Qt::PopupFocusReason && e->reason() != Qt::ActiveWindowFocusReason && t_.frei &&
+           t_.sichtbar;
   }
   int hint_zeichen() const {
     const std::size_t zeichen = Zeichen(t_);
     return zeichen == 0 ? laenge_unbegrenzt : std::min(static_cast<int>(zeichen), laenge_wachsend);
   }
   int breite(int zeichen) const {
-    const int je = zeichen <= laenge_zahl ? fontMetrics().horizontalAdvance('0') : fontMetrics().averageCharWidth() + 1;
+    const int je =
+        zeichen <= laenge_zahl ? fontMetrics().horizontalAdvance('0') : fontMetrics().averageCharWidth() + 1;
     return zeichen * je + 3 * raster;
   }
   Textfeld& t_;
@@ -74,7 +78,8 @@ void Lesefarbe(QWidget& w, const Textfeld& t) {
 
 QWidget* Zeile_bauen(Textfeld& t, Auffrischer& auf, QWidget* eltern) {
   auto* const w = new Zeilenfeld(t, eltern);
-  QObject::connect(w, &QLineEdit::textEdited, w, [&t](const QString& s) { Handeln(t, [&] { t.eingeben(S(s)); }); });
+  QObject::connect(w, &QLineEdit::textEdited, w,
+                   [&t](const QString& s) { Handeln(t, [&] { t.eingeben(S(s)); }); });
   auf.binden(t, [&t, w] {
     const QSignalBlocker stumm(w);
     Gemeinsames(*w, t);
@@ -93,14 +98,17 @@ QWidget* Zeile_bauen(Textfeld& t, Auffrischer& auf, QWidget* eltern) {
 
 class Absatzfeld final : public QPlainTextEdit {
  public:
-  explicit Absatzfeld(Textfeld& t, QWidget* eltern) : QPlainTextEdit(eltern), t_(t) { setTabChangesFocus(true); }
+  explicit Absatzfeld(Textfeld& t, QWidget* eltern) : QPlainTextEdit(eltern), t_(t) {
+    setTabChangesFocus(true);
+  }
   QSize sizeHint() const override { return {56 * raster, 30 * raster}; }
   QSize minimumSizeHint() const override { return {20 * raster, 8 * raster}; }
 
  protected:
   void focusOutEvent(QFocusEvent* e) override {
     QPlainTextEdit::focusOutEvent(e);
-    if (e->reason() != Qt::PopupFocusReason && e->reason() != Qt::ActiveWindowFocusReason && t_.frei && t_.sichtbar) {
+    if (e->reason() != Qt::PopupFocusReason && e->reason() != Qt::ActiveWindowFocusReason && t_.frei &&
+        t_.sichtbar) {
       Handeln([this] { t_.verlassen(); });
     }
   }

@@ -33,8 +33,8 @@ int Breite(const QWidget& w, const Auswahl& a) {
   return breite;
 }
 
-// A drop-down list as wide as its widest entry, within limits; the wheel is left to the page unless it has the
-// keyboard.
+// A drop-down list as wide as its widest entry, within limits; the wheel is left to the page unless it has
+// the keyboard.
 class Klappfeld final : public QComboBox {
  public:
   explicit Klappfeld(QWidget* eltern) : QComboBox(eltern) {
@@ -137,7 +137,8 @@ QWidget* Optionen_bauen(Auswahl& a, Auffrischer& auf, QWidget* eltern) {
     reihe->addWidget(knopf);
   }
   if (nebeneinander) reihe->addStretch(1);
-  QObject::connect(gruppe, &QButtonGroup::idClicked, w, [&a](int i) { Handeln(a, [&a, i] { a.waehlen(i); }); });
+  QObject::connect(gruppe, &QButtonGroup::idClicked, w,
+                   [&a](int i) { Handeln(a, [&a, i] { a.waehlen(i); }); });
   auf.binden(a, [&a, w, gruppe] {
     Gemeinsames(*w, a);
     gruppe->setExclusive(false);  // so that none may be chosen
@@ -174,14 +175,16 @@ QWidget* Reiter_bauen(Auswahl& a, Auffrischer& auf, QWidget* eltern) {
       w->setTabText(i, Q(e.text));
       w->setTabToolTip(i, Q(e.hinweis));
       w->setTabEnabled(i, e.frei);
-      w->setTabIcon(i, e.farbe == Farbe::normal ? QIcon() : Symbolbild(e.farbe == Farbe::belegt ? "belegt" : "punkt"));
+      w->setTabIcon(
+          i, e.farbe == Farbe::normal ? QIcon() : Symbolbild(e.farbe == Farbe::belegt ? "belegt" : "punkt"));
     }
     w->setCurrentIndex(a.position());
   });
   return w;
 }
 
-// A strip of small buttons, sixteen a row: relay and dimmer groups, clocks. A used one is coloured and has a dot.
+// A strip of small buttons, sixteen a row: relay and dimmer groups, clocks. A used one is coloured and has a
+// dot.
 QWidget* Leiste_bauen(Auswahl& a, Auffrischer& auf, QWidget* eltern) {
   auto* const w = new QWidget(eltern);
   auto* const gitter = new QGridLayout(w);
@@ -200,7 +203,8 @@ QWidget* Leiste_bauen(Auswahl& a, Auffrischer& auf, QWidget* eltern) {
     gitter->addWidget(knopf, i / 16, i % 16);
   }
   if (!breit) gitter->setColumnStretch(16, 1);
-  QObject::connect(gruppe, &QButtonGroup::idClicked, w, [&a](int i) { Handeln(a, [&a, i] { a.waehlen(i); }); });
+  QObject::connect(gruppe, &QButtonGroup::idClicked, w,
+                   [&a](int i) { Handeln(a, [&a, i] { a.waehlen(i); }); });
   auf.binden(a, [&a, w, gruppe] {
     Gemeinsames(*w, a);
     gruppe->setExclusive(false);

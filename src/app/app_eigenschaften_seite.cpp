@@ -118,8 +118,8 @@ void App_eigenschaften_seite::Verdrahten() {
   Combo4.fuellen(LED_liste());
   Option2.setzen(0);
   Label27.titel =
-      "Erzeugt für alle Eingänge passende Icons und Rückmeldungen. Alle früheren Eingaben werden ersetzt. Diese "
-      "Funktion kann nicht rückgängig gemacht werden!";
+      "Erzeugt für alle Eingänge passende Icons und Rückmeldungen. Alle früheren Eingaben werden ersetzt. "
+      "Diese Funktion kann nicht rückgängig gemacht werden!";
   Command1.wenn_gedrueckt = [this] { Automatisch_fuellen(); };
   Command2.wenn_gedrueckt = [this] {
     for (std::size_t f = 0; f < app_felder; ++f) satz()[f] = App_vorgabe(f);
@@ -224,11 +224,12 @@ void App_eigenschaften_seite::Uebernehmen() {
 
 Anordnung App_eigenschaften_seite::anordnung() {
   return Spalte(
-      Zeile(Tastenwahl, Combo2, Combo3), Zeile(Check5, Text12), Zeile(Check6, Check7, Check8, Check9, Feder()),
+      Zeile(Tastenwahl, Combo2, Combo3), Zeile(Check5, Text12),
+      Zeile(Check6, Check7, Check8, Check9, Feder()),
       Zeile(Gruppe(Frame1, Zeile(Image5, Combo1)), Gruppe(Frame2, Combo4)),
-      Gruppe(Frame3, Option1,
-             Raster(4, Label25, Text15, Text16, Text17, Label26, Text18, Text19, Text22)),
-      Gruppe(Frame4, Zeile(Option2, Label27), Zeile(Command1, Command2, Feder())), Feder(), Knopfzeile(OK, Cancel));
+      Gruppe(Frame3, Option1, Raster(4, Label25, Text15, Text16, Text17, Label26, Text18, Text19, Text22)),
+      Gruppe(Frame4, Zeile(Option2, Label27), Zeile(Command1, Command2, Feder())), Feder(),
+      Knopfzeile(OK, Cancel));
 }
 
 }  // namespace zav

@@ -1,5 +1,5 @@
-// "ZAVapp-Eigenschaften" of the keys of one device: how each is shown as a button of the phone app. Works on a
-// copy of the device's records, taken over on OK.
+// "ZAVapp-Eigenschaften" of the keys of one device: how each is shown as a button of the phone app. Works on
+// a copy of the device's records, taken over on OK.
 #pragma once
 
 #include <array>
@@ -17,8 +17,8 @@ class App_eigenschaften_seite final : public Formular {
   App_eigenschaften_seite(int d, int versatz);
 
   Auswahl Tastenwahl{Auswahl::Form::Klappliste, {}, "&Taste"};
-  Auswahl Combo2{Auswahl::Form::Klappliste, {"Nicht exportieren", "Telefon", "Tablet", "Telefon und Tablet"},
-                 "&Gerät"};
+  Auswahl Combo2{
+      Auswahl::Form::Klappliste, {"Nicht exportieren", "Telefon", "Tablet", "Telefon und Tablet"}, "&Gerät"};
   Auswahl Combo3{Auswahl::Form::Klappliste, {"Im Raum", "Global", "Im Raum und global"}, "&Bereich"};
   Kaestchen Check5{"&Anderer Tastentext"};
   Textfeld Text12;

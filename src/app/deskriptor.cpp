@@ -46,7 +46,8 @@ std::optional<std::string_view> Geraet(Satz s) {
 std::string Ausgang_text(std::string_view nummer) {
   const auto n = Zahl_lesen(nummer, 0, ausgang_keiner - 1);
   if (!n) return "-";
-  return Ziel_name(*n < erster_dimmer ? Ziel{Ziel::Art::Relais, *n} : Ziel{Ziel::Art::Dimmer, *n - erster_dimmer});
+  return Ziel_name(*n < erster_dimmer ? Ziel{Ziel::Art::Relais, *n}
+                                      : Ziel{Ziel::Art::Dimmer, *n - erster_dimmer});
 }
 
 std::string Gefasst(std::string_view text) { return "\"" + Xml_text(text) + "\""; }
@@ -109,8 +110,8 @@ class Verfasser {
 
   App_umfang zaehlen() const {
     const auto anzahl = [this](Bereich b) {
-      return static_cast<int>(
-          std::ranges::count_if(tasten_, [&](const Taste_im_haus& t) { return Gehoert_zu(b, satz(t.ereignis)); }));
+      return static_cast<int>(std::ranges::count_if(
+          tasten_, [&](const Taste_im_haus& t) { return Gehoert_zu(b, satz(t.ereignis)); }));
     };
     return {anzahl(Bereich::normal), anzahl(Bereich::global), anzahl(Bereich::szene),
             static_cast<int>(std::ranges::count(p_.Kamera_aktiv.alle(), "1"))};
@@ -121,7 +122,8 @@ class Verfasser {
   static std::string Sortierschluessel(std::string_view text) {
     std::u32string codes = Codes(text);
     for (char32_t& c : codes) {
-      const bool gross = (c >= U'A' && c <= U'Z') || std::u32string_view(U"ÄÖÜÉÈÀ").find(c) != std::u32string_view::npos;
+      const bool gross =
+          (c >= U'A' && c <= U'Z') || std::u32string_view(U"ÄÖÜÉÈÀ").find(c) != std::u32string_view::npos;
       if (gross) c += 0x20;
     }
     return Aus_codes(codes);
@@ -219,10 +221,11 @@ class Verfasser {
     const auto geraet = Geraet(s);
     if (!geraet) return;
     const std::string_view klasse = s[App_als_szene] == "1" ? "scene" : "light";
-    dok_.zeile(ebene, "<node type=\"button\"" + std::string(bereich) + " class=\"" + std::string(klasse) + "\"" +
-                          std::string(*geraet) + ">");
+    dok_.zeile(ebene, "<node type=\"button\"" + std::string(bereich) + " class=\"" + std::string(klasse) +
+                          "\"" + std::string(*geraet) + ">");
     dok_.feld(ebene + 1, "title", s[App_eigener_text] == "1" ? std::string_view(s[App_tastentext]) : text);
-    dok_.feld(ebene + 1, "address", "I" + std::to_string(ereignis / 4) + "-" + std::to_string(ereignis % 4 + 1));
+    dok_.feld(ebene + 1, "address",
+              "I" + std::to_string(ereignis / 4) + "-" + std::to_string(ereignis % 4 + 1));
     if (s[App_mit_icon] == "1") dok_.feld(ebene + 1, "icon", s[App_icon_name]);
     if (s[App_mit_rueckmeldung] == "1") {
       dok_.feld(ebene + 1, "feedbackaddress", Ausgang_text(s[App_rueckmeldung]));
@@ -239,21 +242,22 @@ class Verfasser {
   }
   // Question, yes and no stand side by side in the record.
   void bestaetigung(int ebene, std::string_view zustand, Satz s, std::size_t frage) {
-    dok_.zeile(ebene, "<confirmation" + std::string(zustand) + " keyok=" + Gefasst(s[frage + 1]) + " keyabort=" +
-                          Gefasst(s[frage + 2]) + ">" + Xml_text(s[frage]) + "</confirmation>");
+    dok_.zeile(ebene, "<confirmation" + std::string(zustand) + " keyok=" + Gefasst(s[frage + 1]) +
+                          " keyabort=" + Gefasst(s[frage + 2]) + ">" + Xml_text(s[frage]) +
+                          "</confirmation>");
   }
 
   void kamera(int i) {
     if (p_.Kamera_aktiv[i] != "1") return;
     const int strom = Zahl_lesen(p_.Kamera_stream_von[i]).value_or(0);
-    dok_.zeile(1, "<node type=\"cameraview\" usecase=" + Gefasst(p_.Kamera_usecase[i]) + " cid=\"" + std::to_string(i) +
-                      "\">");
+    dok_.zeile(1, "<node type=\"cameraview\" usecase=" + Gefasst(p_.Kamera_usecase[i]) + " cid=\"" +
+                      std::to_string(i) + "\">");
     dok_.feld(2, "title", p_.Kamera_titel[i], " ");
     dok_.feld(2, "subtitle", p_.Kamera_untertitel[i], " ");
     dok_.zeile(2, "<mediaserver forstream=\"audio_video\" ipaddress=" + Gefasst(p_.Kamera_ip[i]) +
-                      " httpport=" + Gefasst(p_.Kamera_port[i]) + " controlport=" + Gefasst(p_.Kamera_controlport[i]) +
-                      " streamportpool=\"" + std::to_string(strom) + "-" + std::to_string(strom + 5) +
-                      "\" devicemodel=" + Gefasst(p_.Kamera_modell[i]) + "/>");
+                      " httpport=" + Gefasst(p_.Kamera_port[i]) + " controlport=" +
+                      Gefasst(p_.Kamera_controlport[i]) + " streamportpool=\"" + std::to_string(strom) + "-" +
+                      std::to_string(strom + 5) + "\" devicemodel=" + Gefasst(p_.Kamera_modell[i]) + "/>");
     kamerataste(p_.Kamera_taste1[i], p_.Kamera_tastentext1[i]);
     kamerataste(p_.Kamera_taste2[i], p_.Kamera_tastentext2[i]);
     dok_.ende(1);
@@ -280,8 +284,8 @@ bool App_xml_schreiben(const std::string& pfad, std::string_view App_xml) {
   const Dateiergebnis ergebnis = Datei_schreiben(pfad, App_xml);
   if (ergebnis) return true;
   Dateifehler_melden(ergebnis.fehler,
-                     ". Die Datei mit diesem Namen ist möglicherweise schreibgeschützt. Speichern Sie sie mit einem "
-                     "anderen Namen oder in einen anderen Ordner.");
+                     ". Die Datei mit diesem Namen ist möglicherweise schreibgeschützt. Speichern Sie sie "
+                     "mit einem anderen Namen oder in einen anderen Ordner.");
   return false;
 }
 
@@ -301,8 +305,8 @@ bool App_xml_export(std::string* pfad) {
 bool App_daten_moeglich() {
   if (projekt.Datei_version != "800" && projekt.Datei_version != "900") return true;
   Melden(std::string("Wenn Sie die neuen Funktionen von ") + programm_version +
-         " nutzen möchten, wählen Sie 'Speichern unter' und den Dateityp 910. Achtung: Das Betriebssystem des ZAVmasters muss "
-         "auf die Version 9 aufgerüstet werden.");
+         " nutzen möchten, wählen Sie 'Speichern unter' und den Dateityp 910. Achtung: Das Betriebssystem "
+         "des ZAVmasters muss auf die Version 9 aufgerüstet werden.");
   return false;
 }
 

@@ -1,5 +1,5 @@
-// The descriptor with which the phone app learns the building: one XML document made from the Kombinationen, the
-// app properties of their keys and the cameras.
+// The descriptor with which the phone app learns the building: one XML document made from the Kombinationen,
+// the app properties of their keys and the cameras.
 #pragma once
 
 #include <string>
@@ -15,8 +15,8 @@ std::string App_xml_bauen(const Projekt& p);
 // Replaces the file. False when that failed, behind a stop box; the old file is whole then.
 bool App_xml_schreiben(const std::string& pfad, std::string_view App_xml);
 
-// Asks for the file and writes the descriptor of the project. False when the user cancelled (silently) or writing
-// failed. The file's name comes back in `pfad`.
+// Asks for the file and writes the descriptor of the project. False when the user cancelled (silently) or
+// writing failed. The file's name comes back in `pfad`.
 bool App_xml_export(std::string* pfad = nullptr);
 
 // False for a project of generation 800 or 900, whose file holds no app data: a box tells what to do.

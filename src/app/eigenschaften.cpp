@@ -12,11 +12,29 @@ namespace zav {
 
 namespace {
 
-enum Icon_nr : int { taste, licht, dimmer, storen, szene, steckdose, heizung, alarm, luefter, musik, fernseher, tor,
-                     tuere, garten, uhr, klingel, kamera, icon_anzahl };
+enum Icon_nr : int {
+  taste,
+  licht,
+  dimmer,
+  storen,
+  szene,
+  steckdose,
+  heizung,
+  alarm,
+  luefter,
+  musik,
+  fernseher,
+  tor,
+  tuere,
+  garten,
+  uhr,
+  klingel,
+  kamera,
+  icon_anzahl
+};
 constexpr std::array<std::string_view, icon_anzahl> icons{
-    "Taste",    "Licht", "Dimmer",    "Store", "Szene", "Steckdose", "Heizung", "Alarm",  "Ventilator",
-    "Musik",    "Fernseher", "Tor",   "Türe",  "Garten", "Timer",    "Klingel", "Kamera"};
+    "Taste", "Licht",     "Dimmer", "Store", "Szene",  "Steckdose", "Heizung", "Alarm", "Ventilator",
+    "Musik", "Fernseher", "Tor",    "Türe",  "Garten", "Timer",     "Klingel", "Kamera"};
 
 // What a text of an installer says of its key; the first word found decides.
 struct Stichwort {
@@ -24,15 +42,15 @@ struct Stichwort {
   int icon;
 };
 constexpr std::array stichworte{
-    Stichwort{"szene", szene},       Stichwort{"alarm", alarm},         Stichwort{"panik", alarm},
-    Stichwort{"store", storen},      Stichwort{"rollladen", storen},    Stichwort{"jalousie", storen},
-    Stichwort{"markise", storen},    Stichwort{"rollo", storen},        Stichwort{"steckdose", steckdose},
-    Stichwort{"heizung", heizung},   Stichwort{"thermo", heizung},      Stichwort{"ventilator", luefter},
-    Stichwort{"lüft", luefter},      Stichwort{"musik", musik},         Stichwort{"radio", musik},
-    Stichwort{"fernseh", fernseher}, Stichwort{"garage", tor},          Stichwort{"tor ", tor},
-    Stichwort{"türöffner", tuere},   Stichwort{"haustür", tuere},       Stichwort{"klingel", klingel},
-    Stichwort{"gong", klingel},      Stichwort{"kamera", kamera},       Stichwort{"bewässer", garten},
-    Stichwort{"dimm", dimmer},       Stichwort{"licht", licht},         Stichwort{"lampe", licht},
+    Stichwort{"szene", szene},       Stichwort{"alarm", alarm},      Stichwort{"panik", alarm},
+    Stichwort{"store", storen},      Stichwort{"rollladen", storen}, Stichwort{"jalousie", storen},
+    Stichwort{"markise", storen},    Stichwort{"rollo", storen},     Stichwort{"steckdose", steckdose},
+    Stichwort{"heizung", heizung},   Stichwort{"thermo", heizung},   Stichwort{"ventilator", luefter},
+    Stichwort{"lüft", luefter},      Stichwort{"musik", musik},      Stichwort{"radio", musik},
+    Stichwort{"fernseh", fernseher}, Stichwort{"garage", tor},       Stichwort{"tor ", tor},
+    Stichwort{"türöffner", tuere},   Stichwort{"haustür", tuere},    Stichwort{"klingel", klingel},
+    Stichwort{"gong", klingel},      Stichwort{"kamera", kamera},    Stichwort{"bewässer", garten},
+    Stichwort{"dimm", dimmer},       Stichwort{"licht", licht},      Stichwort{"lampe", licht},
     Stichwort{"leuchte", licht},     Stichwort{"spot", licht},
 };
 
@@ -68,7 +86,8 @@ int App_automatik::Rueckmeldung(int ereignis) const {
   const auto dimmwerte = p_.Ein_dimmer.zeile(ereignis);
   for (int d = 0; d < dimmerausgaenge; ++d) {
     const auto parameter = dimmwerte.subspan(static_cast<std::size_t>(d) * dimmerparameter, dimmerparameter);
-    if (std::ranges::any_of(parameter, [](i16 w) { return w != 0; }) && ansehen(erster_dimmer + d)) return erster;
+    if (std::ranges::any_of(parameter, [](i16 w) { return w != 0; }) && ansehen(erster_dimmer + d))
+      return erster;
   }
   return erster;
 }

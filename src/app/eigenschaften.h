@@ -18,10 +18,10 @@ class App_automatik {
  public:
   explicit App_automatik(const Projekt& p);
 
-  // Properties of event offset `versatz` of device d = 16 x Kombination + place, into a record of app_felder texts:
-  // shown on all devices (kinds whose inputs are no keys: not exported), in its room, with an icon by what its text
-  // says or else by what it does, and with the state of the output that it switches as feedback, first one that an
-  // LED shows. Questions and scene stay as they are.
+  // Properties of event offset `versatz` of device d = 16 x Kombination + place, into a record of app_felder
+  // texts: shown on all devices (kinds whose inputs are no keys: not exported), in its room, with an icon by
+  // what its text says or else by what it does, and with the state of the output that it switches as
+  // feedback, first one that an LED shows. Questions and scene stay as they are.
   void fuellen(int d, int versatz, std::span<str> satz) const;
 
  private:

@@ -16,8 +16,22 @@ namespace zav {
 namespace {
 
 // Position among the fields of a camera.
-enum Kamera_feld : std::size_t { titel, untertitel, ip, port, controlport, stream_von, modell, res8, aktiv, usecase,
-                                 taste1, taste2, tastentext1, tastentext2 };
+enum Kamera_feld : std::size_t {
+  titel,
+  untertitel,
+  ip,
+  port,
+  controlport,
+  stream_von,
+  modell,
+  res8,
+  aktiv,
+  usecase,
+  taste1,
+  taste2,
+  tastentext1,
+  tastentext2
+};
 
 using K = IP_Kameras;
 struct Text {
@@ -35,7 +49,8 @@ constexpr std::array<Text, 9> texte{{{&K::Text1, titel},
                                      {&K::Text9, tastentext2}}};
 
 // Bits of the use case in the order of Check2.
-constexpr std::array<const char*, 6> moeglichkeiten{"Video In", "Audio In", "Audio Out", "Pan+Tilt", "Zoom", "Presets"};
+constexpr std::array<const char*, 6> moeglichkeiten{"Video In", "Audio In", "Audio Out",
+                                                    "Pan+Tilt", "Zoom",     "Presets"};
 
 // What comes with a type of camera.
 struct Modell {
@@ -63,7 +78,8 @@ bool Enthaelt_markierung(std::string_view text) {
 }
 
 std::string Taste_in_worten(int ereignis, const str& wo) {
-  return "I" + std::to_string(ereignis / 4) + "-" + std::to_string(ereignis % 4 + 1) + (wo.empty() ? "" : ": " + wo);
+  return "I" + std::to_string(ereignis / 4) + "-" + std::to_string(ereignis % 4 + 1) +
+         (wo.empty() ? "" : ": " + wo);
 }
 
 }  // namespace
@@ -127,7 +143,8 @@ void IP_Kameras::Tasten_sammeln() {
     for (int n = 0; lauf && n < lauf->ereignisse(); ++n) {
       const int slot = Apparat_textslot(projekt, d, n);
       if (slot < 0 || projekt.Dev_text[slot].empty()) continue;
-      aufnehmen(lauf->erstes_ereignis() + n, projekt.Komb_text2[d / plaetze] + " - " + projekt.Dev_text[slot]);
+      aufnehmen(lauf->erstes_ereignis() + n,
+                projekt.Komb_text2[d / plaetze] + " - " + projekt.Dev_text[slot]);
     }
   }
   for (const Kamera& k : kameras_) {
@@ -185,7 +202,8 @@ void IP_Kameras::Seite_lesen() {
   for (std::size_t i = 0; i < Check2.size(); ++i) bits |= Check2[i].an() ? 1U << i : 0U;
   zahl(f[usecase], bits);
   for (auto& [liste, feld] : {std::pair{&Combo2, taste1}, {&Combo3, taste2}}) {
-    if (liste->position() >= 0) zahl(f[feld], static_cast<unsigned>(tasten_.at(static_cast<std::size_t>(liste->position()))));
+    if (liste->position() >= 0)
+      zahl(f[feld], static_cast<unsigned>(tasten_.at(static_cast<std::size_t>(liste->position()))));
   }
 }
 
@@ -240,7 +258,8 @@ bool IP_Kameras::Daten_pruefen() {
     for (const Text& t : texte) {
       const str& text = felder[t.feld];
       if (Enthaelt_markierung(text)) {
-        return beanstanden(i, t, "'" + text + "' enthält die Zeichenfolge einer Feldmarkierung (@, zwei Ziffern, #).");
+        return beanstanden(
+            i, t, "'" + text + "' enthält die Zeichenfolge einer Feldmarkierung (@, zwei Ziffern, #).");
       }
       const bool ist_port = t.feld == port || t.feld == controlport || t.feld == stream_von;
       const int hoechster = t.feld == stream_von ? groesster_port - stream_ports + 1 : groesster_port;
@@ -269,8 +288,9 @@ void IP_Kameras::Uebernehmen() {
 Anordnung IP_Kameras::anordnung() {
   return Spalte(TabStrip1, Zeile(Check1, Combo1, Feder()),
                 Raster(2, Text1, Text2, Text3, Text4, Text5, Text6, Text7, Zeile(Command5, Label1)),
-                Gruppe(Frame1, Raster(3, Alle(Check2))), Gruppe(Frame2, Raster(2, Combo2, Text8, Combo3, Text9)),
-                Zeile(Command3, Feder()), Feder(), Knopfzeile(Command1, Command2));
+                Gruppe(Frame1, Raster(3, Alle(Check2))),
+                Gruppe(Frame2, Raster(2, Combo2, Text8, Combo3, Text9)), Zeile(Command3, Feder()), Feder(),
+                Knopfzeile(Command1, Command2));
 }
 
 }  // namespace zav

@@ -25,8 +25,9 @@ Datum Aus_tagen(sys_days t) {
 
 constexpr std::array<std::string_view, 7> wochentage{"Montag",  "Dienstag", "Mittwoch", "Donnerstag",
                                                      "Freitag", "Samstag",  "Sonntag"};
-constexpr std::array<std::string_view, 12> monate{"Januar", "Februar", "März",      "April",   "Mai",      "Juni",
-                                                  "Juli",   "August",  "September", "Oktober", "November", "Dezember"};
+constexpr std::array<std::string_view, 12> monate{"Januar",    "Februar", "März",     "April",
+                                                  "Mai",       "Juni",    "Juli",     "August",
+                                                  "September", "Oktober", "November", "Dezember"};
 
 // The number at a position of two characters; 0 where there is none.
 int Paar(std::string_view text, std::size_t von) { return Zahl_lesen(Mitte(text, von, 2)).value_or(0); }
@@ -44,7 +45,9 @@ int Wochentag(Datum d) { return static_cast<int>(std::chrono::weekday{Tage(d)}.i
 std::string_view Wochentag_wort(int wochentag) { return wochentage.at(static_cast<std::size_t>(wochentag)); }
 std::string_view Monat_wort(int monat) { return monate.at(static_cast<std::size_t>(monat - 1)); }
 
-std::string Datum_text(Datum d) { return Stellen(d.tag, 2) + "." + Stellen(d.monat, 2) + "." + Stellen(d.jahr, 4); }
+std::string Datum_text(Datum d) {
+  return Stellen(d.tag, 2) + "." + Stellen(d.monat, 2) + "." + Stellen(d.jahr, 4);
+}
 
 std::optional<Datum> Datum_lesen(std::string_view text) {
   if ((text.size() != 10 && text.size() != 8) || text[2] != '.' || text[5] != '.') return std::nullopt;

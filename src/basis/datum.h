@@ -16,17 +16,18 @@ struct Datum {
   auto operator<=>(const Datum&) const = default;
 };
 
-// The day of that number, day beyond the month's end rolled over. Day may be 0 (last day of the month before).
+// The day of that number, day beyond the month's end rolled over. Day may be 0 (last day of the month
+// before).
 Datum Datum_aus(int jahr, int monat, int tag);
 Datum Plus_tage(Datum d, int tage);
 int Tage_zwischen(Datum von, Datum bis);
-int Tag_des_jahres(Datum d);                 // 1 to 366
-int Tage_im_monat(int jahr, int monat);      // 28 to 31
-int Wochentag(Datum d);                      // 0 Monday to 6 Sunday
+int Tag_des_jahres(Datum d);                     // 1 to 366
+int Tage_im_monat(int jahr, int monat);          // 28 to 31
+int Wochentag(Datum d);                          // 0 Monday to 6 Sunday
 std::string_view Wochentag_wort(int wochentag);  // "Montag" to "Sonntag"
 std::string_view Monat_wort(int monat);          // "Januar" to "Dezember", monat 1 to 12
 
-std::string Datum_text(Datum d);             // "DD.MM.YYYY"
+std::string Datum_text(Datum d);  // "DD.MM.YYYY"
 // Reads DD.MM.YYYY and DD.MM.YY (years 2000 to 2099); nothing for another form or a day that does not exist.
 std::optional<Datum> Datum_lesen(std::string_view text);
 

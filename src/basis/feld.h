@@ -53,16 +53,8 @@ class Feld {
   const T& operator()(I... index) const {
     return werte_[stelle(index...)];
   }
-  T& operator[](std::integral auto i)
-    requires(sizeof...(N) == 1)
-  {
-    return werte_[stelle(i)];
-  }
-  const T& operator[](std::integral auto i) const
-    requires(sizeof...(N) == 1)
-  {
-    return werte_[stelle(i)];
-  }
+  T& operator[](std::integral auto i) requires(sizeof...(N) == 1) { return werte_[stelle(i)]; }
+  const T& operator[](std::integral auto i) const requires(sizeof...(N) == 1) { return werte_[stelle(i)]; }
 
   // All elements behind the first index i, in order: zeilenbreite of them.
   std::span<T> zeile(std::integral auto i) { return {werte_.data() + zeilenanfang(i), zeilenbreite}; }

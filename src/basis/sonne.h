@@ -12,7 +12,8 @@ inline constexpr double breite_grad = 47.38;
 
 // Time of day as a fraction of a day, in summer-time reading; the caller takes an hour off in winter. The
 // formula is a mean-orbit approximation (declination and equation of time as sines of the day number, height
-// of the sun -50 arc minutes), good to about a minute between the polar circles, and not a number beyond them.
+// of the sun -50 arc minutes), good to about a minute between the polar circles, and not a number beyond
+// them.
 double Sonnenaufgang(double laenge, double breite, Datum d);
 double Sonnenuntergang(double laenge, double breite, Datum d);
 

@@ -50,7 +50,9 @@ std::string Mitte(std::string_view text, std::size_t von, std::size_t n) {
   return std::string(n == std::string::npos ? rest : rest.substr(0, Bytestelle(rest, n)));
 }
 
-std::string Links(std::string_view text, std::size_t n) { return std::string(text.substr(0, Bytestelle(text, n))); }
+std::string Links(std::string_view text, std::size_t n) {
+  return std::string(text.substr(0, Bytestelle(text, n)));
+}
 
 std::string Rechts(std::string_view text, std::size_t n) {
   const std::size_t alle = Zeichen_anzahl(text);

@@ -44,7 +44,8 @@ std::int64_t Runden(double v) { return std::llrint(v); }
 
 std::string Stellen(std::int64_t v, int breite) {
   std::string text = std::to_string(v < 0 ? -v : v);
-  if (static_cast<int>(text.size()) < breite) text.insert(0, static_cast<std::size_t>(breite) - text.size(), '0');
+  if (static_cast<int>(text.size()) < breite)
+    text.insert(0, static_cast<std::size_t>(breite) - text.size(), '0');
   return v < 0 ? "-" + text : text;
 }
 

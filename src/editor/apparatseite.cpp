@@ -73,31 +73,21 @@ std::string Tastenname(const Apparatart& art, int n, int nummer) {
 std::string Ledname(const Apparatart& art, int n) {
   if (!art.ist(gruppe_thermostat)) return "LED";
   switch (n) {
-    case 0:
-      return "Absenkung: Aus = Nein, Ein = Ja";
-    case 1:
-      return art.typ == 39 ? "Reserve" : "Display: Aus = Aktiv, Ein = Dunkel";
-    case 2:
-      return "Betrieb: Aus = Heizen, Ein = Kühlen";
-    default:
-      return "Reserve";
+    case 0: return "Absenkung: Aus = Nein, Ein = Ja";
+    case 1: return art.typ == 39 ? "Reserve" : "Display: Aus = Aktiv, Ein = Dunkel";
+    case 2: return "Betrieb: Aus = Heizen, Ein = Kühlen";
+    default: return "Reserve";
   }
 }
 
 Knopf Knopf_einer_taste(const Apparatart& art, int n) {
   switch (art.typ) {
-    case 39:
-      return knopf_heizventil;
-    case 41:
-      return knopf_statisch;
-    case 77:
-      return knopf_elektronik;
-    case 79:
-      return {"GR " + std::to_string(n), knopf_taste.hinweis};
-    case 88:
-      return n == 0 ? knopf_schliessen : knopf_oeffnen;
-    default:
-      return knopf_taste;
+    case 39: return knopf_heizventil;
+    case 41: return knopf_statisch;
+    case 77: return knopf_elektronik;
+    case 79: return {"GR " + std::to_string(n), knopf_taste.hinweis};
+    case 88: return n == 0 ? knopf_schliessen : knopf_oeffnen;
+    default: return knopf_taste;
   }
 }
 

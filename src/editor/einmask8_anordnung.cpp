@@ -23,8 +23,8 @@ Anordnung Einmask8::anordnung() {
                    Zeile(Slider20, Label_Lux), std::move(zeilen))),
       Kontextmenue("Image3", mnuChoose, mnuChooseEnocean, mnuCut, mnuCopy, mnuPaste, mnuDelete),
       Kontextmenue("Command15", mnuCommand7, mnuEigenschaften, mnuRucksuch, mnuOn, mnuOff, mnuShort),
-      Knopfzeile(Command9, Command_Layout, Command13, Feder(), Command11, Command12, Command4, Command3, Feder(),
-                 Cancel));
+      Knopfzeile(Command9, Command_Layout, Command13, Feder(), Command11, Command12, Command4, Command3,
+                 Feder(), Cancel));
 }
 
 }  // namespace zav

@@ -18,12 +18,9 @@ std::string_view Tagesseite_wort(int seite) { return seite < 7 ? Wochentag_wort(
 bool Trifft(Ereignisart art, int ereignis, Ziel ziel) {
   const Ereigniszeilen z = Zeilen_von(art, ereignis);
   switch (ziel.art) {
-    case Ziel::Art::Relais:
-      return z.relais[ziel.nummer] != 0;
-    case Ziel::Art::Timer:
-      return !z.timer.empty() && z.timer[ziel.nummer] != 0;
-    case Ziel::Art::Dimmer:
-      break;
+    case Ziel::Art::Relais: return z.relais[ziel.nummer] != 0;
+    case Ziel::Art::Timer: return !z.timer.empty() && z.timer[ziel.nummer] != 0;
+    case Ziel::Art::Dimmer: break;
   }
   const auto parameter = z.dimmer.subspan(ziel.nummer * dimmerparameter, dimmerparameter);
   return std::any_of(parameter.begin(), parameter.end(), [](i16 p) { return p != 0; });

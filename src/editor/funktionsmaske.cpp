@@ -66,8 +66,7 @@ void Funktionsmaske::Anfang_zeigen() {
                                                                      : schalten);
 }
 
-// ---- tabs
-// -----------------------------------------------------------------------------------------------------------
+// ---- tabs -------------------------------------------------------------------------------------------------
 
 void Funktionsmaske::Reiter_einrichten() {
   anmelden("TabStrip1", TabStrip1);
@@ -112,8 +111,7 @@ Funktionsmaske::Belegung Funktionsmaske::Reiter_auffrischen() {
   return belegt;
 }
 
-// ---- Schalten
-// -------------------------------------------------------------------------------------------------------
+// ---- Schalten ---------------------------------------------------------------------------------------------
 
 void Funktionsmaske::Schalten_einrichten(const std::string& funktionshinweis) {
   anmelden("Baugruppe", Baugruppe);
@@ -177,8 +175,7 @@ const char* Funktionsmaske::Storenregel_anwenden(int i) {
   i16& anderer = relais_[Relais(p)];
 
   switch (rolle(eigener)) {
-    case Storenrolle::keine:
-      break;
+    case Storenrolle::keine: break;
     case Storenrolle::unvereinbar:
       if (rolle(anderer) != Storenrolle::fahren) break;
       eigener = relais_keine;
@@ -203,8 +200,7 @@ void Funktionsmaske::Relais_setzen(int von, int anzahl, i16 gerade, i16 ungerade
   Reiter_auffrischen();
 }
 
-// ---- Dimmen
-// ---------------------------------------------------------------------------------------------------------
+// ---- Dimmen -----------------------------------------------------------------------------------------------
 
 void Funktionsmaske::Dimmen_einrichten() {
   anmelden("Dimmbaugruppe", Dimmbaugruppe);
@@ -319,8 +315,7 @@ void Funktionsmaske::Dimmer_setzen(int von, int anzahl, i16 helligkeit) {
   Reiter_auffrischen();
 }
 
-// ---- Timer
-// ----------------------------------------------------------------------------------------------------------
+// ---- Timer ------------------------------------------------------------------------------------------------
 
 void Funktionsmaske::Timer_einrichten() {
   anmelden("Check4", Check4);
@@ -349,8 +344,7 @@ void Funktionsmaske::Timer_einrichten() {
   }
 }
 
-// ---- commands
-// -------------------------------------------------------------------------------------------------------
+// ---- commands ---------------------------------------------------------------------------------------------
 
 void Funktionsmaske::Befehle_einrichten() {
   struct Gruppenbefehl {

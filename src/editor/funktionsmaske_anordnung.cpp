@@ -25,8 +25,8 @@ Anordnung Funktionsmaske::anordnung() {
       Spalte(Gruppe("ZAVswitch, ZAVmotor: Oxx", Baugruppe),
              Zeile(Gruppe(Frame1, Raster(3, Zeilenweise(Check1, Text1, Combo1))),
                    Gruppe("Auswahl gilt für ZAVswitch und ZAVmotor",
-                          Raster(3, Alle_8_aus, Alle_8_ein, Alle_8_neutral, Storen_auf, Storen_ab, Storen_stop,
-                                 Alle_512_aus, Alle_512_neutral),
+                          Raster(3, Alle_8_aus, Alle_8_ein, Alle_8_neutral, Storen_auf, Storen_ab,
+                                 Storen_stop, Alle_512_aus, Alle_512_neutral),
                           Feder(), Zeile(Ausgaenge_testen, Ansicht[0], Feder()))));
   Anordnung alle_dimmer = Zeile(Slider2, Tempo.back());
   Anhaengen(alle_dimmer.kinder, Zusatzzellen(dimmer_je_gruppe));

@@ -22,7 +22,8 @@ void Schreiben(T& ziel, T wert) {
 }
 
 bool Warnung_bestaetigt(const std::string& text) {
-  return Fragen({.text = text, .titel = "Warnung", .knoepfe = Knoepfe::Ja_Nein_Abbrechen, .symbol = Symbol::Warnung});
+  return Fragen(
+      {.text = text, .titel = "Warnung", .knoepfe = Knoepfe::Ja_Nein_Abbrechen, .symbol = Symbol::Warnung});
 }
 
 }  // namespace
@@ -58,8 +59,9 @@ void Enocean_Definition::Verdrahten() {
   Text1.mehrzeilig = true;
   Text1.nur_lesen = true;
 
-  constexpr std::array<const char*, 6> spalten{"Nr.", "Standort des Empfängers", "ID mit Click übernehmen",
-                                               "Optimal - Schwach", "Pegel", "Version und Daten"};
+  constexpr std::array<const char*, 6> spalten{
+      "Nr.",   "Standort des Empfängers", "ID mit Click übernehmen", "Optimal - Schwach",
+      "Pegel", "Version und Daten"};
   for (std::size_t s = 0; s < spalten.size(); ++s) Label2[s].titel = spalten[s];
   for (std::size_t r = 0; r < Check1.size(); ++r) {
     Check1[r].titel = std::to_string(r);
@@ -130,19 +132,20 @@ bool Enocean_Definition::Neue_id_erlaubt() {
   const str& alt = projekt.App_enocean_id[d_];
   return alt.empty() || alt == ID_Text.text() ||
          Warnung_bestaetigt(
-             "Wenn Sie diese ID ändern, müssen Sie auch den entsprechenden Sender ersetzen. Soll diese ID geändert "
-             "werden?");
+             "Wenn Sie diese ID ändern, müssen Sie auch den entsprechenden Sender ersetzen. Soll diese ID "
+             "geändert werden?");
 }
 
-// The same ID on another receiver goes there no more. The own place is asked about too; what it holds is written
-// when all is good.
+// The same ID on another receiver goes there no more. The own place is asked about too; what it holds is
+// written when all is good.
 bool Enocean_Definition::Verschieben_erlaubt() {
   const int neu = Option1.position();
   for (int d = 0; d < apparate; ++d) {
     const int alt = projekt.App_enocean_empf[d];
     if (alt == neu || alt == kein_empfaenger || projekt.App_enocean_id[d] != ID_Text.text()) continue;
     if (!Warnung_bestaetigt("Diese ID existiert zur Zeit im Empfänger " + std::to_string(alt) +
-                            ". Soll diese auf den neuen Empfänger " + std::to_string(neu) + " verschoben werden?")) {
+                            ". Soll diese auf den neuen Empfänger " + std::to_string(neu) +
+                            " verschoben werden?")) {
       return false;
     }
     if (d == d_) continue;
@@ -156,7 +159,8 @@ bool Enocean_Definition::Verschieben_erlaubt() {
 void Enocean_Definition::Uebernehmen() {
   if (const std::string fehler = Eingaben_pruefen(); !fehler.empty()) {
     Melden(fehler);
-    fokussieren(Option1.position() < 0 && !ID_Text.text().empty() ? static_cast<Steuerelement&>(Option1) : ID_Text);
+    fokussieren(Option1.position() < 0 && !ID_Text.text().empty() ? static_cast<Steuerelement&>(Option1)
+                                                                  : ID_Text);
     return;
   }
   if (!Neue_id_erlaubt()) return;

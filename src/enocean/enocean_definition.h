@@ -1,5 +1,5 @@
-// The radio sender at a place of a Kombination: its ID and its receiver. Shows on demand which sender each receiver
-// has heard last, so that an installer presses a key and takes over the ID.
+// The radio sender at a place of a Kombination: its ID and its receiver. Shows on demand which sender each
+// receiver has heard last, so that an installer presses a key and takes over the ID.
 #pragma once
 
 #include <array>
@@ -28,7 +28,7 @@ class Enocean_Definition final : public Formular {
   std::array<Schild, empfaenger> Label3;       // ID heard last; a click takes it over
   std::array<Balken, empfaenger> ProgressBar;  // its level, left is best
   std::array<Schild, empfaenger> Label4;
-  std::array<Schild, empfaenger> Label5;       // version and data
+  std::array<Schild, empfaenger> Label5;  // version and data
   Taste Command5{"ID an&zeigen nach einem Funkereignis"};
   Kaestchen Check2{"&Alle Empfänger abfragen, nicht nur eingebaute"};
   Kaestchen Check3{"&Details anzeigen"};

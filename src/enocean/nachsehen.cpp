@@ -34,7 +34,8 @@ void Pause(double sekunden) {
 // Two-character pieces of the telegram's last six bytes.
 std::string Stuecke(const std::string& antwort) {
   std::string text;
-  for (const std::size_t von : {11, 13, 15, 17, 19, 21}) text += (text.empty() ? "" : " ") + Mitte(antwort, von, 2);
+  for (const std::size_t von : {11, 13, 15, 17, 19, 21})
+    text += (text.empty() ? "" : " ") + Mitte(antwort, von, 2);
   return text;
 }
 

@@ -25,8 +25,8 @@ constexpr int telegrammlaenge = 31;  // reply to "x"
 constexpr std::size_t stelle_pruefsumme = 11;
 
 // Offset and length of each page, as a telegram names it.
-constexpr std::array<const char*, empfaengerseiten> seitenworte{"000040000000", "004040000000", "008040000000",
-                                                                "00C040000000"};
+constexpr std::array<const char*, empfaengerseiten> seitenworte{"000040000000", "004040000000",
+                                                                "008040000000", "00C040000000"};
 constexpr const char* ohne_daten = "000000000000";
 
 std::string Pruefsumme_der_seite(std::string_view ziffern) {
@@ -42,18 +42,21 @@ std::string Pruefsumme_der_seite(std::string_view ziffern) {
 // Why a device has no place in a table, "" when it has.
 std::string Mangel(const Projekt& p, int d) {
   const int k = d / plaetze;
-  const std::string wer = "Der Funksender " + p.App_enocean_id[d] + " (" + p.Komb_text[k] + " - " +
-                          p.Komb_text2[k] + ") ";
-  if (!Ist_sender_id(p.App_enocean_id[d])) return wer + "hat keine gültige ID. Bitte die EnOcean-Definition prüfen.";
+  const std::string wer =
+      "Der Funksender " + p.App_enocean_id[d] + " (" + p.Komb_text[k] + " - " + p.Komb_text2[k] + ") ";
+  if (!Ist_sender_id(p.App_enocean_id[d]))
+    return wer + "hat keine gültige ID. Bitte die EnOcean-Definition prüfen.";
   if (!Apparat_adressen(p, d)) return wer + "hat keine Adresse. Bitte zuerst eine Adresse definieren.";
   return {};
 }
 
 std::string Eintrag(const Projekt& p, int d) {
-  return p.App_enocean_id[d] + Hex2(Apparat_adressen(p, d)->von) + Hex2(p.App_enocean_wert[d] & 0xFF) + "0000";
+  return p.App_enocean_id[d] + Hex2(Apparat_adressen(p, d)->von) + Hex2(p.App_enocean_wert[d] & 0xFF) +
+         "0000";
 }
 
-// The exchanges of a run. Each returns false when the line failed; the boxes of the link have been shown then.
+// The exchanges of a run. Each returns false when the line failed; the boxes of the link have been shown
+// then.
 class Telegramme {
  public:
   explicit Telegramme(int r) : adresse_(Empfaenger_adresse(r)) {}
@@ -118,13 +121,17 @@ class Programmierlauf {
   }
 
  private:
-  static std::string nummer(const Empfaengertabelle& t) { return "Empfänger-Nr. " + std::to_string(t.nummer); }
+  static std::string nummer(const Empfaengertabelle& t) {
+    return "Empfänger-Nr. " + std::to_string(t.nummer);
+  }
   static void merken(int r, u8 geaendert) {
-    if (std::exchange(projekt.Enocean_empf_geaendert[r], geaendert) != geaendert) sitzung.Projekt_geaendert = 1;
+    if (std::exchange(projekt.Enocean_empf_geaendert[r], geaendert) != geaendert)
+      sitzung.Projekt_geaendert = 1;
   }
   void schritt() {
     ++schritte_;
-    const std::size_t alle = tabellen_.size() * empfaengerseiten * (telegramme_je_seite + pruefungen_je_seite);
+    const std::size_t alle =
+        tabellen_.size() * empfaengerseiten * (telegramme_je_seite + pruefungen_je_seite);
     anzeige_.Fortschritt_zeigen(100.0 * static_cast<double>(schritte_) / static_cast<double>(alle));
     melder().DoEvents();
   }
@@ -161,7 +168,8 @@ class Programmierlauf {
 // Number of the failure: that of the status code, or of the port that did not open.
 std::string Fehlernummer() {
   const std::string code = Links(leitung.Empfang_text, 3);
-  return leitung.Port_fehler == 0 && Zeichen(code, 1) == "F" ? Mitte(code, 2, 2) : std::to_string(leitung.Port_fehler);
+  return leitung.Port_fehler == 0 && Zeichen(code, 1) == "F" ? Mitte(code, 2, 2)
+                                                             : std::to_string(leitung.Port_fehler);
 }
 
 }  // namespace
@@ -179,7 +187,8 @@ Empfaengertabellen Enocean_tabellen(const Projekt& p, bool alle) {
   for (int d = 0; d < apparate; ++d) {
     const int r = p.App_enocean_empf[d];
     if (r < 0 || r >= empfaenger || stelle.at(static_cast<std::size_t>(r)) < 0) continue;
-    Empfaengertabelle& t = ergebnis.tabellen.at(static_cast<std::size_t>(stelle.at(static_cast<std::size_t>(r))));
+    Empfaengertabelle& t =
+        ergebnis.tabellen.at(static_cast<std::size_t>(stelle.at(static_cast<std::size_t>(r))));
     ergebnis.mangel = t.text.size() < tabellenziffern
                           ? Mangel(p, d)
                           : "Dem Empfänger " + std::to_string(r) + " sind mehr als " +

@@ -20,8 +20,8 @@ namespace zav {
 inline constexpr std::size_t empfaengerseiten = 4;
 
 struct Empfaengertabelle {
-  int nummer = 0;                                       // of the receiver
-  std::string text{};                                   // 512 digits
+  int nummer = 0;                                           // of the receiver
+  std::string text{};                                       // 512 digits
   std::array<std::string, empfaengerseiten> pruefsummen{};  // of the pages: sum of the bytes, four digits
 };
 
@@ -44,11 +44,11 @@ class Enocean_anzeige {
 enum class Enocean_ergebnis {
   aktualisiert,
   pruefsumme_falsch,  // written to the end, but a page did not hold what it should
-  gescheitert,        // the tables could not be built, or the line failed: receivers not checked keep their flags
+  gescheitert,  // the tables could not be built, or the line failed: receivers not checked keep their flags
 };
 
-// Writes the tables of the project's receivers, has them taken up, and checks every page; clears the flag of each
-// receiver behind its check. Every outcome has shown its box.
+// Writes the tables of the project's receivers, has them taken up, and checks every page; clears the flag of
+// each receiver behind its check. Every outcome has shown its box.
 Enocean_ergebnis Enocean_programmieren(bool alle, Enocean_anzeige& anzeige);
 
 }  // namespace zav

@@ -26,7 +26,8 @@ struct Schatten {
     return p.App_enocean_id[d] == App_enocean_alt_id[d] &&
            p.App_enocean_schluessel[d] == App_enocean_alt_schluessel[d] &&
            p.App_enocean_text3[d] == App_enocean_alt_text3[d] &&
-           p.App_enocean_art[d] == App_enocean_alt_art[d] && p.App_enocean_wert[d] == App_enocean_alt_wert[d] &&
+           p.App_enocean_art[d] == App_enocean_alt_art[d] &&
+           p.App_enocean_wert[d] == App_enocean_alt_wert[d] &&
            p.App_enocean_res1[d] == App_enocean_alt_res1[d] &&
            p.App_enocean_res2[d] == App_enocean_alt_res2[d] && p.App_text[d] == App_alt_text[d];
   }
@@ -83,7 +84,8 @@ std::string Enocean_sender_liste(int r) {
       std::to_string(r) + "\r\n";
   for (int d = 0; d < apparate; ++d) {
     if (projekt.App_enocean_empf[d] != r) continue;
-    text += projekt.App_enocean_schluessel[d] + "  " + projekt.App_enocean_id[d] + ": " + Ort_in_worten(d) + "\r\n";
+    text += projekt.App_enocean_schluessel[d] + "  " + projekt.App_enocean_id[d] + ": " + Ort_in_worten(d) +
+            "\r\n";
   }
   return text;
 }

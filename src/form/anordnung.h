@@ -1,7 +1,8 @@
 // Where the controls of a form sit, as data: a tree that a front end turns into its own layout.
 //
 //     Anordnung Dimmermode::anordnung() {
-//       return Spalte(TabStrip1, Gruppe("Definition", Raster(3, Lnr, Check1, Check2)), Knopfzeile(OK, Cancel));
+//       return Spalte(TabStrip1, Gruppe("Definition", Raster(3, Lnr, Check1, Check2)), Knopfzeile(OK,
+//       Cancel));
 //     }
 #pragma once
 
@@ -17,18 +18,18 @@ namespace zav {
 
 struct Anordnung {
   enum class Art {
-    Element,      // one control
-    Zeile,        // side by side
-    Spalte,       // one below the other
-    Gruppe,       // a titled column; with `element` the Rahmen that carries title, visibility and enabling
-    Raster,       // row by row in `spalten` columns
-    Reiter,       // one child a page; `element` is the Auswahl whose position shows the page
-    Knopfzeile,   // the dialog's buttons, at the right end
-    Feder,        // takes the space that is left
-    Menue,        // a menu or submenu of items, title in `titel`
-    Kontextmenue, // a popup menu, title in `titel`
-    Besonders,    // a painted widget of the front end, called `titel`, that shows and serves the children
-    Leer,         // an empty cell of a grid
+    Element,       // one control
+    Zeile,         // side by side
+    Spalte,        // one below the other
+    Gruppe,        // a titled column; with `element` the Rahmen that carries title, visibility and enabling
+    Raster,        // row by row in `spalten` columns
+    Reiter,        // one child a page; `element` is the Auswahl whose position shows the page
+    Knopfzeile,    // the dialog's buttons, at the right end
+    Feder,         // takes the space that is left
+    Menue,         // a menu or submenu of items, title in `titel`
+    Kontextmenue,  // a popup menu, title in `titel`
+    Besonders,     // a painted widget of the front end, called `titel`, that shows and serves the children
+    Leer,          // an empty cell of a grid
   };
 
   Art art = Art::Leer;

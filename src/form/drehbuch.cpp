@@ -7,8 +7,9 @@ namespace zav {
 namespace {
 
 std::string Beschreiben(const Meldung& m) {
-  return "box \"" + m.text + "\" title \"" + m.titel + "\" buttons " + std::to_string(static_cast<int>(m.knoepfe)) +
-         " icon " + std::to_string(static_cast<int>(m.symbol)) + " default " + std::to_string(m.standard);
+  return "box \"" + m.text + "\" title \"" + m.titel + "\" buttons " +
+         std::to_string(static_cast<int>(m.knoepfe)) + " icon " + std::to_string(static_cast<int>(m.symbol)) +
+         " default " + std::to_string(m.standard);
 }
 
 }  // namespace
@@ -20,7 +21,9 @@ void Drehbuch::erwarte(Meldung m, Antwort a) { schritte_.push_back(Kasten{std::m
 void Drehbuch::erwarte_text(std::string text, Antwort a) {
   schritte_.push_back(Kasten{Meldung{.text = std::move(text)}, true, a});
 }
-void Drehbuch::erwarte_datei(std::optional<Dateiwahl> wahl) { schritte_.push_back(Datei_wahl{std::move(wahl)}); }
+void Drehbuch::erwarte_datei(std::optional<Dateiwahl> wahl) {
+  schritte_.push_back(Datei_wahl{std::move(wahl)});
+}
 
 template <class S>
 std::optional<S> Drehbuch::naechster(const std::string& erschienen) {
@@ -64,7 +67,8 @@ std::string Drehbuch::maengel() {
   for (const std::string& f : std::exchange(fehler_, {})) text += f + "\n";
   for (const Schritt& s : std::exchange(schritte_, {})) {
     const auto* const k = std::get_if<Kasten>(&s);
-    text += "did not appear: " + (k != nullptr ? Beschreiben(k->meldung) : std::string("a form or file question")) + "\n";
+    text += "did not appear: " +
+            (k != nullptr ? Beschreiben(k->meldung) : std::string("a form or file question")) + "\n";
   }
   return text;
 }

@@ -30,7 +30,8 @@ class Drehbuch : public Oberflaeche {
   void erwarte(Meldung m, Antwort a = Antwort::OK);
   // The same where only text counts (any title, icon, buttons).
   void erwarte_text(std::string text, Antwort a = Antwort::OK);
-  // A form of class F opens; spiel acts on it and must leave it closed, else it is closed and that is a fault.
+  // A form of class F opens; spiel acts on it and must leave it closed, else it is closed and that is a
+  // fault.
   template <class F>
   void erwarte_dialog(std::function<void(F&)> spiel) {
     schritte_.push_back(Dialog{[spiel = std::move(spiel)](Formular& f) {
@@ -46,7 +47,8 @@ class Drehbuch : public Oberflaeche {
   // Runs at every DoEvents.
   std::function<void()> bei_doevents;
 
-  // Faults so far and what was expected but has not come, one a line; "" when all went by the book. Clears both.
+  // Faults so far and what was expected but has not come, one a line; "" when all went by the book. Clears
+  // both.
   std::string maengel();
   // All boxes that have appeared, text only.
   const std::vector<std::string>& meldungen() const { return meldungen_; }

@@ -28,8 +28,8 @@ void Formular::schliessen() {
 }
 
 Steuerelement* Formular::element(std::string_view name) const {
-  const auto treffer =
-      std::find_if(elemente_.begin(), elemente_.end(), [&](const Steuerelement* e) { return e->name() == name; });
+  const auto treffer = std::find_if(elemente_.begin(), elemente_.end(),
+                                    [&](const Steuerelement* e) { return e->name() == name; });
   return treffer == elemente_.end() ? nullptr : *treffer;
 }
 

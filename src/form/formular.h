@@ -37,10 +37,11 @@ class Formular {
 
   // Where the controls sit. Every control of the form stands in it exactly once.
   virtual Anordnung anordnung() = 0;
-  // The front end is about to show the form: the place for what needs a form on screen (a first message, a run).
+  // The front end is about to show the form: the place for what needs a form on screen (a first message, a
+  // run).
   virtual void beim_oeffnen() {}
-  // The user wants the window gone by its own means (Escape, the title bar). Presses the control with `abbruch`,
-  // if there is one that can be pressed; else closes.
+  // The user wants the window gone by its own means (Escape, the title bar). Presses the control with
+  // `abbruch`, if there is one that can be pressed; else closes.
   virtual void schliessen_wuenschen();
 
   bool offen() const { return offen_; }

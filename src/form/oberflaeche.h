@@ -1,4 +1,5 @@
-// What a form needs of the outside, beyond boxes, pointer, beep and DoEvents: file dialogs, other forms, keys.
+// What a form needs of the outside, beyond boxes, pointer, beep and DoEvents: file dialogs, other forms,
+// keys.
 #pragma once
 
 #include <optional>

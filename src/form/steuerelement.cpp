@@ -56,7 +56,8 @@ void Auswahl::fuellen(std::vector<std::string> texte) {
 
 void Auswahl::setzen(int position) {
   if (position < -1 || position >= anzahl()) {
-    throw std::out_of_range(name() + ": entry " + std::to_string(position) + " of " + std::to_string(anzahl()));
+    throw std::out_of_range(name() + ": entry " + std::to_string(position) + " of " +
+                            std::to_string(anzahl()));
   }
   if (position == position_) return;
   position_ = position;
@@ -66,7 +67,8 @@ void Auswahl::setzen(int position) {
 
 void Auswahl::waehlen(int position) {
   pruefe_bedienbar();
-  if (!eintrag(position).frei) throw std::logic_error(name() + ": entry " + std::to_string(position) + " is disabled");
+  if (!eintrag(position).frei)
+    throw std::logic_error(name() + ": entry " + std::to_string(position) + " is disabled");
   if (wenn_angeklickt) {
     ausfuehren([&] { wenn_angeklickt(position); });
   } else {
@@ -75,7 +77,8 @@ void Auswahl::waehlen(int position) {
 }
 
 void Auswahl::waehlen(std::string_view text) {
-  const auto treffer = std::find_if(eintraege_.begin(), eintraege_.end(), [&](const Eintrag& e) { return e.text == text; });
+  const auto treffer =
+      std::find_if(eintraege_.begin(), eintraege_.end(), [&](const Eintrag& e) { return e.text == text; });
   if (treffer == eintraege_.end()) throw std::out_of_range(name() + ": no entry " + std::string(text));
   waehlen(static_cast<int>(treffer - eintraege_.begin()));
 }
@@ -164,8 +167,8 @@ void Schild::anklicken() {
 }
 
 int Baum::finden(std::string_view schluessel) const {
-  const auto treffer =
-      std::find_if(knoten_.begin(), knoten_.end(), [&](const Knoten& k) { return k.schluessel == schluessel; });
+  const auto treffer = std::find_if(knoten_.begin(), knoten_.end(),
+                                    [&](const Knoten& k) { return k.schluessel == schluessel; });
   return treffer == knoten_.end() ? -1 : static_cast<int>(treffer - knoten_.begin());
 }
 

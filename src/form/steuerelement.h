@@ -1,9 +1,9 @@
 // The controls of a form: plain data with the handlers that the form sets on them. No window system.
 //
-// One rule for all: a change of value, by the user or by the program, runs the handler unless the form is busy;
-// setting the value that is there already does nothing. A user's act (druecken, waehlen, eingeben ...) on a
-// control that is hidden or disabled is a programming error and throws std::logic_error: nobody can press a
-// key that is not there.
+// One rule for all: a change of value, by the user or by the program, runs the handler unless the form is
+// busy; setting the value that is there already does nothing. A user's act (druecken, waehlen, eingeben ...)
+// on a control that is hidden or disabled is a programming error and throws std::logic_error: nobody can
+// press a key that is not there.
 #pragma once
 
 #include <functional>
@@ -39,11 +39,11 @@ class Eigenschaft {
   friend bool operator==(const Eigenschaft& e, const U& u) {
     return e.wert_ == u;
   }
-  friend std::ostream& operator<<(std::ostream& aus, const Eigenschaft& e)
-    requires requires(std::ostream& o, const T& t) { o << t; }
-  {
-    return aus << e.wert_;
+  friend std::ostream& operator<<(std::ostream& aus, const Eigenschaft& e) requires
+      requires(std::ostream& o, const T& t) {
+    o << t;
   }
+  { return aus << e.wert_; }
 
  private:
   Steuerelement& besitzer_;
@@ -60,9 +60,9 @@ class Steuerelement {
   Steuerelement& operator=(const Steuerelement&) = delete;
 
   const Art art;
-  Eigenschaft<std::string> titel;            // caption, "&" before the mnemonic
-  Eigenschaft<std::string> hinweis{*this};   // tool tip
-  Eigenschaft<bool> frei{*this, true};       // enabled
+  Eigenschaft<std::string> titel;           // caption, "&" before the mnemonic
+  Eigenschaft<std::string> hinweis{*this};  // tool tip
+  Eigenschaft<bool> frei{*this, true};      // enabled
   Eigenschaft<bool> sichtbar{*this, true};
   Eigenschaft<Farbe> farbe{*this, Farbe::normal};
 
@@ -156,8 +156,8 @@ class Auswahl final : public Steuerelement {
 
   // New entries; nothing is chosen afterwards, and no handler runs.
   void fuellen(std::vector<std::string> texte);
-  void setzen(int position);   // the program's change; -1 to anzahl() - 1
-  void waehlen(int position);  // the user's choice or click
+  void setzen(int position);            // the program's change; -1 to anzahl() - 1
+  void waehlen(int position);           // the user's choice or click
   void waehlen(std::string_view text);  // the first entry of that text
 
   void faerben(int i, Farbe f);
@@ -171,8 +171,8 @@ class Auswahl final : public Steuerelement {
   int position_ = -1;
 };
 
-// Shows a stored value in its list; one that the list does not know, as a damaged file may hold, shows as nothing
-// chosen.
+// Shows a stored value in its list; one that the list does not know, as a damaged file may hold, shows as
+// nothing chosen.
 void Einstellen(Auswahl& liste, int wert);
 
 // A text field of one or several lines.
@@ -187,7 +187,7 @@ class Textfeld final : public Steuerelement {
   std::size_t hoechstlaenge = 0;  // in characters, 0 = no limit
   std::size_t breite = 0;         // characters to show at a time, 0 = by hoechstlaenge
   bool mehrzeilig = false;
-  bool festbreit = false;         // letters of one width: logs, drawings
+  bool festbreit = false;  // letters of one width: logs, drawings
 
   const std::string& text() const { return text_; }
   void setzen(std::string text);
@@ -240,7 +240,8 @@ class Schild final : public Steuerelement {
 // A progress or value bar.
 class Balken final : public Steuerelement {
  public:
-  explicit Balken(double von = 0, double bis = 100) : Steuerelement(Art::Balken), von(von), bis(bis), wert(*this, von) {}
+  explicit Balken(double von = 0, double bis = 100)
+      : Steuerelement(Art::Balken), von(von), bis(bis), wert(*this, von) {}
   double von, bis;
   Eigenschaft<double> wert;
 };

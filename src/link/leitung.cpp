@@ -176,28 +176,22 @@ int Sio_port() { return einstellungen.Com_geraet.empty() ? einstellungen.Com_por
 
 void Port_oeffnen() {
   switch (leitung.Link_art) {
-    case Verbindung::com:
-      return Com_oeffnen();
-    case Verbindung::tcp:
-      return Tcp_oeffnen();
-    case Verbindung::geraeteserver:
-      break;
+    case Verbindung::com: return Com_oeffnen();
+    case Verbindung::tcp: return Tcp_oeffnen();
+    case Verbindung::geraeteserver: break;
   }
   Melden("Es ist weder COMx- noch TCP-Schnittstelle ausgewählt");
 }
 
 void Port_schliessen() {
   switch (leitung.Link_art) {
-    case Verbindung::com:
-      SioDone(Sio_port());
-      break;
+    case Verbindung::com: SioDone(Sio_port()); break;
     case Verbindung::tcp:
       if (leitung.Tcp_socket >= 0) cscClose(leitung.Tcp_socket);
       leitung.Tcp_socket = -1;
       cscRelease();
       break;
-    case Verbindung::geraeteserver:
-      break;
+    case Verbindung::geraeteserver: break;
   }
 }
 

@@ -36,7 +36,8 @@ int ascStartTx(const std::string& pfad, int laenge, int zeitgrenze, int zeicheng
   sender.text.clear();
   sender.gesendet = 0;
   sender.fehler = 0;
-  if (laenge < 0 || static_cast<std::size_t>(laenge) != pfad.size() || zeitgrenze != 0 || zeichengrenze != 0) {
+  if (laenge < 0 || static_cast<std::size_t>(laenge) != pfad.size() || zeitgrenze != 0 ||
+      zeichengrenze != 0) {
     sender.fehler = EINVAL;
   } else {
     sender.fehler = Datei_lesen(pfad, sender.text).fehler;
@@ -59,7 +60,8 @@ int ascDriver() {
 }
 
 int ascGetMessage(char* puffer, int n) {
-  const std::string stand = std::to_string(sender.gesendet) + " von " + std::to_string(sender.text.size()) + " Zeichen";
+  const std::string stand =
+      std::to_string(sender.gesendet) + " von " + std::to_string(sender.text.size()) + " Zeichen";
   const std::string text =
       sender.fehler == 0 ? stand + " gesendet" : stand + ", dann " + Systemfehler_text(sender.fehler);
   return std::min(std::snprintf(puffer, static_cast<std::size_t>(n), "%s", text.c_str()), n - 1);

@@ -43,7 +43,9 @@ Bytestrom* Finden(int socket) {
   return i == offen.end() ? nullptr : i->second.get();
 }
 
-Uhr::time_point Fristende(double sekunden) { return Uhr::now() + milliseconds(Echte_millisekunden(sekunden)); }
+Uhr::time_point Fristende(double sekunden) {
+  return Uhr::now() + milliseconds(Echte_millisekunden(sekunden));
+}
 
 struct Adresse {
   sockaddr_storage wert{};
@@ -143,15 +145,11 @@ int Verbinden(const Adresse& a, Uhr::time_point ende) {
 
 std::string Ursache(int fehler, const std::string& ziel) {
   switch (fehler) {
-    case ECONNREFUSED:
-      return ziel + " nimmt keine Verbindung an.";
-    case ETIMEDOUT:
-      return ziel + " antwortet nicht.";
+    case ECONNREFUSED: return ziel + " nimmt keine Verbindung an.";
+    case ETIMEDOUT: return ziel + " antwortet nicht.";
     case ENETUNREACH:
-    case EHOSTUNREACH:
-      return ziel + " ist über das Netzwerk nicht erreichbar.";
-    default:
-      return ziel + ": " + Systemfehler_text(fehler) + ".";
+    case EHOSTUNREACH: return ziel + " ist über das Netzwerk nicht erreichbar.";
+    default: return ziel + ": " + Systemfehler_text(fehler) + ".";
   }
 }
 

@@ -41,8 +41,9 @@ constexpr unsigned char parity_none = 1, stopsize_1 = 1;
 constexpr unsigned char control_ohne = 1, control_xonxoff = 2, control_hardware = 3;
 constexpr unsigned char control_dtr_an = 8, control_dtr_aus = 9, control_rts_an = 11, control_rts_aus = 12;
 
-constexpr double antwortzeit_s = 3.0;  // for the confirmation of a setting, and for a pause that the server asks for
-constexpr milliseconds runde{50};      // between two turns of the front end
+constexpr double antwortzeit_s =
+    3.0;  // for the confirmation of a setting, and for a pause that the server asks for
+constexpr milliseconds runde{50};              // between two turns of the front end
 constexpr std::size_t laengste_auskunft = 64;  // bytes of a subnegotiation that are kept
 
 std::string Bytes(std::initializer_list<int> werte) {
@@ -61,8 +62,8 @@ class Serverport {
 
   // Agrees on the options; 0 or negative.
   int Aushandeln(double sekunden) {
-    const int n = Roh_senden(Bytes({IAC, WILL, option_binaer, IAC, DO, option_binaer, IAC, WILL, option_sga, IAC, DO,
-                                    option_sga, IAC, WILL, option_com_port}));
+    const int n = Roh_senden(Bytes({IAC, WILL, option_binaer, IAC, DO, option_binaer, IAC, WILL, option_sga,
+                                    IAC, DO, option_sga, IAC, WILL, option_com_port}));
     if (n < 0) return n;
     const int ergebnis = Abwarten(sekunden, [this] { return com_port_.has_value(); });
     if (ergebnis < 0) return ergebnis;
@@ -127,10 +128,13 @@ class Serverport {
   }
   // Where bytes are not agreed on as transparent, a CR that stands for itself is followed by a zero.
   static void Nullen_einfuegen(std::string& text) {
-    for (std::size_t i = text.find('\r'); i != std::string::npos; i = text.find('\r', i + 2)) text.insert(i + 1, 1, '\0');
+    for (std::size_t i = text.find('\r'); i != std::string::npos; i = text.find('\r', i + 2))
+      text.insert(i + 1, 1, '\0');
   }
 
-  int Roh_senden(const std::string& text) { return cscPutData(socket_, text.data(), static_cast<int>(text.size())); }
+  int Roh_senden(const std::string& text) {
+    return cscPutData(socket_, text.data(), static_cast<int>(text.size()));
+  }
 
   // Takes in what has come; negative once the server has closed.
   int Nachlesen() {
@@ -203,14 +207,11 @@ class Serverport {
     const bool ja = verb_ == WILL || verb_ == DO;
     const bool von_uns = verb_ == DO || verb_ == DONT;  // what we do; else what the server does
     switch (option) {
-      case option_binaer:
-        (von_uns ? sendet_binaer_ : empfaengt_binaer_) = ja;
-        break;
+      case option_binaer: (von_uns ? sendet_binaer_ : empfaengt_binaer_) = ja; break;
       case option_com_port:
         if (von_uns) com_port_ = ja;
         break;
-      case option_sga:
-        break;
+      case option_sga: break;
       default:
         if (ja) Roh_senden(Bytes({IAC, von_uns ? WONT : DONT, option}));
     }
@@ -229,9 +230,9 @@ class Serverport {
   int socket_;
   Lage lage_ = Lage::daten;
   unsigned char verb_ = 0;
-  std::string auskunft_;                   // subnegotiation being received
-  std::string daten_;                      // bytes of the line, not yet taken
-  std::optional<bool> com_port_;           // the server lets us control its port
+  std::string auskunft_;          // subnegotiation being received
+  std::string daten_;             // bytes of the line, not yet taken
+  std::optional<bool> com_port_;  // the server lets us control its port
   bool sendet_binaer_ = false, empfaengt_binaer_ = false;
   bool angehalten_ = false;                // the server wants no data now
   std::map<int, std::string> bestaetigt_;  // values confirmed last, by number of the reply

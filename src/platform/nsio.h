@@ -1,6 +1,6 @@
-// The serial port of a device server in the network, spoken to as RFC 2217 tells: Telnet with the option COM-PORT. Port n
-// of a server listens on TCP port 4000 + n. Results are counts or handles, or negative: the system's error number with
-// its sign turned.
+// The serial port of a device server in the network, spoken to as RFC 2217 tells: Telnet with the option
+// COM-PORT. Port n of a server listens on TCP port 4000 + n. Results are counts or handles, or negative: the
+// system's error number with its sign turned.
 #pragma once
 
 #include <string>
@@ -18,9 +18,9 @@ enum Nsio_flusssteuerung { nsio_cts = 1, nsio_rts = 2, nsio_xonxoff_senden = 4, 
 int nsio_init();
 int nsio_end();
 
-// Opens port n (from 1) of the server and agrees on transparent bytes and on its control, within ms milliseconds of
-// Timer(); the front end gets its turns meanwhile. The handle, at least 1. Negative when nobody answers or when the
-// server cannot control its port.
+// Opens port n (from 1) of the server and agrees on transparent bytes and on its control, within ms
+// milliseconds of Timer(); the front end gets its turns meanwhile. The handle, at least 1. Negative when
+// nobody answers or when the server cannot control its port.
 int nsio_open(const std::string& host, int n, int ms);
 int nsio_close(int port);
 
@@ -36,8 +36,8 @@ int nsio_RTS(int port, int v);
 int nsio_read(int port, char* puffer, int n);
 // Sends all n bytes; waits while the server asks to.
 int nsio_write(int port, const char* bytes, int n);
-// Waits in the kernel until a byte has come, at most ms real milliseconds. The number of bytes waiting, or negative
-// once the server has closed.
+// Waits in the kernel until a byte has come, at most ms real milliseconds. The number of bytes waiting, or
+// negative once the server has closed.
 int nsio_warten(int port, int ms);
 
 }  // namespace zav

@@ -39,22 +39,16 @@ std::string Ursache(int fehler, const std::string& geraet) {
   switch (fehler) {
     case ENOENT:
     case ENODEV:
-    case ENXIO:
-      return "Das Gerät " + geraet + " gibt es nicht.";
+    case ENXIO: return "Das Gerät " + geraet + " gibt es nicht.";
     case EACCES:
-    case EPERM:
-      return "Kein Zugriff auf " + geraet + ": Der Benutzer muss Mitglied der Gruppe dialout sein.";
+    case EPERM: return "Kein Zugriff auf " + geraet + ": Der Benutzer muss Mitglied der Gruppe dialout sein.";
     case EBUSY:
-    case EWOULDBLOCK:
-      return "Das Gerät " + geraet + " ist durch ein anderes Programm belegt.";
+    case EWOULDBLOCK: return "Das Gerät " + geraet + " ist durch ein anderes Programm belegt.";
     case ENOTTY:
     case EISDIR:
-    case EINVAL:
-      return geraet + " ist keine serielle Schnittstelle.";
-    case EIO:
-      return "Hinter " + geraet + " ist keine Schnittstelle vorhanden.";
-    default:
-      return geraet + ": " + Systemfehler_text(fehler) + ".";
+    case EINVAL: return geraet + " ist keine serielle Schnittstelle.";
+    case EIO: return "Hinter " + geraet + " ist keine Schnittstelle vorhanden.";
+    default: return geraet + ": " + Systemfehler_text(fehler) + ".";
   }
 }
 

@@ -24,8 +24,8 @@ double Zufall_neu_gesaet();
 void Heute_setzen(Datum d);
 // Fixes the seed of the random source and starts its sequence anew.
 void Zufall_saeen(std::uint32_t saat);
-// Makes Timer() run faster by the factor from now on (1 = real). Waits take the real time of the shorter span, so
-// a time-out of 15 s takes 15 ms at 1000.
+// Makes Timer() run faster by the factor from now on (1 = real). Waits take the real time of the shorter
+// span, so a time-out of 15 s takes 15 ms at 1000.
 void Zeitraffer_setzen(double faktor);
 // Real milliseconds that `sekunden` of Timer() take, rounded up, at least 0.
 int Echte_millisekunden(double sekunden);

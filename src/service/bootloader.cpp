@@ -53,7 +53,9 @@ void Bootloader::Starten(Updateweg weg) {
   if (ergebnis == Updateergebnis::abgebrochen) schliessen();
 }
 
-void Bootloader::Schritt_zeigen(int nr, const std::string& text) { Label1.at(static_cast<std::size_t>(nr - 1)).titel = text; }
+void Bootloader::Schritt_zeigen(int nr, const std::string& text) {
+  Label1.at(static_cast<std::size_t>(nr - 1)).titel = text;
+}
 
 void Bootloader::Fortschritt_zeigen(double wert, double bis) {
   ProgressBar1.bis = bis;
@@ -68,12 +70,12 @@ void Bootloader::Schliessen() {
     schliessen();
     return;
   }
-  if (!update_.geloescht ||
-      Fragen({.text = "Das Betriebssystem im ZAVmaster wird gelöscht. Ohne Update kann er nicht mehr starten. Trotzdem abbrechen?",
-              .titel = "Update-Assistent",
-              .knoepfe = Knoepfe::Ja_Nein,
-              .symbol = Symbol::Warnung,
-              .standard = 2})) {
+  if (!update_.geloescht || Fragen({.text = "Das Betriebssystem im ZAVmaster wird gelöscht. Ohne Update kann "
+                                            "er nicht mehr starten. Trotzdem abbrechen?",
+                                    .titel = "Update-Assistent",
+                                    .knoepfe = Knoepfe::Ja_Nein,
+                                    .symbol = Symbol::Warnung,
+                                    .standard = 2})) {
     update_.Abbruch = true;
   }
 }
@@ -83,8 +85,8 @@ void Bootloader::schliessen_wuenschen() {
 }
 
 Anordnung Bootloader::anordnung() {
-  return Spalte(Command9, Command10, Zeile(Spalte(Alle(Label1)), Gruppe(Frame1, Option1)), Text1, ProgressBar1,
-                Knopfzeile(Command8));
+  return Spalte(Command9, Command10, Zeile(Spalte(Alle(Label1)), Gruppe(Frame1, Option1)), Text1,
+                ProgressBar1, Knopfzeile(Command8));
 }
 
 }  // namespace zav

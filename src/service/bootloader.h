@@ -19,7 +19,8 @@ class Bootloader final : public Formular, private Updatebeobachter {
   Taste Command9{"Update-Datei wählen und ZAVmaster updaten (über &COM-Port)"};
   Taste Command10{"Update-Datei wählen und ZAVmaster updaten (über &Ethernet)"};
   Rahmen Frame1{"ASCII-Verzögerung"};
-  Auswahl Option1{Auswahl::Form::Optionen, {"Keine", "1 Millisekunde pro Zeile", "10 Millisekunden pro Zeile"}};
+  Auswahl Option1{Auswahl::Form::Optionen,
+                  {"Keine", "1 Millisekunde pro Zeile", "10 Millisekunden pro Zeile"}};
   Textfeld Text1{"Ablauf"};
   Balken ProgressBar1;
   Taste Command8{"&Schliessen"};

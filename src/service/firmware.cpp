@@ -45,14 +45,17 @@ bool Firmware_update::Inhalt_pruefen(const std::string& pfad) {
   std::string inhalt;
   const Dateiergebnis gelesen = Datei_lesen(pfad, inhalt);
   const std::string mangel =
-      gelesen ? Srecord_mangel(inhalt) : "Die Datei kann nicht gelesen werden: " + Systemfehler_text(gelesen.fehler) + ".";
+      gelesen ? Srecord_mangel(inhalt)
+              : "Die Datei kann nicht gelesen werden: " + Systemfehler_text(gelesen.fehler) + ".";
   if (mangel.empty()) return true;
-  return Fragen({.text = "Das ist keine einwandfreie Update-Datei: " + mangel +
-                         "\r\n\r\nDas Betriebssystem im ZAVmaster wird trotzdem gelöscht, wenn Sie fortfahren. Fortfahren?",
-                 .titel = "Update-Assistent",
-                 .knoepfe = Knoepfe::Ja_Nein,
-                 .symbol = Symbol::Warnung,
-                 .standard = 2});
+  return Fragen(
+      {.text =
+           "Das ist keine einwandfreie Update-Datei: " + mangel +
+           "\r\n\r\nDas Betriebssystem im ZAVmaster wird trotzdem gelöscht, wenn Sie fortfahren. Fortfahren?",
+       .titel = "Update-Assistent",
+       .knoepfe = Knoepfe::Ja_Nein,
+       .symbol = Symbol::Warnung,
+       .standard = 2});
 }
 
 Updateergebnis Firmware_update::Ausfuehren(Updateweg weg, const std::string& Update_datei) {
@@ -69,8 +72,8 @@ Updateergebnis Firmware_update::Ausfuehren(Updateweg weg, const std::string& Upd
   const Updateergebnis ergebnis = Fuehren(*leitung, Update_datei);
   beobachter_.Abbruch_freigeben(false);
   if (ergebnis == Updateergebnis::leitung_weg) {
-    Melden(geloescht ? "Die Verbindung zum ZAVmaster ist unterbrochen. Er hat jetzt kein Betriebssystem: bitte den Update "
-                       "wiederholen."
+    Melden(geloescht ? "Die Verbindung zum ZAVmaster ist unterbrochen. Er hat jetzt kein Betriebssystem: "
+                       "bitte den Update wiederholen."
                      : "Die Verbindung zum ZAVmaster ist unterbrochen.",
            "Update-Assistent", Symbol::Stopp);
   }
@@ -101,19 +104,21 @@ Updateergebnis Firmware_update::Fuehren(Firmwareleitung& l, const std::string& p
   beobachter_.Schritt_zeigen(5, "5. ZAVmaster update läuft...");
   l.Leeren();
   Zeile("Schnittstelle wird initialisiert");
-  l.Datei_senden(pfad, [this](const std::string& text) { Zeile(text); },
-                 [&](Firmwareleitung::Sendestand s) {
-                   beobachter_.Fortschritt_zeigen(static_cast<double>(s.gesendet) / 100, static_cast<double>(s.laenge) / 100);
-                   Mitlesen(l, 0);
-                 });
+  l.Datei_senden(
+      pfad, [this](const std::string& text) { Zeile(text); },
+      [&](Firmwareleitung::Sendestand s) {
+        beobachter_.Fortschritt_zeigen(static_cast<double>(s.gesendet) / 100,
+                                       static_cast<double>(s.laenge) / 100);
+        Mitlesen(l, 0);
+      });
   l.Modemleitungen_loeschen();
   Mitlesen(l, Echte_millisekunden(2));
   Neu_starten(l);
   return Updateergebnis::fertig;
 }
 
-// Reads lines into the log until one holds the prompt, behind at least one other character. The master may take its time:
-// it waits for its power.
+// Reads lines into the log until one holds the prompt, behind at least one other character. The master may
+// take its time: it waits for its power.
 Firmware_update::Warten Firmware_update::Aufforderung_abwarten(Firmwareleitung& l) {
   std::string zeile;
   for (;;) {
@@ -143,7 +148,8 @@ void Firmware_update::Mitlesen(Firmwareleitung& l, int ms) {
     const auto rest = std::chrono::ceil<milliseconds>(ende - Uhr::now()).count();
     const int warten = static_cast<int>(std::clamp<std::int64_t>(rest, 0, runde_ms));
     const int n = l.Lesen(puffer.data(), static_cast<int>(puffer.size()), warten);
-    if (n < 0) std::this_thread::sleep_for(milliseconds(warten));  // gone: nothing left to wait for in the line
+    if (n < 0)
+      std::this_thread::sleep_for(milliseconds(warten));  // gone: nothing left to wait for in the line
     std::string echo;
     for (int i = 0; i < n; ++i) {
       const char c = puffer[static_cast<std::size_t>(i)];

@@ -23,23 +23,23 @@ class Updatebeobachter {
 
 enum class Updateergebnis {
   fertig,
-  falscher_name,     // box; the file's name does not tell that it is for the master
-  nicht_gewollt,     // the user took the warning to heart
-  nicht_geoeffnet,   // box; no line
-  abgebrochen,       // by Abbruch
-  leitung_weg,       // the line has broken down while the run waited for the master
+  falscher_name,    // box; the file's name does not tell that it is for the master
+  nicht_gewollt,    // the user took the warning to heart
+  nicht_geoeffnet,  // box; no line
+  abgebrochen,      // by Abbruch
+  leitung_weg,      // the line has broken down while the run waited for the master
 };
 
 class Firmware_update {
  public:
   explicit Firmware_update(Updatebeobachter& beobachter) : beobachter_(beobachter) {}
 
-  // The whole run. Update_datei must carry "ZAVMAStER_" in its path; a content that is no well-formed S-record file is
-  // warned of before anything happens, and the user decides. From the erase to the end of a run the master has no
-  // operating system; a new run is the recovery.
+  // The whole run. Update_datei must carry "ZAVMAStER_" in its path; a content that is no well-formed
+  // S-record file is warned of before anything happens, and the user decides. From the erase to the end of a
+  // run the master has no operating system; a new run is the recovery.
   Updateergebnis Ausfuehren(Updateweg weg, const std::string& Update_datei);
 
-  bool Abbruch = false;   // set from a handler: leaves the run while it waits for the master
+  bool Abbruch = false;    // set from a handler: leaves the run while it waits for the master
   bool geloescht = false;  // the erase has been asked for
 
  private:

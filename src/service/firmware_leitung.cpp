@@ -18,7 +18,7 @@ namespace zav {
 
 namespace {
 
-// ---- serial port ----------------------------------------------------------------------------------------------------
+// ---- serial port ------------------------------------------------------------------------------------------
 
 class Com_leitung final : public Firmwareleitung {
  public:
@@ -74,7 +74,7 @@ class Com_leitung final : public Firmwareleitung {
   }
 };
 
-// ---- device server --------------------------------------------------------------------------------------------------
+// ---- device server ----------------------------------------------------------------------------------------
 
 class Ethernet_leitung final : public Firmwareleitung {
  public:
@@ -88,7 +88,8 @@ class Ethernet_leitung final : public Firmwareleitung {
     nsio_init();
     port_ = nsio_open(einstellungen.Host_ip, 1, verbindungszeit_ms);
     if (port_ <= 0) {
-      Melden("Serial Device Server nicht gefunden, muss im lokalen Netzwerk sein, über DynDNS nicht möglich!");
+      Melden(
+          "Serial Device Server nicht gefunden, muss im lokalen Netzwerk sein, über DynDNS nicht möglich!");
       return false;
     }
     nsio_ioctl(port_, nsio_baud_115200, nsio_acht_bits);
@@ -114,8 +115,8 @@ class Ethernet_leitung final : public Firmwareleitung {
     nsio_RTS(port_, 0);
     nsio_flowctrl(port_, 0);
   }
-  // The network takes the file in no time and the server holds it for the line: handed over at the line's speed,
-  // progress tells the truth and the end is the end.
+  // The network takes the file in no time and the server holds it for the line: handed over at the line's
+  // speed, progress tells the truth and the end is the end.
   void Datei_senden(const std::string& pfad, const std::function<void(const std::string&)>& protokoll,
                     const std::function<void(Sendestand)>& runde) override {
     using Uhr = std::chrono::steady_clock;

@@ -1,4 +1,5 @@
-// The two ways to the master's bootloader: a serial port, and the serial port of a device server in the network.
+// The two ways to the master's bootloader: a serial port, and the serial port of a device server in the
+// network.
 #pragma once
 
 #include <functional>
@@ -17,8 +18,8 @@ class Firmwareleitung {
   // Opens the line and sets its modem lines. False after a box.
   virtual bool Oeffnen() = 0;
   virtual int Schreiben(std::string_view bytes) = 0;
-  // Takes up to n bytes, waiting in the kernel for the first, at most ms real milliseconds. Their number, 0 when none
-  // came, negative once the line is gone.
+  // Takes up to n bytes, waiting in the kernel for the first, at most ms real milliseconds. Their number, 0
+  // when none came, negative once the line is gone.
   virtual int Lesen(char* puffer, int n, int ms) = 0;
   // Drops what has come.
   virtual void Leeren() = 0;

@@ -33,7 +33,8 @@ void Infofenster::Info_holen() {
 }
 
 Anordnung Infofenster::anordnung() {
-  return Spalte(Text1, Text3, Gruppe(Frame1, Text2, Text6, Zeile(Command5, Feder())), Feder(), Knopfzeile(OK));
+  return Spalte(Text1, Text3, Gruppe(Frame1, Text2, Text6, Zeile(Command5, Feder())), Feder(),
+                Knopfzeile(OK));
 }
 
 }  // namespace zav

@@ -33,8 +33,8 @@ Init_flash::Init_flash() : Formular("Init_flash", "Daten ---> ZAVmaster senden")
   Text3.setzen("0");
   Text3.hinweis = "Übertragungsfehler, die durch Wiederholen behoben wurden";
   Command1.hinweis =
-      "Löscht alle Daten im ZAVmaster. Notwendig, wenn PC und ZAVmaster nicht synchrone Daten aufweisen. Der Vorgang kann "
-      "nicht abgebrochen werden!";
+      "Löscht alle Daten im ZAVmaster. Notwendig, wenn PC und ZAVmaster nicht synchrone Daten aufweisen. Der "
+      "Vorgang kann nicht abgebrochen werden!";
   Command5.hinweis = "Nur Version des ZAVmasters abfragen";
   Command2.frei = false;
 

@@ -1,4 +1,5 @@
-// "Daten ---> ZAVmaster senden": the transfer of the project, the erase of the master, and the query of what it holds.
+// "Daten ---> ZAVmaster senden": the transfer of the project, the erase of the master, and the query of what
+// it holds.
 #pragma once
 
 #include "form/formular.h"

@@ -20,8 +20,9 @@ std::string Sichtbar(std::string text) {
 
 std::string Schnittstelle_text() {
   if (einstellungen.Com_art == 0) {
-    const std::string port = einstellungen.Com_geraet.empty() ? "COM " + std::to_string(einstellungen.Com_port)
-                                                              : einstellungen.Com_geraet;
+    const std::string port = einstellungen.Com_geraet.empty()
+                                 ? "COM " + std::to_string(einstellungen.Com_port)
+                                 : einstellungen.Com_geraet;
     return port + "  115200 8N1";
   }
   return (einstellungen.Com_art == 1 ? "Ethernet " : "WLAN ") + einstellungen.Host_name + ":" +

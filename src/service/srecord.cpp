@@ -18,9 +18,10 @@ struct Satzart {
   Rolle rolle;
 };
 // S4 is reserved and appears in no file.
-constexpr std::array satzarten{Satzart{'0', 2, Rolle::kopf},   Satzart{'1', 2, Rolle::daten}, Satzart{'2', 3, Rolle::daten},
-                               Satzart{'3', 4, Rolle::daten},  Satzart{'5', 2, Rolle::anzahl}, Satzart{'6', 3, Rolle::anzahl},
-                               Satzart{'7', 4, Rolle::ende},   Satzart{'8', 3, Rolle::ende},  Satzart{'9', 2, Rolle::ende}};
+constexpr std::array satzarten{
+    Satzart{'0', 2, Rolle::kopf},  Satzart{'1', 2, Rolle::daten},  Satzart{'2', 3, Rolle::daten},
+    Satzart{'3', 4, Rolle::daten}, Satzart{'5', 2, Rolle::anzahl}, Satzart{'6', 3, Rolle::anzahl},
+    Satzart{'7', 4, Rolle::ende},  Satzart{'8', 3, Rolle::ende},   Satzart{'9', 2, Rolle::ende}};
 
 const Satzart* Art_von(std::string_view satz) {
   if (satz.size() < 2 || satz[0] != 'S') return nullptr;
@@ -57,7 +58,9 @@ std::string Srecord_mangel(std::string_view datei) {
     ++zeile;
     const std::size_t n = datei.find_first_of("\r\n");
     const std::string_view satz = Ohne_rand(datei.substr(0, n));
-    datei.remove_prefix(n == std::string_view::npos ? datei.size() : datei.substr(n).starts_with("\r\n") ? n + 2 : n + 1);
+    datei.remove_prefix(n == std::string_view::npos           ? datei.size()
+                        : datei.substr(n).starts_with("\r\n") ? n + 2
+                                                              : n + 1);
     if (satz.empty()) continue;
     const std::string stelle = "Zeile " + std::to_string(zeile) + " ";
     const Satzart* const art = Art_von(satz);

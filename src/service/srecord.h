@@ -6,8 +6,8 @@
 
 namespace zav {
 
-// What is wrong with the first line that is no good record, as a German sentence; "" for a well-formed file: good
-// records only, at least one with data, and a closing one at the end.
+// What is wrong with the first line that is no good record, as a German sentence; "" for a well-formed file:
+// good records only, at least one with data, and a closing one at the end.
 std::string Srecord_mangel(std::string_view datei);
 
 }  // namespace zav

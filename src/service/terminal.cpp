@@ -26,14 +26,15 @@ constexpr int status_laenge = 6;
 constexpr const char* zeilenende = "\r\n";
 
 constexpr const char* hilfe =
-    "Ab sofort werden alle Ereignisse von Eingängen angezeigt. So ist es zum Beispiel möglich, die Funktion einzelner "
-    "Tasten oder eines Bewegungsmelders zu überprüfen.\r\n\r\n"
-    "Sollen nur einzelne Ereignisse angezeigt werden, können bis zu 8 Durchlasskriterien angegeben werden. Achten Sie auf "
-    "exakte Schreibweise: Bei der Angabe von 'K000 T1 -/-' wird zum Beispiel jedes Loslassen der Taste 1 des ZAVin I000 "
-    "angezeigt. Wenn Sie aber K000 eingeben, werden alle Ereignisse dieses ZAVin angezeigt. Auf Wunsch können sowohl Zeit "
-    "und Datum des PCs (und nicht des ZAVmasters) angezeigt werden.\r\n\r\n"
-    "Zur weiteren Auswertung, zum Beispiel in Word oder Excel, kann der Text kopiert werden: alles markieren und mit rechter "
-    "Maustaste im Kontextmenu auf Kopieren klicken.\r\n\r\n";
+    "Ab sofort werden alle Ereignisse von Eingängen angezeigt. So ist es zum Beispiel möglich, die Funktion "
+    "einzelner Tasten oder eines Bewegungsmelders zu überprüfen.\r\n\r\n"
+    "Sollen nur einzelne Ereignisse angezeigt werden, können bis zu 8 Durchlasskriterien angegeben werden. "
+    "Achten Sie auf exakte Schreibweise: Bei der Angabe von 'K000 T1 -/-' wird zum Beispiel jedes Loslassen "
+    "der Taste 1 des ZAVin I000 angezeigt. Wenn Sie aber K000 eingeben, werden alle Ereignisse dieses ZAVin "
+    "angezeigt. Auf Wunsch können sowohl Zeit und Datum des PCs (und nicht des ZAVmasters) angezeigt "
+    "werden.\r\n\r\n"
+    "Zur weiteren Auswertung, zum Beispiel in Word oder Excel, kann der Text kopiert werden: alles markieren "
+    "und mit rechter Maustaste im Kontextmenu auf Kopieren klicken.\r\n\r\n";
 
 }  // namespace
 

@@ -1,5 +1,5 @@
-// The live view of the bus: the listing of all participants after a restart of the master, and the log of every input
-// event as it happens. Lines are the master's own and are shown as they come.
+// The live view of the bus: the listing of all participants after a restart of the master, and the log of
+// every input event as it happens. Lines are the master's own and are shown as they come.
 #pragma once
 
 #include <array>
@@ -23,10 +23,10 @@ class Terminalanzeige {
 };
 
 enum class Terminalende {
-  verlassen,       // sitzung.Abbruch
+  verlassen,        // sitzung.Abbruch
   nicht_geoeffnet,  // box
-  abgelehnt,       // the master did not answer "F00"; the reason has been shown
-  leitung_weg,     // the line has broken down; a line has told of it
+  abgelehnt,        // the master did not answer "F00"; the reason has been shown
+  leitung_weg,      // the line has broken down; a line has told of it
 };
 
 class Terminal {

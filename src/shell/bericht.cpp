@@ -75,7 +75,8 @@ std::vector<Wirkung> Wirkungen(Ereignisart art, int ereignis) {
   }
   for (int i = 0; i < dimmerausgaenge; ++i) {
     const auto p = zeilen.dimmer.subspan(i * dimmerparameter, dimmerparameter);
-    if (std::ranges::any_of(p, [](i16 w) { return w != 0; })) anfuegen({Ziel::Art::Dimmer, i}, Dimmer_in_worten(art, p));
+    if (std::ranges::any_of(p, [](i16 w) { return w != 0; }))
+      anfuegen({Ziel::Art::Dimmer, i}, Dimmer_in_worten(art, p));
   }
   for (int i = 0; i < std::ssize(zeilen.timer); ++i) {
     if (zeilen.timer[i] != 0) anfuegen({Ziel::Art::Timer, i}, Timer_in_worten(zeilen.timer[i]));
@@ -84,7 +85,8 @@ std::vector<Wirkung> Wirkungen(Ereignisart art, int ereignis) {
 }
 
 // One row for each thing that the event does, `kopf` before it; one row at least unless `nur_mit_funktion`.
-void Wirkungszeilen(Tabelle& t, const std::vector<std::string>& kopf, Ereignisart art, int ereignis, bool nur_mit_funktion) {
+void Wirkungszeilen(Tabelle& t, const std::vector<std::string>& kopf, Ereignisart art, int ereignis,
+                    bool nur_mit_funktion) {
   auto liste = Wirkungen(art, ereignis);
   if (liste.empty() && !nur_mit_funktion) liste.push_back({});
   for (const Wirkung& w : liste) {
@@ -96,10 +98,11 @@ void Wirkungszeilen(Tabelle& t, const std::vector<std::string>& kopf, Ereignisar
 
 std::string Gruppenart(int adresse) { return projekt.Grp_thermo[adresse] != 0 ? " <Thermo> " : " <Normal> "; }
 
-
 // What a key's LED shows, "" for nothing.
 std::string Led(const std::vector<std::string>& leds, int ausgang) {
-  return ausgang < 0 || ausgang == ausgang_keiner || ausgang >= std::ssize(leds) ? "" : leds[static_cast<std::size_t>(ausgang)];
+  return ausgang < 0 || ausgang == ausgang_keiner || ausgang >= std::ssize(leds)
+             ? ""
+             : leds[static_cast<std::size_t>(ausgang)];
 }
 
 void Kopf(Tabelle& t) {
@@ -112,20 +115,20 @@ void Kopf(Tabelle& t) {
   for (const std::string& zeile : Teilen(Ersetzen(projekt.Notizen, "\r\n", "\n"), "\n")) t.Zeile({zeile});
 }
 
-// ---- inputs ---------------------------------------------------------------------------------------------------------
+// ---- inputs -----------------------------------------------------------------------------------------------
 
 // Marks the addresses that devices hold.
 std::array<bool, adressen> Kombinationen(Tabelle& t, const std::vector<std::string>& leds) {
   std::array<bool, adressen> belegt{};
   t.Titel("Kombinationen");
-  t.Zeile({"Geschoss", "Raum", "Platz", "Apparat", "Adresse", "Eingänge", "Taste", "Text", "LED", "Ausgang", "Bezeichnung",
-           "Funktion"});
+  t.Zeile({"Geschoss", "Raum", "Platz", "Apparat", "Adresse", "Eingänge", "Taste", "Text", "LED", "Ausgang",
+           "Bezeichnung", "Funktion"});
   for (int d = 0; d < apparate; ++d) {
     const int k = d / plaetze;
     const Apparatart* const art = Apparat_art(projekt.App_typ[d]);
     if (projekt.Komb_text[k].empty() || art == nullptr || art->typ == apparat_leer) continue;
-    const std::vector<std::string> kopf{projekt.Komb_text[k], projekt.Komb_text2[k], std::to_string(d % plaetze + 1),
-                                        std::string(art->titel)};
+    const std::vector<std::string> kopf{projekt.Komb_text[k], projekt.Komb_text2[k],
+                                        std::to_string(d % plaetze + 1), std::string(art->titel)};
     const auto lauf = Apparat_adressen(projekt, d);
     if (!lauf) {
       t.Zeile(kopf);
@@ -139,8 +142,8 @@ std::array<bool, adressen> Kombinationen(Tabelle& t, const std::vector<std::stri
       const std::string text = textslot < 0 ? "" : projekt.Dev_text[textslot];
       const int led = slot < 0 ? ausgang_keiner : projekt.Dev_adr[slot];
       std::vector<std::string> zeile = kopf;
-      zeile.insert(zeile.end(), {"i" + std::to_string(adresse), Gruppenart(adresse), std::to_string(j + 1), text,
-                                 Led(leds, led)});
+      zeile.insert(zeile.end(), {"i" + std::to_string(adresse), Gruppenart(adresse), std::to_string(j + 1),
+                                 text, Led(leds, led)});
       belegt.at(static_cast<std::size_t>(adresse)) = true;
       Wirkungszeilen(t, zeile, Ereignisart::Eingang, lauf->erstes_ereignis() + j, text.empty());
     }
@@ -158,18 +161,19 @@ void Gruppen(Tabelle& t, const std::vector<std::string>& leds, const std::array<
       if (projekt.Ein_text[e].empty() && !Hat_funktionen(Ereignisart::Eingang, e)) continue;
       if (!ueberschrift) {
         t.Titel("Gruppen ohne Kombination");
-        t.Zeile({"Adresse", "Gruppe", "Eingänge", "Taste", "Text", "LED", "Ausgang", "Bezeichnung", "Funktion"});
+        t.Zeile(
+            {"Adresse", "Gruppe", "Eingänge", "Taste", "Text", "LED", "Ausgang", "Bezeichnung", "Funktion"});
         ueberschrift = true;
       }
       Wirkungszeilen(t,
-                     {"i" + std::to_string(a), projekt.Grp_text[a], Gruppenart(a), std::to_string(i + 1), projekt.Ein_text[e],
-                      Led(leds, projekt.Ein_led[e])},
+                     {"i" + std::to_string(a), projekt.Grp_text[a], Gruppenart(a), std::to_string(i + 1),
+                      projekt.Ein_text[e], Led(leds, projekt.Ein_led[e])},
                      Ereignisart::Eingang, e, false);
     }
   }
 }
 
-// ---- outputs and timers ---------------------------------------------------------------------------------------------
+// ---- outputs and timers -----------------------------------------------------------------------------------
 
 // Outputs that any event touches, by their number among all outputs.
 std::vector<bool> Benutzte_ausgaenge() {
@@ -193,7 +197,8 @@ std::vector<bool> Benutzte_ausgaenge() {
 
 std::string Neustart_relais(int zustand) {
   constexpr std::array worte{"Ausschalten", "Einschalten", "Zustand wie vorher"};
-  return zustand >= 0 && zustand < std::ssize(worte) ? worte.at(static_cast<std::size_t>(zustand)) : "Code " + std::to_string(zustand);
+  return zustand >= 0 && zustand < std::ssize(worte) ? worte.at(static_cast<std::size_t>(zustand))
+                                                     : "Code " + std::to_string(zustand);
 }
 std::string Neustart_dimmer(int wert) {
   if (wert == 0) return "Zustand wie vorher";
@@ -205,21 +210,28 @@ void Ausgaenge(Tabelle& t) {
   t.Titel("Ausgänge");
   t.Zeile({"Ausgang", "Bezeichnung", "Bei Neustart", "Dimmer"});
   for (int i = 0; i < relaisausgaenge; ++i) {
-    if (projekt.Relais_text[i].empty() && projekt.Relais_neustart[i] == 0 && !benutzt[static_cast<std::size_t>(i)]) continue;
-    t.Zeile({Ziel_name({Ziel::Art::Relais, i}), projekt.Relais_text[i], Neustart_relais(projekt.Relais_neustart[i])});
+    if (projekt.Relais_text[i].empty() && projekt.Relais_neustart[i] == 0 &&
+        !benutzt[static_cast<std::size_t>(i)])
+      continue;
+    t.Zeile({Ziel_name({Ziel::Art::Relais, i}), projekt.Relais_text[i],
+             Neustart_relais(projekt.Relais_neustart[i])});
   }
   for (int i = 0; i < dimmerausgaenge; ++i) {
-    const bool leer = projekt.Dimmer_text[i].empty() && projekt.Dimmer_neustart[i] == 0 && projekt.Dimmer_modus[i] == 0;
+    const bool leer =
+        projekt.Dimmer_text[i].empty() && projekt.Dimmer_neustart[i] == 0 && projekt.Dimmer_modus[i] == 0;
     if (leer && !benutzt[static_cast<std::size_t>(erster_dimmer + i)]) continue;
-    t.Zeile({Ziel_name({Ziel::Art::Dimmer, i}), projekt.Dimmer_text[i], Neustart_dimmer(projekt.Dimmer_neustart[i]),
+    t.Zeile({Ziel_name({Ziel::Art::Dimmer, i}), projekt.Dimmer_text[i],
+             Neustart_dimmer(projekt.Dimmer_neustart[i]),
              projekt.Dimmer_modus[i] == 0 ? "Phasenanschnitt" : "Phasenabschnitt"});
   }
 }
 
 void Timer_zeigen(Tabelle& t) {
-  constexpr std::array schritte{"Startfunktion 1", "Zwischenfunktion 2", "Zwischenfunktion 3", "Endfunktion 4"};
+  constexpr std::array schritte{"Startfunktion 1", "Zwischenfunktion 2", "Zwischenfunktion 3",
+                                "Endfunktion 4"};
   t.Titel("Timer");
-  t.Zeile({"Timer", "Bezeichnung", "Zeit 1", "Zeit 2", "Zeit 3", "Schritt", "Ausgang", "Bezeichnung", "Funktion"});
+  t.Zeile({"Timer", "Bezeichnung", "Zeit 1", "Zeit 2", "Zeit 3", "Schritt", "Ausgang", "Bezeichnung",
+           "Funktion"});
   for (int n = 0; n < timeranzahl; ++n) {
     const auto zeiten = projekt.Timer_zeit.alle().subspan(static_cast<std::size_t>(3 * n), 3);
     std::vector<std::string> kopf{"T" + std::to_string(n), projekt.Timer_text[n]};
@@ -232,12 +244,13 @@ void Timer_zeigen(Tabelle& t) {
       Wirkungszeilen(t, zeile, Ereignisart::Timer, 4 * n + s, true);
       gezeigt = true;
     }
-    const bool leer = std::all_of(kopf.begin() + 1, kopf.end(), [](const std::string& k) { return k.empty(); });
+    const bool leer =
+        std::all_of(kopf.begin() + 1, kopf.end(), [](const std::string& k) { return k.empty(); });
     if (!gezeigt && !leer) t.Zeile(kopf);
   }
 }
 
-// ---- clocks ---------------------------------------------------------------------------------------------------------
+// ---- clocks -----------------------------------------------------------------------------------------------
 
 std::string Regel_in_worten(int e) {
   const Schaltregel r = Regel_lesen(e);
@@ -248,8 +261,10 @@ std::string Regel_in_worten(int e) {
   if (Mit_sonne(modus) && r.versatz() != Versatz::keiner) {
     anfuegen(r.f1 + (r.versatz() == Versatz::frueher ? " früher" : " später"));
   }
-  if (Mit_sonne(modus) && !r.f2.empty()) anfuegen("nicht vor " + r.f2 + (r.f6 == 1 ? " (sonst nicht schalten)" : ""));
-  if (Mit_sonne(modus) && !r.f3.empty()) anfuegen("nicht nach " + r.f3 + (r.f7 == 1 ? " (sonst nicht schalten)" : ""));
+  if (Mit_sonne(modus) && !r.f2.empty())
+    anfuegen("nicht vor " + r.f2 + (r.f6 == 1 ? " (sonst nicht schalten)" : ""));
+  if (Mit_sonne(modus) && !r.f3.empty())
+    anfuegen("nicht nach " + r.f3 + (r.f7 == 1 ? " (sonst nicht schalten)" : ""));
   if (Mit_zufall(modus) && !r.f4.empty()) anfuegen("zufällig bis " + r.f4 + " früher");
   if (Mit_zufall(modus) && !r.f5.empty()) anfuegen("zufällig bis " + r.f5 + " später");
   return text;
@@ -257,16 +272,20 @@ std::string Regel_in_worten(int e) {
 
 void Schaltuhren(Tabelle& t) {
   t.Titel("Schaltuhren");
-  t.Zeile({"Schaltuhr", "Tag", "Zeile", "Schaltzweck", "Zeit", "Regel", "Ausgang", "Bezeichnung", "Funktion"});
+  t.Zeile(
+      {"Schaltuhr", "Tag", "Zeile", "Schaltzweck", "Zeit", "Regel", "Ausgang", "Bezeichnung", "Funktion"});
   for (int uhr = 0; uhr < schaltuhren; ++uhr) {
     for (int tag = 0; tag < tagesseiten; ++tag) {
       for (int zeile = 0; zeile < zeilen_je_seite; ++zeile) {
         const int e = Uhrereignis(uhr, tag, zeile);
-        if (projekt.Uhr_zeit[e].empty() && projekt.Uhr_text[e].empty() && !Hat_funktionen(Ereignisart::Uhr, e)) continue;
-        Wirkungszeilen(t,
-                       {std::to_string(uhr + 1), tag < 7 ? std::string(Wochentag_wort(tag)) : "Täglich",
-                        std::to_string(zeile + 1), projekt.Uhr_text[e], projekt.Uhr_zeit[e], Regel_in_worten(e)},
-                       Ereignisart::Uhr, e, false);
+        if (projekt.Uhr_zeit[e].empty() && projekt.Uhr_text[e].empty() &&
+            !Hat_funktionen(Ereignisart::Uhr, e))
+          continue;
+        Wirkungszeilen(
+            t,
+            {std::to_string(uhr + 1), tag < 7 ? std::string(Wochentag_wort(tag)) : "Täglich",
+             std::to_string(zeile + 1), projekt.Uhr_text[e], projekt.Uhr_zeit[e], Regel_in_worten(e)},
+            Ereignisart::Uhr, e, false);
       }
     }
   }
@@ -283,7 +302,7 @@ void Schaltuhren(Tabelle& t) {
   }
 }
 
-// ---- weather and radio ----------------------------------------------------------------------------------------------
+// ---- weather and radio ------------------------------------------------------------------------------------
 
 struct Wettersensor {
   const char* name;
@@ -307,14 +326,16 @@ std::string Bedingungen(int f) {
   for (const Wettersensor& s : wettersensoren_bericht) {
     const int vergleich = (projekt.*s.vergleich)[f];
     if (vergleich == 0) continue;
-    anfuegen(std::string(s.name) + (vergleich == 1 ? " kleiner als " : " grösser als ") + (projekt.*s.schwelle)[f] + " " + s.einheit);
+    anfuegen(std::string(s.name) + (vergleich == 1 ? " kleiner als " : " grösser als ") +
+             (projekt.*s.schwelle)[f] + " " + s.einheit);
   }
   constexpr std::array richtungen{"Ost", "Süd", "West", "Nord", "Südost", "Südwest", "Nordost", "Nordwest"};
   const int richtung = projekt.Wetter_v_richtung[f];
   if (richtung > 0 && richtung <= std::ssize(richtungen)) {
     anfuegen(std::string("Windrichtung ") + richtungen.at(static_cast<std::size_t>(richtung - 1)));
   }
-  if (projekt.Wetter_v_regen[f] != 0) anfuegen(projekt.Wetter_v_regen[f] == 1 ? "Niederschlag" : "kein Niederschlag");
+  if (projekt.Wetter_v_regen[f] != 0)
+    anfuegen(projekt.Wetter_v_regen[f] == 1 ? "Niederschlag" : "kein Niederschlag");
   if (projekt.Wetter_v_defekt[f] == 1) anfuegen("Wetterstation defekt");
   return text;
 }
@@ -326,11 +347,13 @@ void Wetter(Tabelle& t) {
     if (projekt.Wetter_text[f].empty() && bedingungen.empty()) continue;
     if (!ueberschrift) {
       t.Titel("Wetterfunktionen");
-      t.Zeile({"Nr.", "Bezeichnung", "Ausführen", "Bedingungen", "Wartezeit 1", "Wiederholzeit 1", "Wartezeit 2", "Wiederholzeit 2"});
+      t.Zeile({"Nr.", "Bezeichnung", "Ausführen", "Bedingungen", "Wartezeit 1", "Wiederholzeit 1",
+               "Wartezeit 2", "Wiederholzeit 2"});
       ueberschrift = true;
     }
-    t.Zeile({std::to_string(f), projekt.Wetter_text[f], projekt.Wetter_aktiv[f] == "1" ? "Ja" : "Nein", bedingungen,
-             projekt.Wetter_warte1[f], projekt.Wetter_wiederh1[f], projekt.Wetter_warte2[f], projekt.Wetter_wiederh2[f]});
+    t.Zeile({std::to_string(f), projekt.Wetter_text[f], projekt.Wetter_aktiv[f] == "1" ? "Ja" : "Nein",
+             bedingungen, projekt.Wetter_warte1[f], projekt.Wetter_wiederh1[f], projekt.Wetter_warte2[f],
+             projekt.Wetter_wiederh2[f]});
   }
 }
 
@@ -343,7 +366,8 @@ void Funk(Tabelle& t) {
   t.Zeile({"Empfänger", "Ort", "Eingebaut"});
   for (int r = 0; r < empfaenger; ++r) {
     if (projekt.Enocean_empf_da[r] != 1 && projekt.Enocean_empf_ort[r].empty()) continue;
-    t.Zeile({std::to_string(r), projekt.Enocean_empf_ort[r], projekt.Enocean_empf_da[r] == 1 ? "Ja" : "Nein"});
+    t.Zeile(
+        {std::to_string(r), projekt.Enocean_empf_ort[r], projekt.Enocean_empf_da[r] == 1 ? "Ja" : "Nein"});
   }
   t.Titel("Funksender");
   t.Zeile({"ID", "Schlüssel", "Empfänger", "Geschoss", "Raum", "Apparat", "Adresse"});
@@ -352,8 +376,9 @@ void Funk(Tabelle& t) {
     if (projekt.App_enocean_id[d].empty() || projekt.Komb_text[k].empty()) continue;
     const Apparatart* const art = Apparat_art(projekt.App_typ[d]);
     const int r = projekt.App_enocean_empf[d];
-    t.Zeile({projekt.App_enocean_id[d], projekt.App_enocean_schluessel[d], r >= 0 && r < empfaenger ? std::to_string(r) : "keiner",
-             projekt.Komb_text[k], projekt.Komb_text2[k], art == nullptr ? "" : art->titel, "i" + projekt.App_text[d]});
+    t.Zeile({projekt.App_enocean_id[d], projekt.App_enocean_schluessel[d],
+             r >= 0 && r < empfaenger ? std::to_string(r) : "keiner", projekt.Komb_text[k],
+             projekt.Komb_text2[k], art == nullptr ? "" : art->titel, "i" + projekt.App_text[d]});
   }
 }
 

@@ -70,10 +70,11 @@ void Datei::Neu() {
 void Datei::Oeffnen() {
   sitzung.Projekt_name_vorher = projekt.Projekt_name;
   if (Ungespeichertes_fragen()) {
-    const auto wahl = oberflaeche().Datei_oeffnen({.titel = "Projekt öffnen",
-                                                   .ordner = einstellungen.Standard_ordner,
-                                                   .filter = {{"ZAVnet (*.zav)", "*.zav"}, {"Alles (*.*)", "*.*"}},
-                                                   .schreibschutz_waehlbar = true});
+    const auto wahl =
+        oberflaeche().Datei_oeffnen({.titel = "Projekt öffnen",
+                                     .ordner = einstellungen.Standard_ordner,
+                                     .filter = {{"ZAVnet (*.zav)", "*.zav"}, {"Alles (*.*)", "*.*"}},
+                                     .schreibschutz_waehlbar = true});
     // Saved by the question under another name: that is the one to keep on a cancel.
     sitzung.Projekt_name_vorher = projekt.Projekt_name;
     if (wahl) sitzung.Schreibschutz = wahl->schreibgeschuetzt ? 1 : 0;
@@ -106,8 +107,8 @@ void Datei::Exportieren() {
 void Datei::App_oeffnen() {
   if (projekt.Datei_version == "800" || projekt.Datei_version == "900") {
     Melden(std::string("Wenn Sie die neuen Funktionen von ") + programm_version +
-           " nutzen möchten, wählen Sie 'Speichern unter' und den Dateityp 910. Achtung: Das Betriebssystem des ZAVmasters muss "
-           "auf die Version 9 aufgerüstet werden.");
+           " nutzen möchten, wählen Sie 'Speichern unter' und den Dateityp 910. Achtung: Das Betriebssystem "
+           "des ZAVmasters muss auf die Version 9 aufgerüstet werden.");
     return;
   }
   ZAVapp_Form dialog;
@@ -130,7 +131,8 @@ void Datei::Bericht_schreiben() {
 }
 
 Anordnung Datei::anordnung() {
-  return Spalte(Gruppe(Frame1, Label1, New, Command2, Command3, Command1, Command4, Drucken), Feder(), Knopfzeile(Cancel));
+  return Spalte(Gruppe(Frame1, Label1, New, Command2, Command3, Command1, Command4, Drucken), Feder(),
+                Knopfzeile(Cancel));
 }
 
 }  // namespace zav

@@ -74,7 +74,9 @@ void Eingabehilfe::Vorschau() {
   const int bis = Combo2.position();
   int geaendert = 0;
   for (int i = von; i <= bis; ++i) geaendert += Neuer_text(i - von, i) != Platz(i);
-  Label2.titel = bis < von ? "'Bis' liegt vor 'Von'." : std::to_string(geaendert) + " von " + std::to_string(bis - von + 1) + " Texten werden geändert";
+  Label2.titel = bis < von ? "'Bis' liegt vor 'Von'."
+                           : std::to_string(geaendert) + " von " + std::to_string(bis - von + 1) +
+                                 " Texten werden geändert";
   OK.frei = geaendert > 0;
   OK.hinweis = geaendert > 0 ? "" : "Kein Text ändert sich";
 }
@@ -87,7 +89,8 @@ void Eingabehilfe::Uebernehmen() {
 }
 
 Anordnung Eingabehilfe::anordnung() {
-  return Spalte(Label1, Option1, Zeile(Combo1, Combo2, Feder()), Zeile(Text1, Text2), Check1, Label2, Feder(), Knopfzeile(OK, Cancel));
+  return Spalte(Label1, Option1, Zeile(Combo1, Combo2, Feder()), Zeile(Text1, Text2), Check1, Label2, Feder(),
+                Knopfzeile(OK, Cancel));
 }
 
 }  // namespace zav

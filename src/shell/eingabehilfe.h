@@ -10,7 +10,9 @@ class Eingabehilfe final : public Formular {
  public:
   Eingabehilfe();
 
-  Schild Label1{"Benennt Ausgänge oder Timer der Reihe nach: aus dem Text 'Licht #' und der Nummer 1 wird 'Licht 1', 'Licht 2' ..."};
+  Schild Label1{
+      "Benennt Ausgänge oder Timer der Reihe nach: aus dem Text 'Licht #' und der Nummer 1 wird 'Licht 1', "
+      "'Licht 2' ..."};
   Auswahl Option1{Auswahl::Form::Optionen, {"&Relaisausgänge", "&Dimmerausgänge", "&Timer"}};
   Auswahl Combo1{Auswahl::Form::Klappliste, {}, "&Von"}, Combo2{Auswahl::Form::Klappliste, {}, "&Bis"};
   Textfeld Text1{"T&ext, # ist die Nummer"}, Text2{"&Nummer des ersten"};

@@ -79,6 +79,8 @@ void Fotos::Zeigen() {
   Command2.frei = n + 1 < List1.anzahl();
 }
 
-Anordnung Fotos::anordnung() { return Spalte(List1, Text1, Zeile(Command1, Command2, Feder()), Knopfzeile(OK)); }
+Anordnung Fotos::anordnung() {
+  return Spalte(List1, Text1, Zeile(Command1, Command2, Feder()), Knopfzeile(OK));
+}
 
 }  // namespace zav

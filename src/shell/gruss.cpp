@@ -11,11 +11,12 @@ namespace {
 
 constexpr const char* leer = "---";
 constexpr const char* neuerungen =
-    "Neu in Version 9.102: Eigenschaften und Tasten für die ZAVapp, IP-Kameras, Funksender mit bis zu 16 Empfängern, "
-    "Ausgänge aus dem Funktionsfenster testen. Projekte der Generation 910 brauchen im ZAVmaster die Version 9.";
+    "Neu in Version 9.102: Eigenschaften und Tasten für die ZAVapp, IP-Kameras, Funksender mit bis zu 16 "
+    "Empfängern, Ausgänge aus dem Funktionsfenster testen. Projekte der Generation 910 brauchen im ZAVmaster "
+    "die Version 9.";
 constexpr const char* haftung =
-    "Prüfen Sie nach jedem Senden die Funktionen der Anlage vor Ort, besonders Storen, Tore und Heizungen. Für Schäden aus "
-    "falsch programmierten Anlagen wird keine Haftung übernommen.";
+    "Prüfen Sie nach jedem Senden die Funktionen der Anlage vor Ort, besonders Storen, Tore und Heizungen. "
+    "Für Schäden aus falsch programmierten Anlagen wird keine Haftung übernommen.";
 
 }  // namespace
 
@@ -77,8 +78,8 @@ void Gruss::Laden(std::size_t n) {
 }
 
 Anordnung Gruss::anordnung() {
-  return Spalte(Gruppe(Frame1, Alle(Command1)), OK, Label1, Zeile(Command2, Command4, Command3, Feder()), Text1,
-                Knopfzeile(Command5));
+  return Spalte(Gruppe(Frame1, Alle(Command1)), OK, Label1, Zeile(Command2, Command4, Command3, Feder()),
+                Text1, Knopfzeile(Command5));
 }
 
 }  // namespace zav

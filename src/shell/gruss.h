@@ -1,5 +1,5 @@
-// The greeting: where the user chooses what to work on. A project is in the store when it has closed, unless the user
-// ends the program.
+// The greeting: where the user chooses what to work on. A project is in the store when it has closed, unless
+// the user ends the program.
 #pragma once
 
 #include <array>

@@ -113,7 +113,8 @@ void Haupt::Befehle_verdrahten() {
          Ports_suchen();
          Oeffnen<Uhrseite>();
        }},
-      {Timer_button, "Timer (Treppenhausfunktion) an Ereignisse und Ausgänge zuweisen", [this] { Oeffnen<Timer_trepp>(); }},
+      {Timer_button, "Timer (Treppenhausfunktion) an Ereignisse und Ausgänge zuweisen",
+       [this] { Oeffnen<Timer_trepp>(); }},
       {Command6, "Zustand der Ausgänge bei einem Neustart festlegen", [this] { Oeffnen<Actmask_init>(); }},
       {Dimmer, "PhasenANschnitt- oder PhasenABschnittsteuerung für jeden Dimmerausgang definieren",
        [this] { Oeffnen<Dimmermode>(); }},
@@ -143,10 +144,11 @@ void Haupt::Befehle_verdrahten() {
   }
   Image1.bild = "wetter";
   Image2.bild = "touchpanel";
-  for (std::size_t n = 0; n < Zuletzt.size(); ++n) Zuletzt[n].wenn_gedrueckt = [this, n] { Zuletzt_oeffnen(n); };
+  for (std::size_t n = 0; n < Zuletzt.size(); ++n)
+    Zuletzt[n].wenn_gedrueckt = [this, n] { Zuletzt_oeffnen(n); };
 }
 
-// ---- what it shows ----------------------------------------------------------------------------------------------------
+// ---- what it shows ----------------------------------------------------------------------------------------
 
 void Haupt::Titel_setzen() {
   titel_setzen("ZAVlink Hauptmenu  -  " + projekt.Projekt_name + ".zav" +
@@ -160,15 +162,18 @@ void Haupt::Auffrischen() {
     Notizen.setzen(projekt.Notizen);
   }
   Label_projekt.titel = Ersetzen(Dateiname(projekt.Projekt_name), "&", "&&");
-  Label_pfad.titel = projekt.Projekt_name == "Namenlos" ? "noch nicht gespeichert" : projekt.Projekt_name + ".zav";
-  Label_stand.titel = "Generation " + projekt.Datei_version + (sitzung.Projekt_geaendert == 1 ? ", geändert" : "");
+  Label_pfad.titel =
+      projekt.Projekt_name == "Namenlos" ? "noch nicht gespeichert" : projekt.Projekt_name + ".zav";
+  Label_stand.titel =
+      "Generation " + projekt.Datei_version + (sitzung.Projekt_geaendert == 1 ? ", geändert" : "");
   const Kennzahlen k = Kennzahlen_von(projekt);
   Label_kennzahlen.titel = Anzahl(k.kombinationen, "Kombination", "Kombinationen") + "   " +
                            Anzahl(k.apparate, "Apparat", "Apparate") + "   " +
                            Anzahl(k.eingangsereignisse, "Taste", "Tasten") + " mit Funktion";
   const Sendevorschau v = Sendevorschau_von(projekt);
-  Label_senden.titel = Anzahl(v.ereignisse, "Ereignis", "Ereignisse") + (v.schaltzeiten ? "   Schaltzeiten" : "") + "   " +
-                       Anzahl(v.led_gruppen, "LED-Gruppe", "LED-Gruppen") + "   ca. " + std::to_string(v.sekunden) + " s";
+  Label_senden.titel =
+      Anzahl(v.ereignisse, "Ereignis", "Ereignisse") + (v.schaltzeiten ? "   Schaltzeiten" : "") + "   " +
+      Anzahl(v.led_gruppen, "LED-Gruppe", "LED-Gruppen") + "   ca. " + std::to_string(v.sekunden) + " s";
   Label_schnittstelle.titel = Schnittstelle_text();
   Label_master.titel = "ZAVmaster " + sitzung.Master_version;
   Zuletzt_zeigen();
@@ -189,7 +194,7 @@ void Haupt::Notizen_geaendert() {
   sitzung.Projekt_geaendert = 1;
 }
 
-// ---- commands -----------------------------------------------------------------------------------------------------------
+// ---- commands ---------------------------------------------------------------------------------------------
 
 void Haupt::Daten() {
   // A folder that does not exist leaves the program where it is.

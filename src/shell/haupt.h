@@ -1,5 +1,6 @@
-// The main menu: owns the session and opens everything else. One source a subject: haupt (commands, doors, what it shows
-// of the project), haupt_menue (file menu, signs, shortcuts), haupt_terminal (terminal mode), haupt_anordnung.
+// The main menu: owns the session and opens everything else. One source a subject: haupt (commands, doors,
+// what it shows of the project), haupt_menue (file menu, signs, shortcuts), haupt_terminal (terminal mode),
+// haupt_anordnung.
 #pragma once
 
 #include <array>
@@ -34,12 +35,13 @@ class Haupt final : public Formular, private Terminalanzeige {
   Taste Eingaenge{"&Eingänge - LEDs - IR - Wetter - Touchpanel"};
   Taste Uhr_button{"Schaltuh&ren..."}, Setup_uhr{"Schalt&uhr- Sequenzer..."};
   Taste Command1{"Daten senden..."}, Command5{"U&hr stellen..."};
-  Taste Timer_button{"&Timer Manager..."}, Command6{"&Zustand bei Neustart..."}, Dimmer{"Di&mmer (An- und Abschnitt)..."};
+  Taste Timer_button{"&Timer Manager..."}, Command6{"&Zustand bei Neustart..."},
+      Dimmer{"Di&mmer (An- und Abschnitt)..."};
   Taste Image1, Image2;
 
   // ---- menu
-  Taste mnuNeu{"&Neu"}, mnuOeffnen{"Ö&ffnen..."}, mnuSpeichern{"&Speichern"}, mnuSpeichern_unter{"Speichern &unter..."},
-      mnuBeenden{"&Beenden"};
+  Taste mnuNeu{"&Neu"}, mnuOeffnen{"Ö&ffnen..."}, mnuSpeichern{"&Speichern"},
+      mnuSpeichern_unter{"Speichern &unter..."}, mnuBeenden{"&Beenden"};
   Taste backref_command{"Erei&gnissuche"};
   Taste neustartlist{"Auf&listen aller Busteilnehmer"}, protokoll{"P&rotokollieren aller Ereignisse"};
   Taste Sonderfunktionen{"Sonderfunktionen"}, start_storentimer{"St&orenparameter"};
@@ -76,7 +78,7 @@ class Haupt final : public Formular, private Terminalanzeige {
   template <class F>
   void Oeffnen();
   void Daten();
-  void Dateibefehl(Taste Datei::* befehl);
+  void Dateibefehl(Taste Datei::*befehl);
   void Eingaenge_oeffnen();
   // The doors of the installation editor.
   Tueren Editortueren();

@@ -63,18 +63,19 @@ Anordnung Haupt::anordnung() {
   return Spalte(
       Menue("D&atei", mnuNeu, mnuOeffnen, Feder(), mnuSpeichern, mnuSpeichern_unter, Feder(), mnuBeenden),
       Menue("&GlasZAV", neustartlist, protokoll, backref_command, mnu_ResetMaster),
-      Menue("&Werkzeuge", Sonderfunktionen, start_storentimer, Sonnenrechner, Touchpanel_Mnu, IP_Kameras_Mnu, Update,
-            System_Optionen),
+      Menue("&Werkzeuge", Sonderfunktionen, start_storentimer, Sonnenrechner, Touchpanel_Mnu, IP_Kameras_Mnu,
+            Update, System_Optionen),
       Menue("Hil&fe", mnu_Zeige_Fotos, InfoZAVlink),
       Gruppe(Frame_befehle,
-             Zeile(Spalte(Gruppe("Projekt", Dateien), Gruppe("Installation", Eingaenge, Timer_button, Command6, Dimmer),
-                          Gruppe("Zeit", Uhr_button, Setup_uhr, Command5), Gruppe("Wetter und Touchpanel", Zeile(Image1, Image2)),
-                          Feder(), Closen),
+             Zeile(Spalte(Gruppe("Projekt", Dateien),
+                          Gruppe("Installation", Eingaenge, Timer_button, Command6, Dimmer),
+                          Gruppe("Zeit", Uhr_button, Setup_uhr, Command5),
+                          Gruppe("Wetter und Touchpanel", Zeile(Image1, Image2)), Feder(), Closen),
                    Spalte(Zeile(Label_projekt, Feder(), Label_stand), Label_pfad, Label_kennzahlen,
                           Gruppe(Frame_senden, Zeile(Label_senden, Feder(), Command1)), Notizen,
                           Zeile(Label_zuletzt, Alle(Zuletzt), Feder())))),
-      Gruppe(Frame_glaszav, Gruppe(Frame_filter, Raster(4, Alle(Filter))), Zeile(Check1, Check2, Feder(), Command9),
-             Terminal_Fenster, Knopfzeile(Command7)),
+      Gruppe(Frame_glaszav, Gruppe(Frame_filter, Raster(4, Alle(Filter))),
+             Zeile(Check1, Check2, Feder(), Command9), Terminal_Fenster, Knopfzeile(Command7)),
       Zeile(Label_schnittstelle, Feder(), Label_master));
 }
 

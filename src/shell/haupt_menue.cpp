@@ -23,20 +23,38 @@ void Haupt::Menue_verdrahten() {
     Taste& taste;
     const char* bild;
   };
-  for (const auto& [taste, bild] :
-       {Zeichen{mnuNeu, "neu"}, {mnuOeffnen, "oeffnen"}, {mnuSpeichern, "speichern"}, {mnuBeenden, "beenden"},
-        {Dateien, "projekt"}, {Eingaenge, "eingaenge"}, {Timer_button, "timer"}, {Command6, "neustart"},
-        {Dimmer, "dimmer"}, {Uhr_button, "uhr"}, {Setup_uhr, "sequenzer"}, {Command5, "stellen"},
-        {Command1, "senden"}, {Closen, "beenden"}, {backref_command, "suchen"}, {neustartlist, "master"},
-        {protokoll, "protokoll"}, {mnu_ResetMaster, "neustart"}, {System_Optionen, "optionen"},
-        {Update, "update"}, {Sonnenrechner, "sonne"}, {Touchpanel_Mnu, "touchpanel"}, {IP_Kameras_Mnu, "kamera"},
-        {start_storentimer, "store"}, {Sonderfunktionen, "lampe"}, {InfoZAVlink, "info"}}) {
+  for (const auto& [taste, bild] : {Zeichen{mnuNeu, "neu"},
+                                    {mnuOeffnen, "oeffnen"},
+                                    {mnuSpeichern, "speichern"},
+                                    {mnuBeenden, "beenden"},
+                                    {Dateien, "projekt"},
+                                    {Eingaenge, "eingaenge"},
+                                    {Timer_button, "timer"},
+                                    {Command6, "neustart"},
+                                    {Dimmer, "dimmer"},
+                                    {Uhr_button, "uhr"},
+                                    {Setup_uhr, "sequenzer"},
+                                    {Command5, "stellen"},
+                                    {Command1, "senden"},
+                                    {Closen, "beenden"},
+                                    {backref_command, "suchen"},
+                                    {neustartlist, "master"},
+                                    {protokoll, "protokoll"},
+                                    {mnu_ResetMaster, "neustart"},
+                                    {System_Optionen, "optionen"},
+                                    {Update, "update"},
+                                    {Sonnenrechner, "sonne"},
+                                    {Touchpanel_Mnu, "touchpanel"},
+                                    {IP_Kameras_Mnu, "kamera"},
+                                    {start_storentimer, "store"},
+                                    {Sonderfunktionen, "lampe"},
+                                    {InfoZAVlink, "info"}}) {
     taste.bild = bild;
   }
 }
 
 // A command of the file dialog, given without showing it.
-void Haupt::Dateibefehl(Taste Datei::* befehl) {
+void Haupt::Dateibefehl(Taste Datei::*befehl) {
   Datei datei;
   Taste& taste = datei.*befehl;
   if (taste.frei && taste.sichtbar) taste.druecken();

@@ -20,13 +20,14 @@ void Haupt::Terminal_verdrahten() {
   Command7.abbruch = true;
 }
 
-// One mode at a time: the terminal's line is busy, so the commands that could use it are off with their panel.
+// One mode at a time: the terminal's line is busy, so the commands that could use it are off with their
+// panel.
 void Haupt::Betriebsart_setzen(bool terminal) {
   Frame_glaszav.sichtbar = terminal;
   Frame_befehle.sichtbar = !terminal;
-  for (Taste* t : {&backref_command, &neustartlist, &protokoll, &Sonderfunktionen, &start_storentimer, &System_Optionen,
-                   &mnu_ResetMaster, &mnu_Zeige_Fotos, &Update, &Sonnenrechner, &Touchpanel_Mnu, &IP_Kameras_Mnu,
-                   &InfoZAVlink}) {
+  for (Taste* t : {&backref_command, &neustartlist, &protokoll, &Sonderfunktionen, &start_storentimer,
+                   &System_Optionen, &mnu_ResetMaster, &mnu_Zeige_Fotos, &Update, &Sonnenrechner,
+                   &Touchpanel_Mnu, &IP_Kameras_Mnu, &InfoZAVlink}) {
     t->frei = !terminal;
   }
 }

@@ -32,8 +32,8 @@ bool Gespeichert() {
   if (Alte_generation(projekt.Datei_version)) projekt.Datei_version = "910";
   const Speichern ergebnis = Projekt_speichern();
   if (ergebnis == Speichern::nicht_geschrieben) {
-    Melden(projekt.Projekt_name + ".zav konnte nicht geschrieben werden: " + Systemfehler_text(sitzung.Dateifehler) +
-               ". Die Datei auf der Platte ist unverändert.",
+    Melden(projekt.Projekt_name + ".zav konnte nicht geschrieben werden: " +
+               Systemfehler_text(sitzung.Dateifehler) + ". Die Datei auf der Platte ist unverändert.",
            Fehlertitel(sitzung.Dateifehler), Symbol::Stopp);
   }
   if (ergebnis != Speichern::gespeichert) return false;
@@ -59,19 +59,15 @@ bool Datei_ablegen(const std::string& pfad, const std::string& inhalt) {
 bool Ungespeichertes_fragen() {
   while (sitzung.Projekt_geaendert == 1) {
     oberflaeche().Piep();
-    switch (oberflaeche().Melden({.text = "Es existieren möglicherweise ungespeicherte Projektdaten!\r\n\r\nMöchten Sie das "
-                                          "aktuelle Projekt noch speichern?\r\n\r\n",
-                                  .titel = "Noch speichern?",
-                                  .knoepfe = Knoepfe::Ja_Nein_Abbrechen,
-                                  .symbol = Symbol::Warnung})) {
-      case Antwort::Ja:
-        Projekt_sichern_unter();
-        break;
-      case Antwort::Nein:
-        sitzung.Projekt_geaendert = 0;
-        break;
-      default:
-        return false;
+    switch (oberflaeche().Melden(
+        {.text = "Es existieren möglicherweise ungespeicherte Projektdaten!\r\n\r\nMöchten Sie das aktuelle "
+                 "Projekt noch speichern?\r\n\r\n",
+         .titel = "Noch speichern?",
+         .knoepfe = Knoepfe::Ja_Nein_Abbrechen,
+         .symbol = Symbol::Warnung})) {
+      case Antwort::Ja: Projekt_sichern_unter(); break;
+      case Antwort::Nein: sitzung.Projekt_geaendert = 0; break;
+      default: return false;
     }
   }
   return true;
@@ -79,7 +75,9 @@ bool Ungespeichertes_fragen() {
 
 bool Projekt_sichern() {
   if (sitzung.Schreibschutz == 1) {
-    Melden("Diese Datei ist schreibgeschützt. Bitte speichern Sie sie unter anderem Namen mit 'Projekt speichern unter...'.");
+    Melden(
+        "Diese Datei ist schreibgeschützt. Bitte speichern Sie sie unter anderem Namen mit 'Projekt "
+        "speichern unter...'.");
     return false;
   }
   const bool gut = Gespeichert();
@@ -93,13 +91,15 @@ bool Projekt_sichern_unter() {
                    .endung = ".zav",
                    .ueberschreiben_fragen = true};
   for (const Generationsfilter& g : generationsfilter) frage.filter.push_back({g.text, "*.zav"});
-  const auto* const aktiv = std::ranges::find(generationsfilter, projekt.Datei_version, &Generationsfilter::version);
+  const auto* const aktiv =
+      std::ranges::find(generationsfilter, projekt.Datei_version, &Generationsfilter::version);
   if (aktiv != generationsfilter.end()) frage.filter_nr = static_cast<int>(aktiv - generationsfilter.begin());
   const auto wahl = oberflaeche().Datei_speichern(frage);
   if (!wahl) return false;
   projekt.Projekt_name = Ohne_endung(wahl->pfad);
   const bool bekannt = wahl->filter_nr >= 0 && wahl->filter_nr < std::ssize(generationsfilter);
-  projekt.Datei_version = generationsfilter.at(bekannt ? static_cast<std::size_t>(wahl->filter_nr) : 0).version;
+  projekt.Datei_version =
+      generationsfilter.at(bekannt ? static_cast<std::size_t>(wahl->filter_nr) : 0).version;
   if (!Gespeichert()) return false;
   sitzung.Schreibschutz = 0;
   return true;
@@ -108,8 +108,8 @@ bool Projekt_sichern_unter() {
 void Projekt_oeffnen(const std::string& pfad) {
   projekt.Projekt_name = pfad;
   if (Projekt_laden() == Laden::unvollstaendig) {
-    Melden(projekt.Projekt_name + ".zav konnte nicht bis zum Ende gelesen werden: " + Systemfehler_text(sitzung.Dateifehler) +
-               ".",
+    Melden(projekt.Projekt_name + ".zav konnte nicht bis zum Ende gelesen werden: " +
+               Systemfehler_text(sitzung.Dateifehler) + ".",
            Fehlertitel(sitzung.Dateifehler), Symbol::Stopp);
   }
 }

@@ -8,8 +8,8 @@ namespace zav {
 // While there are unsaved changes: asks whether to save them, under a new name. False when the user cancels.
 bool Ungespeichertes_fragen();
 
-// Saves under the present name; false after a message, the project counts as unsaved then. A write-protected project is
-// refused.
+// Saves under the present name; false after a message, the project counts as unsaved then. A write-protected
+// project is refused.
 bool Projekt_sichern();
 
 // Asks for a name and a generation and saves; true when the project stands in its file afterwards.
@@ -21,7 +21,8 @@ void Projekt_oeffnen(const std::string& pfad);
 // Writes a file beside the project; false after a box.
 bool Datei_ablegen(const std::string& pfad, const std::string& inhalt);
 
-// The path without its extension of three letters; a name that ends otherwise is kept, so that nothing of it is lost.
+// The path without its extension of three letters; a name that ends otherwise is kept, so that nothing of it
+// is lost.
 std::string Ohne_endung(const std::string& pfad);
 
 }  // namespace zav

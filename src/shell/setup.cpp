@@ -46,8 +46,8 @@ void Setup::Verdrahten() {
     const std::string geraet = Portgeraet(static_cast<int>(n));
     CBCOM[n].titel = "Com &" + nummer;
     CBCOM[n].frei = leitung.Com_frei[n] == 1;
-    CBCOM[n].hinweis =
-        "Serielle Schnittstelle des PCs zur Kommunikation mit ZAVmaster" + (geraet.empty() ? "" : " (" + geraet + ")");
+    CBCOM[n].hinweis = "Serielle Schnittstelle des PCs zur Kommunikation mit ZAVmaster" +
+                       (geraet.empty() ? "" : " (" + geraet + ")");
     CBCOM[n].wenn_geaendert = [this, n] { Port_gewaehlt(n); };
   }
   Text2.wenn_geaendert = [this] { Text2.farbe = Farbe::normal; };

@@ -36,15 +36,15 @@ bool Sitzung_beenden() {
   Port_schliessen();
   while (sitzung.Projekt_geaendert == 1) {
     oberflaeche().Piep();
-    const Antwort speichern =
-        oberflaeche().Melden({.text = "Es existieren ungespeicherte Projektdaten! Speichern?\r\n\r\nMit 'Ja' gelangen Sie zurück ins "
-                                      "Hauptmenu und können die Datei wie gewohnt speichern.\r\n\r\n",
-                              .titel = "ZAV-Datei",
-                              .knoepfe = Knoepfe::Ja_Nein_Abbrechen,
-                              .symbol = Symbol::Warnung});
+    const Antwort speichern = oberflaeche().Melden(
+        {.text = "Es existieren ungespeicherte Projektdaten! Speichern?\r\n\r\nMit 'Ja' gelangen Sie zurück "
+                 "ins Hauptmenu und können die Datei wie gewohnt speichern.\r\n\r\n",
+         .titel = "ZAV-Datei",
+         .knoepfe = Knoepfe::Ja_Nein_Abbrechen,
+         .symbol = Symbol::Warnung});
     if (speichern != Antwort::Nein) return false;
-    if (Fragen({.text = "Wirklich nicht speichern? Mit 'Ja' gelangen Sie zurück ins Hauptmenu und können die Datei wie gewohnt "
-                        "speichern.",
+    if (Fragen({.text = "Wirklich nicht speichern? Mit 'Ja' gelangen Sie zurück ins Hauptmenu und können die "
+                        "Datei wie gewohnt speichern.",
                 .knoepfe = Knoepfe::Ja_Nein,
                 .symbol = Symbol::Stopp})) {
       return false;

@@ -65,7 +65,8 @@ void Storentimer::Uebernehmen() {
     const auto zahl = Zahl_lesen(Text1[i].text(), p.von, p.bis);
     if (!zahl) {
       Text1[i].farbe = Farbe::belegt;
-      Melden(std::string(p.titel) + ": bitte eine ganze Zahl eingeben, " + p.einheit + ".", titel(), Symbol::Information);
+      Melden(std::string(p.titel) + ": bitte eine ganze Zahl eingeben, " + p.einheit + ".", titel(),
+             Symbol::Information);
       fokussieren(Text1[i]);
       return;
     }

@@ -13,9 +13,9 @@ class Storentimer final : public Formular {
 
   static constexpr std::size_t werte = 5;
 
-  std::array<Schild, werte> Label1;   // what the value does
+  std::array<Schild, werte> Label1;  // what the value does
   std::array<Textfeld, werte> Text1;
-  std::array<Schild, werte> Label2;   // its unit and range
+  std::array<Schild, werte> Label2;  // its unit and range
   Taste Command1{"&Standardwerte"};
   Taste OK{"&OK"}, Cancel{"&Abbrechen"};
 

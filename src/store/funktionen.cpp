@@ -191,8 +191,7 @@ Ereigniszeilen Zeilen_von(Ereignisart art, int ereignis) {
     case Ereignisart::Uhr:
       return {p.Uhr_relais.zeile(e), p.Uhr_dimmer.zeile(e), p.Uhr_timer.zeile(e), p.Uhr_funktext[e],
               p.Uhr_leer[e]};
-    case Ereignisart::Timer:
-      break;
+    case Ereignisart::Timer: break;
   }
   return {p.Tev_relais.zeile(e), p.Tev_dimmer.zeile(e), {}, p.Tev_funktext[e], p.Tev_leer[e]};
 }
@@ -210,7 +209,8 @@ std::string Funktionszeichen(Ereignisart art, int ereignis) {
   const Ereigniszeilen z = Zeilen_von(art, ereignis);
   bool dimmt = false;
   for (std::size_t d = 0; d < z.dimmer.size() && !dimmt; d += dimmerparameter) {
-    dimmt = z.dimmer[d + dimmer_auf] >= 1 || z.dimmer[d + dimmer_ab] >= 1 || z.dimmer[d + dimmer_helligkeit] >= 1;
+    dimmt =
+        z.dimmer[d + dimmer_auf] >= 1 || z.dimmer[d + dimmer_ab] >= 1 || z.dimmer[d + dimmer_helligkeit] >= 1;
   }
   std::string zeichen;
   if (std::any_of(z.relais.begin(), z.relais.end(), benutzt)) zeichen += "O";

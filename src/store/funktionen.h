@@ -101,8 +101,9 @@ struct Ereigniszeilen {
 Ereigniszeilen Zeilen_von(Ereignisart art, int ereignis);
 // True when the event does anything to an output or a timer.
 bool Hat_funktionen(Ereignisart art, int ereignis);
-// The mark on the button of an event: "O", "D" and "T" for functions of relays, dimmers and timers, "" for none. Here a
-// dimmer counts by a value of at least 1 in one of its first three parameters; the tempo alone does nothing.
+// The mark on the button of an event: "O", "D" and "T" for functions of relays, dimmers and timers, "" for
+// none. Here a dimmer counts by a value of at least 1 in one of its first three parameters; the tempo alone
+// does nothing.
 std::string Funktionszeichen(Ereignisart art, int ereignis);
 // Writes Ein_leer, Uhr_leer or Tev_leer of the event from its rows.
 void Leer_berechnen(Ereignisart art, int ereignis);

@@ -54,8 +54,7 @@ class Schreiber {
   }
   // A table of records.
   template <class T, std::size_t N, std::size_t M>
-    requires(M < 16 || std::is_same_v<T, str>)
-  void Feldwert(const Feld<T, N, M>& feld) {
+  requires(M < 16 || std::is_same_v<T, str>) void Feldwert(const Feld<T, N, M>& feld) {
     Folge('[', ']', N, [&](std::size_t i) {
       Trennen();
       Liste(feld.zeile(i));
@@ -75,7 +74,9 @@ class Schreiber {
  private:
   template <class F>
   void Matrix(const auto& feld, std::size_t spalten, F zelle_schreiben) {
-    const auto leer = [](const auto& werte) { return std::ranges::all_of(werte, [](auto w) { return w == 0; }); };
+    const auto leer = [](const auto& werte) {
+      return std::ranges::all_of(werte, [](auto w) { return w == 0; });
+    };
     Folge('{', '}', feld.mass(0), [&](std::size_t e) {
       const auto zeile = feld.zeile(e);
       if (leer(zeile)) return;
@@ -96,7 +97,9 @@ class Schreiber {
 
 // Bytes of the character at the begin of text, 0 when it is no UTF-8.
 std::size_t Zeichenlaenge(std::string_view text) {
-  const auto byte = [text](std::size_t i) { return i < text.size() ? static_cast<unsigned char>(text[i]) : 0U; };
+  const auto byte = [text](std::size_t i) {
+    return i < text.size() ? static_cast<unsigned char>(text[i]) : 0U;
+  };
   const unsigned b = byte(0);
   const std::size_t n = b < 0x80 ? 1 : b < 0xC2 ? 0 : b < 0xE0 ? 2 : b < 0xF0 ? 3 : b < 0xF5 ? 4 : 0;
   for (std::size_t i = 1; i < n; ++i) {

@@ -13,8 +13,9 @@ namespace zav {
 std::string Json_text(std::string_view text);
 
 // Scalars are values, one-dimensional arrays lists, records lists of lists. A relay or timer matrix becomes
-// {"event": {"output": value}} of the cells that are not 0, a dimmer matrix {"event": {"dimmer": [p0, p1, p2, p3]}} of
-// the dimmers with a parameter that is not 0. Written as it goes, so that a large project takes no memory of its own.
+// {"event": {"output": value}} of the cells that are not 0, a dimmer matrix {"event": {"dimmer": [p0, p1, p2,
+// p3]}} of the dimmers with a parameter that is not 0. Written as it goes, so that a large project takes no
+// memory of its own.
 void Projekt_json(const Projekt& p, std::ostream& aus);
 
 }  // namespace zav

@@ -73,8 +73,7 @@ bool Thermostat_adresse_frei(int typ, int i);
 // carry its fixed functions: 0 for kind 39, 2 for 40 and 78. Nothing for other kinds.
 std::optional<int> Thermostat_adresse(int typ);
 
-// ---- placed devices; d = 16 x Kombination + place
-// ----------------------------------------------------------------
+// ---- placed devices; d = 16 x Kombination + place ---------------------------------------------------------
 
 // The run of addresses a device takes, from the texts App_text and App_text2. What a damaged file puts there
 // is cut to the addresses that exist; nothing without a first address.
@@ -95,8 +94,7 @@ int Apparat_slot(const Projekt& p, int d, int n);
 // Entry of Dev_text for the key text of slot n; -1 as above, and where the place behind has texts of its own.
 int Apparat_textslot(const Projekt& p, int d, int n);
 
-// ---- layouts of a Kombination
-// --------------------------------------------------------------------------------------
+// ---- layouts of a Kombination -----------------------------------------------------------------------------
 
 struct Layout {
   std::string_view name;

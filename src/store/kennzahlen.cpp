@@ -16,7 +16,8 @@ int Anzahl(const auto& feld, const auto& trifft_zu) {
 constexpr auto eins = [](auto wert) { return wert == 1; };
 constexpr auto gefuellt = [](const str& text) { return !text.empty(); };
 
-// How many of the columns of the matrices hold something in any row. A column has as many cells as a row has to each.
+// How many of the columns of the matrices hold something in any row. A column has as many cells as a row has
+// to each.
 int Benutzt(std::size_t spalten, const auto&... matrizen) {
   std::vector<bool> benutzt(spalten);
   const auto ansehen = [&](const auto& matrix) {

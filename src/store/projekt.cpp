@@ -14,8 +14,8 @@ Projekt projekt;
 Sitzung sitzung;
 
 const char* App_vorgabe(std::size_t feld) {
-  static constexpr std::array<const char*, app_felder> vorgaben{"0", "0", "0", "0", "0", "0", "0", "", "0", "0", "",
-                                                                "640", "0", "", "", "", "", "", "", "", "", ""};
+  static constexpr std::array<const char*, app_felder> vorgaben{
+      "0", "0", "0", "0", "0", "0", "0", "", "0", "0", "", "640", "0", "", "", "", "", "", "", "", "", ""};
   return vorgaben.at(feld);
 }
 

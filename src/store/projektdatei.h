@@ -19,8 +19,7 @@ namespace zav {
 // generation gives a file that the old way of reading misunderstands, so callers save it as 910.
 bool Alte_generation(std::string_view version);
 
-// ---- pure: bytes and projects, no boxes, no session
-// -----------------------------------------------------------------
+// ---- pure: bytes and projects, no boxes, no session -------------------------------------------------------
 
 // The bytes of the file. The generation is that of Datei_version; any but 900 and 910 is written with the
 // lines of 800 under its own name. Characters that the code page does not hold become "?".
@@ -36,12 +35,11 @@ std::optional<std::string> Version_lesen(std::string_view bytes);
 // known. `marke` takes line 3.
 bool Projekt_lesen(std::string_view bytes, Projekt& p, std::string* marke = nullptr);
 
-// Beep and stop box of a file that could not be read or written: the system's description of the error number, with
-// what the caller has to say behind it.
+// Beep and stop box of a file that could not be read or written: the system's description of the error
+// number, with what the caller has to say behind it.
 void Dateifehler_melden(int fehler, const std::string& dahinter = {});
 
-// ---- the open project
-// ---------------------------------------------------------------------------------------------
+// ---- the open project -------------------------------------------------------------------------------------
 
 enum class Speichern {
   gespeichert,

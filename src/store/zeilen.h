@@ -17,8 +17,7 @@ inline constexpr Codetafel alte_codes_ein{0, 2, 1, 4, 3, 5, 7, 7, 8, 9, 10, 11};
 inline constexpr Codetafel alte_codes_tev{0, 2, 1, 5, 3, 4, 6, 7, 8, 9, 10, 11};
 inline constexpr Codetafel alte_codes_uhr{0, 2, 1, 5, 8, 7, 11, 20, 19, 14, 13, 17};
 
-// ---- sections, present in several generations
-// -----------------------------------------------------------------------
+// ---- sections, present in several generations -------------------------------------------------------------
 
 template <class A, class P>
 void Zeilen_kopf(A& a, P& p) {
@@ -117,8 +116,7 @@ void Zeilen_enocean(A& a, P& p) {
   }
 }
 
-// ---- the generations, each from its third line on
-// -------------------------------------------------------------------
+// ---- the generations, each from its third line on ---------------------------------------------------------
 
 template <class A, class P>
 void Zeilen_800_ohne_kamera(A& a, P& p) {
@@ -157,8 +155,7 @@ void Zeilen_910(A& a, P& p) {
   a.text(p.Kamera_text);
 }
 
-// ---- generations that are only read
-// -----------------------------------------------------------------------------------
+// ---- generations that are only read -----------------------------------------------------------------------
 
 // They have one line less before the notes, and no marker.
 template <class A, class P>

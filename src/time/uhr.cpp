@@ -98,8 +98,7 @@ void Uhr::Tabelle_geaendert() {
   sitzung.Projekt_geaendert = 1;
 }
 
-// ---- the page on screen
-// --------------------------------------------------------------------------------------------
+// ---- the page on screen -----------------------------------------------------------------------------------
 
 void Uhr::Seite_zeigen() {
   const Beschaeftigt still(*this);
@@ -156,8 +155,7 @@ void Uhr::Zeile_waehlen(int r) {
   Auffrischen();
 }
 
-// ---- one row
-// -------------------------------------------------------------------------------------------------------
+// ---- one row ----------------------------------------------------------------------------------------------
 
 void Uhr::Funktion_bearbeiten(int r) {
   Zeile_waehlen(r);
@@ -211,8 +209,7 @@ void Uhr::Loeschen() {
   Tabelle_geaendert();  // whatever the answer
 }
 
-// ---- the whole page
-// ------------------------------------------------------------------------------------------------
+// ---- the whole page ---------------------------------------------------------------------------------------
 
 void Uhr::Tag_einfuegen() {
   if (!Fragen(

@@ -107,8 +107,7 @@ void Uhr_Astro::beim_oeffnen() {
   if (!Text14.text().empty()) Vorschau();
 }
 
-// ---- rules of the fields
-// -------------------------------------------------------------------------------------------
+// ---- rules of the fields ----------------------------------------------------------------------------------
 
 void Uhr_Astro::Felder_freigeben() {
   const Zeitregel m = modus();
@@ -227,8 +226,7 @@ void Uhr_Astro::Verdrahten() {
   anmelden("Command4", Command4);
 }
 
-// ---- check, preview, OK
-// --------------------------------------------------------------------------------------------
+// ---- check, preview, OK -----------------------------------------------------------------------------------
 
 bool Uhr_Astro::Uhr_Astro_pruefen() {
   for (const Pruefung& p : Pruefungen()) {

@@ -71,8 +71,7 @@ void Uhrseite::Verdrahten() {
   Command4.abbruch = true;
 }
 
-// ---- time and dates
-// ------------------------------------------------------------------------------------------------
+// ---- time and dates ---------------------------------------------------------------------------------------
 
 void Uhrseite::PC_zeit_uebernehmen() {
   const Beschaeftigt still(*this);
@@ -151,8 +150,7 @@ bool Uhrseite::Daten_pruefen() {
   return true;
 }
 
-// ---- change-over and sending
-// ---------------------------------------------------------------------------------------
+// ---- change-over and sending ------------------------------------------------------------------------------
 
 void Uhrseite::Modus_gewaehlt() {
   einstellungen.Richt_modus = static_cast<i16>(Option1.position());

@@ -9,8 +9,8 @@
 
 namespace zav {
 
-// Grows field by field. A value that does not fit its field closes the block where it stands: it keeps what it
-// has, takes nothing more, and says so in zu_breit(). Negative values fit no field.
+// Grows field by field. A value that does not fit its field closes the block where it stands: it keeps what
+// it has, takes nothing more, and says so in zu_breit(). Negative values fit no field.
 class Block {
  public:
   void leeren() {

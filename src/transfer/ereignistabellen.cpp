@@ -9,7 +9,7 @@ namespace zav {
 
 namespace {
 
-// ---- relays -----------------------------------------------------------------------------------------------------
+// ---- relays -----------------------------------------------------------------------------------------------
 
 // The planes that a function code sets, bit n for plane n, by code. Never renumber.
 //   plane 0 on, plane 1 off, both: pulse or blind; plane 2 toggle; plane 3 lock; plane 4 release the lock
@@ -17,12 +17,13 @@ constexpr u8 E0 = 1, E1 = 2, E2 = 4, E3 = 8, E4 = 16;
 constexpr std::array<u8, 8> ebenen_eingang{0, E1, E0, E0 | E1, E2, E0 | E1, E0 | E1, E0 | E1};
 constexpr std::array<u8, 7> ebenen_timer{0, E1, E0, E0 | E1, E2, E0 | E1, E0 | E1};
 constexpr std::array<u8, 21> ebenen_uhr{
-    0,       E1,      E0,           E0 | E1,      E2,      E0 | E1,      E0 | E1,       //
-    E1 | E3, E0 | E3, E0 | E1 | E3, E2 | E3,      E0 | E1 | E3, E0 | E1 | E3,           //
-    E1 | E4, E0 | E4, E0 | E1 | E4, E2 | E4,      E0 | E1 | E4, E0 | E1 | E4, E3, E4};
+    0,       E1,      E0,           E0 | E1, E2,           E0 | E1,      E0 | E1,  //
+    E1 | E3, E0 | E3, E0 | E1 | E3, E2 | E3, E0 | E1 | E3, E0 | E1 | E3,           //
+    E1 | E4, E0 | E4, E0 | E1 | E4, E2 | E4, E0 | E1 | E4, E0 | E1 | E4, E3,      E4};
 
-// The same for packing: byte n of an entry is 1 when the code sets plane n, so that one shift and one "or" for each
-// output fill all planes at once. Codes outside the table end up in the last entry, which sets nothing.
+// The same for packing: byte n of an entry is 1 when the code sets plane n, so that one shift and one "or"
+// for each output fill all planes at once. Codes outside the table end up in the last entry, which sets
+// nothing.
 using Faecher = std::array<std::uint64_t, 32>;
 template <std::size_t N>
 constexpr Faecher Auffaechern(const std::array<u8, N>& ebenen) {
@@ -85,7 +86,7 @@ void Ebenen_packen(std::span<const i16> codes, const Faecher& faecher, std::span
   }
 }
 
-// ---- timers -----------------------------------------------------------------------------------------------------
+// ---- timers -----------------------------------------------------------------------------------------------
 
 void Wort_schreiben(u8* ziel, unsigned wert) {
   ziel[0] = static_cast<u8>(wert >> 8);
@@ -105,7 +106,7 @@ void Timerworte_packen(std::span<const i32> codes, std::span<u8> seite) {
   Wort_schreiben(seite.data() + 2, stopp);
 }
 
-// ---- dimmers ----------------------------------------------------------------------------------------------------
+// ---- dimmers ----------------------------------------------------------------------------------------------
 
 constexpr std::size_t gruppe_zellen = 16;  // four dimmers of four parameters
 constexpr std::size_t dimmerseite_laenge = 256;
@@ -125,7 +126,8 @@ template <bool mit_tasten>
 void Dimmer_packen(std::span<const i16> zellen, std::span<u8> seite) {
   static constexpr std::array<u8, 8> leer{0, 1, 1, 1, 1, 0, 0, 0};
   u8* ziel = seite.data();
-  for (const i16* p = zellen.data(); p != zellen.data() + zellen.size(); p += gruppe_zellen, ziel += leer.size()) {
+  for (const i16* p = zellen.data(); p != zellen.data() + zellen.size();
+       p += gruppe_zellen, ziel += leer.size()) {
     if (Alle_null(p, gruppe_zellen)) {
       std::memcpy(ziel, leer.data(), leer.size());
       continue;
@@ -133,7 +135,8 @@ void Dimmer_packen(std::span<const i16> zellen, std::span<u8> seite) {
     for (std::size_t k = 0; k < 4; ++k) {
       const i16* const dimmer = p + 4 * k;
       if constexpr (mit_tasten) {
-        ziel[0] = static_cast<u8>(ziel[0] | Tastenbit(dimmer[0]) << (2 * k) | Tastenbit(dimmer[1]) << (2 * k + 1));
+        ziel[0] =
+            static_cast<u8>(ziel[0] | Tastenbit(dimmer[0]) << (2 * k) | Tastenbit(dimmer[1]) << (2 * k + 1));
         ziel[7] = static_cast<u8>(ziel[7] | Zusatzbit(dimmer[0]) << k | Zusatzbit(dimmer[1]) << (4 + k));
       }
       ziel[1 + k] = Helligkeit(dimmer[2]);

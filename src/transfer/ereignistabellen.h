@@ -20,7 +20,8 @@ void Relaisseite_timer(const Projekt& p, int t, Block& b);
 // 332  32 for each pair of dimmer groups: locks, releases; bits 0 to 3 the even group, 4 to 7 the odd one
 void Relaisseite_uhr(const Projekt& p, int e, Block& b);
 
-// Dimmer page, 256 bytes: eight for each group of four dimmers. An image byte takes the low eight bits of a value.
+// Dimmer page, 256 bytes: eight for each group of four dimmers. An image byte takes the low eight bits of a
+// value.
 //   0  bit 2k dim up, bit 2k + 1 dim down on a long press       (input events only)
 //   1  four levels: 0 off, 1 no change, else percent
 //   5  two bytes: four tempos of four bits, dimmer 0 in the high bits
@@ -29,8 +30,8 @@ void Dimmerseite_eingang(const Projekt& p, int e, Block& b);
 void Dimmerseite_uhr(const Projekt& p, int e, Block& b);
 void Dimmerseite_timer(const Projekt& p, int t, Block& b);
 
-// LED table of input group g: bits 2 to 5 of the first byte for inputs without an LED, of the second for those
-// always on. Where that says all, 2 bytes; else 320 more, a word for each 16 outputs and input.
+// LED table of input group g: bits 2 to 5 of the first byte for inputs without an LED, of the second for
+// those always on. Where that says all, 2 bytes; else 320 more, a word for each 16 outputs and input.
 void Ledseite(const Projekt& p, int g, Block& b);
 
 }  // namespace zav

@@ -16,9 +16,9 @@ namespace zav {
 
 namespace {
 
-constexpr double stille_sekunden = 15;       // without a byte, after which the master counts as gone
+constexpr double stille_sekunden = 15;  // without a byte, after which the master counts as gone
 constexpr std::size_t bericht_hoechstens = std::size_t{1} << 20;  // bytes; a true report has a few thousand
-constexpr double prozent_je_schritt = 1.68;  // the erase reports about 60 steps
+constexpr double prozent_je_schritt = 1.68;                       // the erase reports about 60 steps
 
 struct Schluss {
   Transferstand stand;
@@ -42,8 +42,8 @@ void Uebertragung::Alles_vormerken() {
   projekt.Uhr_tabelle_geaendert = 1;
 }
 
-// Takes one character of the master's report: a CR for each step done, "e" for a fault in the memory; the rest is
-// for the log.
+// Takes one character of the master's report: a CR for each step done, "e" for a fault in the memory; the
+// rest is for the log.
 void Uebertragung::Meldezeichen(char zeichen, double& prozent) {
   switch (zeichen) {
     case '\r': {
@@ -53,14 +53,10 @@ void Uebertragung::Meldezeichen(char zeichen, double& prozent) {
       beobachter_.Protokoll("\r\n");
       break;
     }
-    case '.':
-      break;
+    case '.': break;
     case 'e':
-    case 'E':
-      Transfer_status = Transferstand::flash_fehler;
-      break;
-    default:
-      beobachter_.Protokoll(Aus_1252({&zeichen, 1}));
+    case 'E': Transfer_status = Transferstand::flash_fehler; break;
+    default: beobachter_.Protokoll(Aus_1252({&zeichen, 1}));
   }
 }
 
@@ -70,7 +66,8 @@ void Uebertragung::Bericht_lesen() {
   std::string gelesen;
   std::array<char, 64> puffer{};
   for (std::size_t bytes = 0; bytes < bericht_hoechstens;) {
-    const int n = Bytes_lesen(puffer.data(), static_cast<int>(puffer.size()), Echte_millisekunden(stille_sekunden));
+    const int n =
+        Bytes_lesen(puffer.data(), static_cast<int>(puffer.size()), Echte_millisekunden(stille_sekunden));
     if (n <= 0) break;
     bytes += static_cast<std::size_t>(n);
     for (int i = 0; i < n; ++i) {

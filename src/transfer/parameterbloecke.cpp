@@ -57,8 +57,8 @@ struct Schalterbytes {
 
 Schalterbytes Schalter(const Projekt& p, int f) {
   if (p.Wetter_aktiv[f] != "1") return {};
-  return {.allgemein = (p.Wetter_v_regen[f] == 1) | (p.Wetter_undoder[f] == 1) << 5 | (p.Wetter_start[f] == 1) << 6 |
-                       (p.Wetter_v_defekt[f] == 1) << 7,
+  return {.allgemein = (p.Wetter_v_regen[f] == 1) | (p.Wetter_undoder[f] == 1) << 5 |
+                       (p.Wetter_start[f] == 1) << 6 | (p.Wetter_v_defekt[f] == 1) << 7,
           .groesser = Vergleichsbits(p, f, 2),
           .trocken = p.Wetter_v_regen[f] == 2,
           .kleiner = Vergleichsbits(p, f, 1)};

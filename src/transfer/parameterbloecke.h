@@ -7,11 +7,12 @@
 
 namespace zav {
 
-// A: restart state of the 512 relay outputs, 128 bytes. Two words for each 16 outputs, bit n = output n of the
-// 16: first the outputs that go on, then those that take their state from before.
+// A: restart state of the 512 relay outputs, 128 bytes. Two words for each 16 outputs, bit n = output n of
+// the 16: first the outputs that go on, then those that take their state from before.
 void Block_a(const Projekt& p, Block& b);
 
-// Q: restart brightness of the 128 dimmers, 256 bytes. Eight for each four dimmers: 00, four values, 00 00 00.
+// Q: restart brightness of the 128 dimmers, 256 bytes. Eight for each four dimmers: 00, four values, 00 00
+// 00.
 void Block_q(const Projekt& p, Block& b);
 
 // T: the 48 times of the timers in seconds, 96 bytes, one word each. Longest: 18:12:15.

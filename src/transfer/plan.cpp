@@ -12,7 +12,7 @@ namespace zav {
 
 namespace {
 
-// ---- packers, called alike --------------------------------------------------------------------------------------
+// ---- packers, called alike --------------------------------------------------------------------------------
 
 using Projektpacker = void(const Projekt&, Block&);
 using Zeilenpacker = void(const Projekt&, int, Block&);
@@ -36,7 +36,7 @@ void Seite_packen(const Quelle& q, int zeile, Block& b) {
   Schaltzeitenseite(q.Uhr_work, zeile / tage_im_monat, zeile % tage_im_monat, b);
 }
 
-// ---- change flags -------------------------------------------------------------------------------------------------
+// ---- change flags -----------------------------------------------------------------------------------------
 
 template <auto kennzeichen>
 bool Ist_gesetzt(const Projekt& p, int zeile) {
@@ -55,7 +55,7 @@ void Tabelle_erledigt(Projekt& p, int zeile) {
   if (zeile == seiten_im_jahr - 1) p.Uhr_tabelle_geaendert = 0;
 }
 
-// ---- the list -------------------------------------------------------------------------------------------------------
+// ---- the list ---------------------------------------------------------------------------------------------
 
 // Distance of pages and of double pages in addresses: ten bits each address within a page of 528 bytes.
 constexpr i32 seite = 0x400;
@@ -193,7 +193,7 @@ constexpr auto plan = std::to_array<Abschnitt>({
     {.befehl = "LD", .packen = Byte_packen<0>, .nur_gesperrt = true},
 });
 
-// ---- dry run ----------------------------------------------------------------------------------------------------------
+// ---- dry run ----------------------------------------------------------------------------------------------
 
 class Abbildschreiber : public Plangaenger {
  public:
@@ -227,14 +227,12 @@ std::span<const Abschnitt> Plan() { return plan; }
 
 std::optional<Fortschritt> Fortschritt_bei(const Abschnitt& a, int zeile) {
   switch (a.anzeige) {
-    case Abschnitt::Anzeige::block:
-      return Fortschritt{static_cast<double>(a.stufe), 11 * a.stufe};
+    case Abschnitt::Anzeige::block: return Fortschritt{static_cast<double>(a.stufe), 11 * a.stufe};
     case Abschnitt::Anzeige::zeilen: {
       const int aktuell = (zeile + a.erste) * 100 / (a.zeilen - 1 + a.erste);
       return Fortschritt{11.1 * a.stufe + 0.111 * aktuell, aktuell};
     }
-    case Abschnitt::Anzeige::keine:
-      break;
+    case Abschnitt::Anzeige::keine: break;
   }
   return std::nullopt;
 }

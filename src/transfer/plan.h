@@ -1,5 +1,5 @@
-// The plan of a transfer: everything that goes to the master, in its order. The driver, the dry run, the image and
-// the progress display all walk this one list.
+// The plan of a transfer: everything that goes to the master, in its order. The driver, the dry run, the
+// image and the progress display all walk this one list.
 #pragma once
 
 #include <optional>
@@ -33,21 +33,21 @@ struct Fortschritt {
 struct Abschnitt {
   enum class Anzeige { keine, block, zeilen };
 
-  std::string_view protokoll{};      // line of the log, "" none
-  bool zaehlend = false;             // the line ends with the number of rows that have gone
-  std::string_view befehl = "W";     // direct command, or "W": through a window
-  i32 anfang = 0;                    // first address of row 0, and the distance between rows
+  std::string_view protokoll{};   // line of the log, "" none
+  bool zaehlend = false;          // the line ends with the number of rows that have gone
+  std::string_view befehl = "W";  // direct command, or "W": through a window
+  i32 anfang = 0;                 // first address of row 0, and the distance between rows
   i32 schritt = 0;
   int zeilen = 1;
   void (*packen)(const Quelle& q, int zeile, Block& b) = nullptr;
-  bool (*faellig)(const Projekt& p, int zeile) = nullptr;   // null: goes with every transfer
-  void (*erledigt)(Projekt& p, int zeile) = nullptr;        // after the row has gone
-  Anzeige anzeige = Anzeige::keine;  // block: fixed by stufe; zeilen: by row
-  int stufe = 0;                     // block: 1 to 8; zeilen: tenth of the whole, from 1
-  int erste = 0;                     // number that the first row has in the progress
-  bool nur_gesperrt = false;         // only in a transfer that locks inputs and weather meanwhile
-  bool breite_beendet = false;       // a value too wide ends the run, without a message
-  bool stempel = false;              // the project counts as sent after this
+  bool (*faellig)(const Projekt& p, int zeile) = nullptr;  // null: goes with every transfer
+  void (*erledigt)(Projekt& p, int zeile) = nullptr;       // after the row has gone
+  Anzeige anzeige = Anzeige::keine;                        // block: fixed by stufe; zeilen: by row
+  int stufe = 0;                // block: 1 to 8; zeilen: tenth of the whole, from 1
+  int erste = 0;                // number that the first row has in the progress
+  bool nur_gesperrt = false;    // only in a transfer that locks inputs and weather meanwhile
+  bool breite_beendet = false;  // a value too wide ends the run, without a message
+  bool stempel = false;         // the project counts as sent after this
 
   bool gefenstert() const { return befehl == "W"; }
 };

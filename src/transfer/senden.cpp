@@ -41,9 +41,10 @@ bool Version_passt(std::string_view Datei_version, std::string_view antwort) {
   return false;
 }
 
-// ---- steps ----------------------------------------------------------------------------------------------------------
+// ---- steps ------------------------------------------------------------------------------------------------
 
-// The port is closed and opened anew between the steps of the handshake, so that what a step left behind is gone.
+// The port is closed and opened anew between the steps of the handshake, so that what a step left behind is
+// gone.
 bool Uebertragung::Neu_oeffnen() {
   Port_schliessen();
   Port_oeffnen();
@@ -88,12 +89,13 @@ bool Uebertragung::Version_vertraeglich(const std::string& meldung) {
   const bool passt = Version_passt(projekt.Datei_version, leitung.Empfang_text);
   sitzung.Master_vergleich = passt ? 0 : 1;
   if (passt) return true;
-  Melden(projekt.Datei_version.empty() ? "Bitte die Konfiguration vorher speichern" : meldung, "Fehler", Symbol::Stopp);
+  Melden(projekt.Datei_version.empty() ? "Bitte die Konfiguration vorher speichern" : meldung, "Fehler",
+         Symbol::Stopp);
   Transfer_status = Transferstand::falsche_version;
   return false;
 }
 
-// ---- the rows ---------------------------------------------------------------------------------------------------------
+// ---- the rows ---------------------------------------------------------------------------------------------
 
 // Walks the plan with an open line.
 class Uebertragung::Sender : public Plangaenger {
@@ -142,7 +144,7 @@ class Uebertragung::Sender : public Plangaenger {
   std::optional<Fortschritt> gezeigt_;
 };
 
-// ---- the whole ----------------------------------------------------------------------------------------------------------
+// ---- the whole --------------------------------------------------------------------------------------------
 
 Sendeergebnis Uebertragung::Gescheitert() {
   beobachter_.Fortschritt_zeigen({});
@@ -215,8 +217,8 @@ Sendeergebnis Uebertragung::Senden_starten() {
   Port_schliessen();
   beobachter_.Befehle_freigeben(true);
   if (ergebnis != Sendeergebnis::gesendet) return ergebnis;
-  if (Fragen({.text = "Im ZAVmaster einen Neustart durchführen? 'Ja', wenn Schaltzeiten und Timer aktualisiert werden "
-                      "sollen. 'Nein', wenn nur Ausgangsverknüpfungen geändert wurden.",
+  if (Fragen({.text = "Im ZAVmaster einen Neustart durchführen? 'Ja', wenn Schaltzeiten und Timer "
+                      "aktualisiert werden sollen. 'Nein', wenn nur Ausgangsverknüpfungen geändert wurden.",
               .titel = "Neustart ZAVmaster?",
               .knoepfe = Knoepfe::Ja_Nein_Abbrechen,
               .symbol = Symbol::Frage})) {

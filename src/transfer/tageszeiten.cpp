@@ -85,7 +85,8 @@ int Zeit_am_tag(const Regel& r, int aufgang, int untergang, Zufallsversatz& vers
   if (r.nach_sonne) {
     if (r.untergrenze && *r.untergrenze > v) v = r.unten_schalten ? *r.untergrenze : schaltet_nicht;
     // The mark is a time too, 18:12:15: a row that comes to lie exactly there does not switch.
-    if (v != schaltet_nicht && r.obergrenze && *r.obergrenze < v) v = r.oben_schalten ? *r.obergrenze : schaltet_nicht;
+    if (v != schaltet_nicht && r.obergrenze && *r.obergrenze < v)
+      v = r.oben_schalten ? *r.obergrenze : schaltet_nicht;
     if (v == schaltet_nicht) return schaltet_nicht;
   }
   return Halbe(std::clamp(v, 0, letzte_sekunde));
@@ -105,7 +106,8 @@ Sonnentafeln Sonnen_tabellen_fuellen(int jahr) {
   return t;
 }
 
-Uhr_tafel Tageszeiten_berechnen(const Projekt& p, const Sonnentafeln& sonne, const std::function<double()>& zufall) {
+Uhr_tafel Tageszeiten_berechnen(const Projekt& p, const Sonnentafeln& sonne,
+                                const std::function<double()>& zufall) {
   std::array<Regel, uhrereignisse> regeln;
   for (int e = 0; e < uhrereignisse; ++e) regeln[static_cast<std::size_t>(e)] = Regel_lesen(p, e);
 

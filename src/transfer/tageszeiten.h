@@ -1,5 +1,5 @@
-// The switching times of a year. The master knows no sun: for every row of the clocks and every day it gets the
-// time worked out here.
+// The switching times of a year. The master knows no sun: for every row of the clocks and every day it gets
+// the time worked out here.
 #pragma once
 
 #include <functional>
@@ -33,10 +33,11 @@ enum Zeitregel : i16 {
   Zeit_untergang_zufall,
 };
 
-// Works out every row on every day: months outermost, events innermost. Random shifts are drawn for each day from
-// the source, which gives numbers in [0, 1). A sun row with a random shift and an empty bound takes over the amount
-// that the row before it drew; masters in the field rely on the images made that way. A row with an unknown mode
-// does not switch. A plain time beyond the day is not clamped and may exceed 16 bits.
-Uhr_tafel Tageszeiten_berechnen(const Projekt& p, const Sonnentafeln& sonne, const std::function<double()>& zufall);
+// Works out every row on every day: months outermost, events innermost. Random shifts are drawn for each day
+// from the source, which gives numbers in [0, 1). A sun row with a random shift and an empty bound takes over
+// the amount that the row before it drew; masters in the field rely on the images made that way. A row with
+// an unknown mode does not switch. A plain time beyond the day is not clamped and may exceed 16 bits.
+Uhr_tafel Tageszeiten_berechnen(const Projekt& p, const Sonnentafeln& sonne,
+                                const std::function<double()>& zufall);
 
 }  // namespace zav

@@ -1,5 +1,5 @@
-// Sending the project to the master, and erasing the master: the two long operations, with what they report on
-// their way.
+// Sending the project to the master, and erasing the master: the two long operations, with what they report
+// on their way.
 #pragma once
 
 #include <string_view>
@@ -28,7 +28,7 @@ class Beobachter {
 
 enum class Transferstand : u8 {
   bereit = 0,
-  flash_fehler = 1,      // the erase found a fault in the memory
+  flash_fehler = 1,  // the erase found a fault in the memory
   keine_antwort = 2,
   falsche_version = 3,
 };
@@ -38,9 +38,9 @@ enum class Sendeergebnis {
   nicht_gespeichert,  // the project has no file yet
   keine_antwort,      // to the question for the version; no box has told of it
   falsche_version,
-  nicht_synchron,     // the master holds another project
-  zu_breit,           // a value of the blinds does not fit; no box has told of it
-  gescheitert,        // an exchange failed; the rows that have gone are no longer flagged
+  nicht_synchron,  // the master holds another project
+  zu_breit,        // a value of the blinds does not fit; no box has told of it
+  gescheitert,     // an exchange failed; the rows that have gone are no longer flagged
 };
 
 // The operations of one opening of the transfer dialog, on the project being worked on.
@@ -49,11 +49,12 @@ class Uebertragung {
   explicit Uebertragung(Beobachter& beobachter) : beobachter_(beobachter) {}
 
   bool Check1 = false;  // lock inputs and weather in the master while sending
-  u8 Nach_initialisierung = 0;  // 1: the master has been erased, whatever its stamp says the next transfer may run
+  u8 Nach_initialisierung =
+      0;  // 1: the master has been erased, whatever its stamp says the next transfer may run
   Transferstand Transfer_status = Transferstand::bereit;
 
-  // Sends the parameter blocks, the dates, the stamp, and every row that is flagged; clears the flags row by row.
-  // Asks at the end whether to restart the master.
+  // Sends the parameter blocks, the dates, the stamp, and every row that is flagged; clears the flags row by
+  // row. Asks at the end whether to restart the master.
   Sendeergebnis Senden_starten();
 
   // Asks, then erases and tests the master's memory and flags everything that the project fills for sending.
@@ -77,13 +78,13 @@ class Uebertragung {
   void Meldezeichen(char zeichen, double& prozent);
 
   Beobachter& beobachter_;
-  str Sende_daten;             // payload of the block being sent, as text
-  i32 Daten_fenster_von = 0;   // window of a "D" command, byte addresses
+  str Sende_daten;            // payload of the block being sent, as text
+  i32 Daten_fenster_von = 0;  // window of a "D" command, byte addresses
   i32 Daten_fenster_bis = 0;
 };
 
-// Whether a master may get a project of that generation: by the begin of its reply to "V". A project without a
-// generation fits none.
+// Whether a master may get a project of that generation: by the begin of its reply to "V". A project without
+// a generation fits none.
 bool Version_passt(std::string_view Datei_version, std::string_view antwort);
 
 }  // namespace zav

@@ -53,8 +53,9 @@ str Uhrziffern(const Uhrstellung& u) {
   const auto datum = Datum_lesen(tag);
   const std::size_t laenge = Zeichen_anzahl(tag);
   const str jahr = laenge == 8 ? Mitte(tag, 7, 2) : laenge == 10 ? Mitte(tag, 9, 2) : "00";
-  return Mitte(zeit, 7, 2) + Mitte(zeit, 4, 2) + Mitte(zeit, 1, 2) + std::to_string(datum ? Sommerzeit(*datum) : 0) +
-         std::to_string(u.Akt_wochentag) + Mitte(tag, 1, 2) + Mitte(tag, 4, 2) + jahr + "00";
+  return Mitte(zeit, 7, 2) + Mitte(zeit, 4, 2) + Mitte(zeit, 1, 2) +
+         std::to_string(datum ? Sommerzeit(*datum) : 0) + std::to_string(u.Akt_wochentag) + Mitte(tag, 1, 2) +
+         Mitte(tag, 4, 2) + jahr + "00";
 }
 
 bool Uhr_stellen(const Uhrstellung& u) {

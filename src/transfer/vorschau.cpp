@@ -10,10 +10,10 @@ namespace zav {
 
 namespace {
 
-constexpr double zeichen_je_s = 11520;    // 115200 baud 8N1
-constexpr double bedenkzeit_s = 0.01;     // of the master for each message
-constexpr double handschlag_s = 2;        // receiver reset, version, stamp
-constexpr int rahmen = 3;                 // checksum and CR
+constexpr double zeichen_je_s = 11520;  // 115200 baud 8N1
+constexpr double bedenkzeit_s = 0.01;   // of the master for each message
+constexpr double handschlag_s = 2;      // receiver reset, version, stamp
+constexpr int rahmen = 3;               // checksum and CR
 constexpr int antwort = 6;
 constexpr int fensterbefehl = 13;
 
@@ -30,7 +30,8 @@ double Blockdauer(const Abschnitt& a, int bytes) {
 Sendevorschau Sendevorschau_von(const Projekt& p) {
   Sendevorschau v;
   v.ereignisse = static_cast<int>(std::ranges::count(p.Ein_funktext.alle(), 1));
-  v.ereignisse += static_cast<int>(std::ranges::count(p.Uhr_funktext.alle(), 1) + std::ranges::count(p.Tev_funktext.alle(), 1));
+  v.ereignisse += static_cast<int>(std::ranges::count(p.Uhr_funktext.alle(), 1) +
+                                   std::ranges::count(p.Tev_funktext.alle(), 1));
   v.schaltzeiten = p.Uhr_tabelle_geaendert == 1;
   v.led_gruppen = static_cast<int>(std::ranges::count(p.Grp_led.alle(), 1));
 

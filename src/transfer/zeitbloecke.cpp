@@ -45,7 +45,8 @@ void Aufholbyte(const Projekt& p, Block& b) {
 }
 
 void Schaltzeitenseite(const Uhr_tafel& Uhr_work, int m, int d, Block& b) {
-  const std::span<const i32> zeiten = Uhr_work.zeile(m).subspan(static_cast<std::size_t>(d) * uhrereignisse, uhrereignisse);
+  const std::span<const i32> zeiten =
+      Uhr_work.zeile(m).subspan(static_cast<std::size_t>(d) * uhrereignisse, uhrereignisse);
   std::uint32_t alle_bits = 0;
   for (const i32 z : zeiten) alle_bits |= static_cast<std::uint32_t>(z);
   if (alle_bits > 0xFFFF) {
@@ -62,7 +63,8 @@ void Schaltzeitenseite(const Uhr_tafel& Uhr_work, int m, int d, Block& b) {
 
 void Stempel(const Projekt& p, Block& b) {
   const auto hoch = Hex_zahl(std::string_view(p.Projekt_kennung).substr(0, 8));
-  const auto tief = p.Projekt_kennung.size() == 16 ? Hex_zahl(std::string_view(p.Projekt_kennung).substr(8)) : std::nullopt;
+  const auto tief =
+      p.Projekt_kennung.size() == 16 ? Hex_zahl(std::string_view(p.Projekt_kennung).substr(8)) : std::nullopt;
   if (!hoch || !tief) return b.schliessen();
   for (const std::uint32_t wert : {*hoch, *tief}) b.wort(wert >> 16).wort(wert & 0xFFFF);
 

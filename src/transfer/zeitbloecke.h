@@ -7,8 +7,8 @@
 
 namespace zav {
 
-// The change between summer and winter time, 41 bytes: mode byte (1 by the dates, 2 radio clock), then the date
-// words of the twenty dates.
+// The change between summer and winter time, 41 bytes: mode byte (1 by the dates, 2 radio clock), then the
+// date words of the twenty dates.
 void Umstellungstabelle(int Richt_modus, const Feld<str, 20>& Sowi_datum, Block& b);
 
 // The change-over table, 23 zeros, the sequencer's flag byte, six entries of three bytes: 83 bytes.
@@ -21,8 +21,9 @@ void Aufholbyte(const Projekt& p, Block& b);
 // m 0 to 11, d 0 to 30.
 void Schaltzeitenseite(const Uhr_tafel& Uhr_work, int m, int d, Block& b);
 
-// The stamp by which the master's content is known again, 32 bytes: Projekt_kennung, then the file name without
-// its folder in 24 characters of the code page. Ends at once when Projekt_kennung is not 16 hexadecimal digits.
+// The stamp by which the master's content is known again, 32 bytes: Projekt_kennung, then the file name
+// without its folder in 24 characters of the code page. Ends at once when Projekt_kennung is not 16
+// hexadecimal digits.
 void Stempel(const Projekt& p, Block& b);
 
 }  // namespace zav

@@ -15,7 +15,7 @@ class Wetterdisplay final : public Formular {
   std::array<Schild, 9> Label2;   // what stands in each row
   std::array<Schild, 9> Label24;  // the seven sensors, wind direction, precipitation
   Wetterbalken ProgressBar = Leere_wetterbalken();
-  Schild Label1;                  // wind speed in km/h
+  Schild Label1;  // wind speed in km/h
   Textfeld Text2{"Antwort der Wetterstation"};
   Taste Command2{"&Nochmals abfragen"};
   Taste Command1{"&Schliessen"};

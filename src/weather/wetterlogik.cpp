@@ -156,7 +156,8 @@ void Wetterlogik::Verdrahten() {
   for (std::size_t z = 0; z < zeilen; ++z) Label3[z].titel = bedingungen[z].name;
   Command2.wenn_gedrueckt = [this] { Bedingungen_oeffnen(); };
   Label5.titel =
-      "Diese Wetterfunktion nur ausführen, wenn folgender Ausgang (real oder virtuell) eines ZAVswitch \"Ein\" ist:";
+      "Diese Wetterfunktion nur ausführen, wenn folgender Ausgang (real oder virtuell) eines ZAVswitch "
+      "\"Ein\" ist:";
   std::vector<std::string> ausgaenge;
   ausgaenge.reserve(relaisausgaenge);
   for (int a = 0; a < relaisausgaenge; ++a) ausgaenge.push_back(Ausgang_bezeichnung(a));
@@ -209,7 +210,7 @@ void Wetterlogik::Zusammenfassung_zeigen() {
     const Bedingung& b = bedingungen[z];
     const int vergleich = (projekt.*b.vergleich)[funktion_];
     Einstellen(Combo1[z], vergleich);
-    Label4[z].titel = z == und_oder     ? Verknuepfung_in_worten(vergleich)
+    Label4[z].titel = z == und_oder    ? Verknuepfung_in_worten(vergleich)
                       : vergleich == 0 ? "---"
                                        : Combo1[z].text();
     if (b.schwelle == nullptr) continue;

@@ -1,5 +1,6 @@
-// "Wettersensor": the eight weather functions. Each compares sensor values with thresholds, waits until the outcome
-// is stable, and runs one of two sets of functions, which stand in the ordinary matrices of the input events.
+// "Wettersensor": the eight weather functions. Each compares sensor values with thresholds, waits until the
+// outcome is stable, and runs one of two sets of functions, which stand in the ordinary matrices of the input
+// events.
 #pragma once
 
 #include <array>
@@ -15,20 +16,20 @@ namespace zav {
 // Opens the editor of an input event's functions under a title, and returns when it has closed.
 using Funktionen_oeffnen = std::function<void(int ereignis, const std::string& titel)>;
 
-// Input event of weather function 0 to 7 of the station at that address; erfuellt: the set for a condition that
-// is met. One station uses 16 events in a row.
+// Input event of weather function 0 to 7 of the station at that address; erfuellt: the set for a condition
+// that is met. One station uses 16 events in a row.
 constexpr int Wetterereignis(int adresse, int funktion, bool erfuellt) {
   return 4 * adresse + 2 * funktion + (erfuellt ? 0 : 1);
 }
 
-// Opens `Wetterlogik` for the project's weather station; without one, or while it has no address that holds its
-// 16 events, "Bitte Adresse definieren" appears instead.
+// Opens `Wetterlogik` for the project's weather station; without one, or while it has no address that holds
+// its 16 events, "Bitte Adresse definieren" appears instead.
 void Wetterlogik_oeffnen(Funktionen_oeffnen funktionen);
 
 class Wetterlogik final : public Formular {
  public:
-  static constexpr std::size_t zeilen = 11;     // conditions: seven sensors, direction, rain, defect, and/or
-  static constexpr std::size_t und_oder = 10;   // the last of them
+  static constexpr std::size_t zeilen = 11;    // conditions: seven sensors, direction, rain, defect, and/or
+  static constexpr std::size_t und_oder = 10;  // the last of them
 
   // adresse: first address of the station, 0 to 252.
   Wetterlogik(int adresse, Funktionen_oeffnen funktionen);
@@ -39,8 +40,8 @@ class Wetterlogik final : public Formular {
   Kaestchen Check1{"Diese Wetterfunktion grundsätzlich &ausführen"};
   Textfeld Text3{"Bezeichnung"};
   Rahmen Frame3{"Bedingungen"};
-  std::array<Schild, zeilen> Label3;  // what is compared
-  std::array<Schild, zeilen> Label4;  // how, in words
+  std::array<Schild, zeilen> Label3;     // what is compared
+  std::array<Schild, zeilen> Label4;     // how, in words
   std::array<Schild, zeilen - 1> Text0;  // the threshold
   Taste Command2{"&Prüfbedingungen"};
   Schild Label5, Label6;

@@ -20,8 +20,8 @@ struct Messung {
   std::string_view name;
   std::string_view einheit;
   std::size_t von, stellen;
-  int nullpunkt;   // subtracted from the number
-  double teiler;   // of what is left
+  int nullpunkt;  // subtracted from the number
+  double teiler;  // of what is left
   double balken_bis;
   double versatz;  // added for the bar
 };
@@ -89,7 +89,9 @@ std::string_view Wetterstand_text(Wetterwerte::Stand stand) {
   return "";
 }
 
-std::string_view Niederschlag_text(const Wetterwerte& w) { return w.niederschlag ? "Niederschlag" : "Trocken"; }
+std::string_view Niederschlag_text(const Wetterwerte& w) {
+  return w.niederschlag ? "Niederschlag" : "Trocken";
+}
 
 std::string Wetterwert_text(std::size_t sensor, double wert) {
   return Zehntel(wert) + std::string(Sensor_einheit(sensor));

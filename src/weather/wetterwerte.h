@@ -41,7 +41,7 @@ std::string_view Sensor_einheit(std::size_t sensor);  // " kLux", with its blank
 struct Wetterwerte {
   enum class Stand { gut, keine_station, keine_daten, defekt };
   Stand stand = Stand::keine_station;
-  bool niederschlag = false;                    // holds for gut and defekt
+  bool niederschlag = false;                   // holds for gut and defekt
   std::array<double, wettersensoren> werte{};  // kLux, kLux, kLux, Lux, °C, °C, m/s; hold for gut
 };
 
