@@ -89,6 +89,12 @@ void Gemeinsames(QWidget& w, const Steuerelement& e) {
 
 namespace {
 
+// Colour alone does not tell a used key.
+QString Marken(const Taste& t) {
+  if (*t.farbe != Farbe::belegt) return {};
+  return QStringLiteral("  ") + (t.marken->empty() ? QStringLiteral("•") : Q(*t.marken));
+}
+
 QWidget* Taste_bauen(Taste& t, Auffrischer& auf, QWidget* eltern) {
   auto* const w = new QPushButton(eltern);
   w->setAutoDefault(false);
@@ -97,7 +103,7 @@ QWidget* Taste_bauen(Taste& t, Auffrischer& auf, QWidget* eltern) {
   QObject::connect(w, &QPushButton::clicked, w, [&t] { Handeln([&t] { t.druecken(); }); });
   auf.binden(t, [&t, w] {
     Gemeinsames(*w, t);
-    w->setText(Q(*t.titel));
+    w->setText(Q(*t.titel) + Marken(t));
     if (!t.bild.empty()) w->setIcon(Symbolbild(t.bild));
     Einfaerben(*w, t.farbe);
   });
@@ -185,6 +191,7 @@ QWidget* Schild_bauen(Schild& s, Auffrischer& auf, QWidget* eltern) {
     w->setAlignment((zahl.match(text).hasMatch() ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
     w->setText(text);
     Einfaerben(*w, s.farbe);
+    w->setMargin(*s.farbe == Farbe::normal ? 0 : raster / 2);
   });
   return w;
 }

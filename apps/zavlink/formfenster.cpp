@@ -112,11 +112,12 @@ void Formfenster::laufen() {
 
 void Formfenster::nachfuehren() {
   setWindowTitle(Q(form_.titel()));
-  if (form_.fokus() != fokus_) {
-    fokus_ = form_.fokus();
-    const auto w = gebautes_.widgets.find(fokus_);
+  if (form_.fokuswunsch() != fokuswunsch_) {
+    fokuswunsch_ = form_.fokuswunsch();
+    const auto w = gebautes_.widgets.find(form_.fokus());
+    // As by Tab: what stands in a field is selected, ready to be typed over.
     if (w != gebautes_.widgets.end())
-      QTimer::singleShot(0, w->second, [ziel = w->second] { ziel->setFocus(); });
+      QTimer::singleShot(0, w->second, [ziel = w->second] { ziel->setFocus(Qt::TabFocusReason); });
   }
   if (!form_.offen()) schleife_.quit();
 }
@@ -125,7 +126,7 @@ void Formfenster::showEvent(QShowEvent* e) {
   QDialog::showEvent(e);
   if (e->spontaneous()) return;
   // Fields that only show are no place to begin.
-  if (fokus_ == nullptr && gebautes_.inhalt != nullptr) focusNextChild();
+  if (form_.fokus() == nullptr && gebautes_.inhalt != nullptr) focusNextChild();
 }
 
 void Formfenster::closeEvent(QCloseEvent* e) {

@@ -36,7 +36,7 @@ class Formfenster : public QDialog {
   Formular& form_;
   Auffrischer* auffrischer_;
   Gebautes gebautes_;
-  Steuerelement* fokus_ = nullptr;
+  unsigned fokuswunsch_ = 0;
   QLabel* hinweis_ = nullptr;
   QEventLoop schleife_;
 };

@@ -6,6 +6,7 @@
 #include <QStackedWidget>
 #include <QVBoxLayout>
 #include <algorithm>
+#include <span>
 
 #include "zavlink/farben.h"
 #include "zavlink/qt_text.h"
@@ -60,6 +61,12 @@ bool Waechst(const Anordnung& a, Richtung r) {
   if (a.art == Anordnung::Art::Besonders) return true;
   if (a.art == Anordnung::Art::Knopfzeile) return r == Richtung::waagrecht;
   return std::ranges::any_of(a.kinder, [r](const Anordnung& k) { return Waechst(k, r); });
+}
+
+// A tree keeps its width: what it chooses takes the room beside it.
+bool Hat_baum(const Anordnung& a) {
+  if (a.art == Anordnung::Art::Element) return a.element->art == Art::Baum;
+  return std::ranges::any_of(a.kinder, Hat_baum);
 }
 
 bool Ist_menue(const Anordnung& a) {
@@ -181,7 +188,7 @@ class Baumeister {
       const Teil t = Bau(k, eltern);
       if (!t) continue;
       if (beschriftet) zeile->insertWidget(stelle, Beschriftung(*k.element, t.widget, eltern), 0, lage);
-      Einsetzen(*zeile, t, waechst ? 1 : 0, lage);
+      Einsetzen(*zeile, t, waechst && !Hat_baum(k) ? 1 : 0, lage);
     }
     if (!gefuellt) zeile->addStretch(1);
     return zeile;
@@ -296,6 +303,17 @@ class Baumeister {
     return w;
   }
 
+  static bool Ist_leere_zeile(const Anordnung& a, std::size_t beginn) {
+    const auto zellen = std::span(a.kinder).subspan(beginn);
+    return std::ranges::all_of(zellen.first(std::min(zellen.size(), static_cast<std::size_t>(a.spalten))),
+                               [](const Anordnung& k) { return k.art == Anordnung::Art::Leer; });
+  }
+  static void Platz_halten(QWidget& w) {
+    QSizePolicy regel = w.sizePolicy();
+    regel.setRetainSizeWhenHidden(true);
+    w.setSizePolicy(regel);
+  }
+
   QGridLayout* Raster_bauen(const Anordnung& a, QWidget* eltern) {
     auto* const gitter = Ohne_rand(new QGridLayout);
     gitter->setVerticalSpacing(static_cast<int>(a.kinder.size()) >= 16 * a.spalten ? 2 : raster / 2);
@@ -315,10 +333,12 @@ class Baumeister {
     for (std::size_t i = 0; i < a.kinder.size(); ++i) {
       const Anordnung& k = a.kinder[i];
       const int zeile = static_cast<int>(i / spalten);
+      if (i % spalten == 0 && Ist_leere_zeile(a, i)) gitter->setRowMinimumHeight(zeile, raster);
       const int spalte = ort[i % spalten];
       const bool frei = Waechst(k, Richtung::waagrecht) || k.art != Anordnung::Art::Element;
       const Teil t = Bau(k, eltern);
       if (!t) continue;
+      if (a.platz_halten && t.widget != nullptr) Platz_halten(*t.widget);
       const bool fuellt = k.art == Anordnung::Art::Element &&
                           (k.element->art == Art::Schild || k.element->art == Art::Taste ||
                            (k.element->art == Art::Auswahl &&
@@ -338,9 +358,18 @@ class Baumeister {
     if (a.kinder.empty()) return Element(wahl, eltern);
     auto* const w = new QWidget(eltern);
     auto* const spalte = Ohne_rand(new QVBoxLayout(w));
-    spalte->addWidget(Element(wahl, w));
+    const auto seiten =
+        std::span(a.kinder).first(std::min(a.kinder.size(), static_cast<std::size_t>(wahl.anzahl())));
+    auto* const kopf = new QHBoxLayout;
+    kopf->addWidget(Element(wahl, w), 1);
+    for (const Anordnung& k : std::span(a.kinder).subspan(seiten.size())) {
+      const Teil daneben = Bau(k, w);
+      Einsetzen(*kopf, daneben, 0, Qt::AlignVCenter);
+      if (daneben.layout != nullptr) kopf->setAlignment(daneben.layout, Qt::AlignVCenter);
+    }
+    spalte->addLayout(kopf);
     auto* const stapel = new QStackedWidget(w);
-    for (const Anordnung& k : a.kinder) stapel->addWidget(Als_widget(k, stapel));
+    for (const Anordnung& k : seiten) stapel->addWidget(Als_widget(k, stapel));
     spalte->addWidget(stapel, 1);
     auf_.binden(wahl, [&wahl, stapel] {
       if (wahl.position() >= 0 && wahl.position() < stapel->count()) stapel->setCurrentIndex(wahl.position());

@@ -1,11 +1,15 @@
 #include "zavlink/textfelder.h"
 
+#include <QApplication>
 #include <QFocusEvent>
 #include <QFontDatabase>
+#include <QGridLayout>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QScrollBar>
 #include <QSignalBlocker>
+#include <QTimer>
 #include <algorithm>
 
 #include "zavlink/farben.h"
@@ -24,7 +28,23 @@ constexpr int laenge_unbegrenzt = 24;
 // Characters that a field shows at a time, 0 = as many as there is room for.
 std::size_t Zeichen(const Textfeld& t) { return t.breite != 0 ? t.breite : t.hoechstlaenge; }
 
-// A one-line field that tells when the focus comes and goes.
+// The next field above (-1) or below (1) in its column of a grid.
+QLineEdit* Nachbar(const QLineEdit& feld, int schritt) {
+  for (const auto* gitter : feld.parentWidget()->findChildren<QGridLayout*>()) {
+    const int stelle = gitter->indexOf(&feld);
+    if (stelle < 0) continue;
+    int zeile = 0, spalte = 0, hoehe = 0, breite = 0;
+    gitter->getItemPosition(stelle, &zeile, &spalte, &hoehe, &breite);
+    for (zeile += schritt; zeile >= 0 && zeile < gitter->rowCount(); zeile += schritt) {
+      const QLayoutItem* const zelle = gitter->itemAtPosition(zeile, spalte);
+      auto* const anderes = zelle == nullptr ? nullptr : qobject_cast<QLineEdit*>(zelle->widget());
+      if (anderes != nullptr && anderes->isEnabled() && anderes->isVisible()) return anderes;
+    }
+  }
+  return nullptr;
+}
+
+// A one-line field that tells when the focus comes and goes. Cursor up and down lead to its neighbours.
 class Zeilenfeld final : public QLineEdit {
  public:
   Zeilenfeld(Textfeld& t, QWidget* eltern) : QLineEdit(eltern), t_(t) {
@@ -42,11 +62,21 @@ class Zeilenfeld final : public QLineEdit {
  protected:
   void focusInEvent(QFocusEvent* e) override {
     QLineEdit::focusInEvent(e);
+    if (!t_.maske.empty() && t_.text() == t_.maske) QTimer::singleShot(0, this, &QLineEdit::selectAll);
     if (wechsel(e)) Handeln([this] { t_.betreten(); });
   }
   void focusOutEvent(QFocusEvent* e) override {
     QLineEdit::focusOutEvent(e);
     if (wechsel(e)) Handeln([this] { t_.verlassen(); });
+  }
+  void keyPressEvent(QKeyEvent* e) override {
+    const bool eingabe = e->key() == Qt::Key_Return || e->key() == Qt::Key_Enter;
+    if (eingabe && t_.wenn_eingabe && t_.frei) return Handeln([this] { t_.eingabe(); });
+    if (e->modifiers() == Qt::NoModifier && (e->key() == Qt::Key_Up || e->key() == Qt::Key_Down)) {
+      if (auto* const nachbar = Nachbar(*this, e->key() == Qt::Key_Up ? -1 : 1))
+        return nachbar->setFocus(Qt::TabFocusReason);
+    }
+    QLineEdit::keyPressEvent(e);
   }
 
  private:
@@ -67,11 +97,13 @@ class Zeilenfeld final : public QLineEdit {
   Textfeld& t_;
 };
 
-// A field that only shows lies in the window, not above it.
+// A field that only shows lies in the window, not above it; a mask is pale.
 void Lesefarbe(QWidget& w, const Textfeld& t) {
   Einfaerben(w, t.farbe);
   if (*t.farbe != Farbe::normal) return;
   QPalette p;
+  if (!t.maske.empty() && t.text() == t.maske)
+    p.setColor(QPalette::Text, QApplication::palette().color(QPalette::PlaceholderText));
   if (t.nur_lesen) p.setColor(QPalette::Base, w.palette().color(QPalette::Window));
   w.setPalette(p);
 }
@@ -101,7 +133,13 @@ class Absatzfeld final : public QPlainTextEdit {
   explicit Absatzfeld(Textfeld& t, QWidget* eltern) : QPlainTextEdit(eltern), t_(t) {
     setTabChangesFocus(true);
   }
-  QSize sizeHint() const override { return {56 * raster, 30 * raster}; }
+  QSize sizeHint() const override {
+    const int breite =
+        t_.breite == 0 ? 56 * raster
+                       : static_cast<int>(t_.breite) * (fontMetrics().averageCharWidth() + 1) + 3 * raster;
+    return {breite, t_.zeilen == 0 ? 30 * raster
+                                   : static_cast<int>(t_.zeilen) * fontMetrics().lineSpacing() + 2 * raster};
+  }
   QSize minimumSizeHint() const override { return {20 * raster, 8 * raster}; }
 
  protected:

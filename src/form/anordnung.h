@@ -18,24 +18,27 @@ namespace zav {
 
 struct Anordnung {
   enum class Art {
-    Element,       // one control
-    Zeile,         // side by side
-    Spalte,        // one below the other
-    Gruppe,        // a titled column; with `element` the Rahmen that carries title, visibility and enabling
-    Raster,        // row by row in `spalten` columns
-    Reiter,        // one child a page; `element` is the Auswahl whose position shows the page
-    Knopfzeile,    // the dialog's buttons, at the right end
-    Feder,         // takes the space that is left
-    Menue,         // a menu or submenu of items, title in `titel`
+    Element,     // one control
+    Zeile,       // side by side
+    Spalte,      // one below the other
+    Gruppe,      // a titled column; with `element` the Rahmen that carries title, visibility and enabling
+    Raster,      // row by row in `spalten` columns
+    Reiter,      // one child a page, one more stands beside the tabs; `element` is the Auswahl whose position
+                 // shows the page
+    Knopfzeile,  // the dialog's buttons, at the right end
+    Feder,       // takes the space that is left
+    Menue,       // a menu or submenu of items, title in `titel`
     Kontextmenue,  // a popup menu, title in `titel`
     Besonders,     // a painted widget of the front end, called `titel`, that shows and serves the children
-    Leer,          // an empty cell of a grid
+    Leer,          // an empty cell of a grid; a row of them is a gap
   };
 
   Art art = Art::Leer;
   std::string titel{};
   Steuerelement* element = nullptr;
   int spalten = 0;
+  bool platz_halten =
+      false;  // of a grid: hidden controls keep their place, so that nothing moves when they come
   std::vector<Anordnung> kinder{};
 
   Anordnung() = default;
@@ -104,6 +107,10 @@ Anordnung Raster(int spalten, K&&... k) {
   Anordnung a(Anordnung::Art::Raster);
   a.spalten = spalten;
   return anordnung_intern::knoten(std::move(a), std::forward<K>(k)...);
+}
+inline Anordnung Platz_haltend(Anordnung raster) {
+  raster.platz_halten = true;
+  return raster;
 }
 template <class... K>
 Anordnung Reiter(Auswahl& reiter, K&&... seiten) {

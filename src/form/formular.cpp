@@ -35,6 +35,7 @@ Steuerelement* Formular::element(std::string_view name) const {
 
 void Formular::fokussieren(Steuerelement& e) {
   fokus_ = &e;
+  ++fokuswunsch_;
   geaendert();
 }
 

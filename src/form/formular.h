@@ -57,6 +57,8 @@ class Formular {
 
   // The control that has the focus by the form's wish; the front end obeys. nullptr: its own choice.
   Steuerelement* fokus() const { return fokus_; }
+  // Counts the wishes: the same control may be wished again after the user has left it.
+  unsigned fokuswunsch() const { return fokuswunsch_; }
   void fokussieren(Steuerelement& e);
 
   // The front end's ear for title, focus and closing.
@@ -79,6 +81,7 @@ class Formular {
   std::string titel_;
   std::vector<Steuerelement*> elemente_;
   Steuerelement* fokus_ = nullptr;
+  unsigned fokuswunsch_ = 0;
   int beschaeftigt_ = 0;
   bool offen_ = true;
 };

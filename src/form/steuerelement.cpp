@@ -131,6 +131,11 @@ void Textfeld::verlassen() {
   ausfuehren(wenn_verlassen);
 }
 
+void Textfeld::eingabe() {
+  pruefe_bedienbar();
+  ausfuehren(wenn_eingabe);
+}
+
 void Textfeld::ausfuellen(std::string text) {
   eingeben(std::move(text));
   verlassen();

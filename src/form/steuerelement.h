@@ -110,6 +110,7 @@ class Taste final : public Steuerelement {
   bool abbruch = false;                         // Escape presses it
   std::string bild;                             // name of a symbol of the front end's icon family
   std::string kuerzel;                          // keyboard shortcut of the window, "Ctrl+S"
+  Eigenschaft<std::string> marken{*this};  // behind the caption of a used key what it does: "O D"; "" = a dot
 
   void druecken();
   void rechts_druecken();
@@ -183,11 +184,15 @@ class Textfeld final : public Steuerelement {
   std::function<void()> wenn_geaendert;
   std::function<void()> wenn_betreten;   // the focus enters the field, by a click or by Tab
   std::function<void()> wenn_verlassen;  // the focus leaves the field
+  std::function<void()>
+      wenn_eingabe;  // Enter in the field; a field without it leaves Enter to the standard key
   Eigenschaft<bool> nur_lesen{*this, false};
   std::size_t hoechstlaenge = 0;  // in characters, 0 = no limit
   std::size_t breite = 0;         // characters to show at a time, 0 = by hoechstlaenge
   bool mehrzeilig = false;
   bool festbreit = false;  // letters of one width: logs, drawings
+  std::size_t zeilen = 0;  // lines to show at a time where there are several, 0 = the front end's choice
+  std::string maske;       // the text that stands for "not set", "HH.MM.SS": shown pale, typing replaces it
 
   const std::string& text() const { return text_; }
   void setzen(std::string text);
@@ -196,6 +201,7 @@ class Textfeld final : public Steuerelement {
   bool eingeben(std::string text);
   void betreten();
   void verlassen();
+  void eingabe();
   // eingeben() and verlassen().
   void ausfuellen(std::string text);
   // Adds text at the end (a log); no handler.
