@@ -94,6 +94,18 @@ TEST_F(Kleine_editoren, TimersAreNamedTimedAndGivenFunctions) {
   EXPECT_EQ(m.Tevent[7].farbe, Farbe::belegt);
   EXPECT_EQ(projekt.Tev_dimmer(7, 0, 2), 30);
 
+  // Enter goes on: name, times, next row; a wrong time holds it.
+  m.Txtbox_timerbez[1].eingabe();
+  EXPECT_EQ(m.fokus(), &m.Ttime[3]);
+  m.Ttime[5].eingabe();
+  EXPECT_EQ(m.fokus(), &m.Txtbox_timerbez[2]);
+  m.Ttime[47].eingeben("9");
+  d.erwarte({.text = "Eingabe im Format HH.MM.SS oder HH.MM, Maximalwert 17.59.59"});
+  m.Ttime[47].eingabe();
+  EXPECT_EQ(m.fokus(), &m.Ttime[47]);
+  m.Ttime[47].eingabe();
+  EXPECT_EQ(m.fokus(), &m.OK);
+
   m.Ttime[3].eingeben("");
   m.Ttime[4].eingeben("1.00.00");
   d.erwarte({.text = "Eingabe im Format HH.MM.SS oder HH.MM, Maximalwert 17.59.59"});

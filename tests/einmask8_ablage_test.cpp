@@ -41,6 +41,8 @@ TEST_F(Installation, MapShowsWhoHoldsWhat) {
   EXPECT_EQ(k.Zellen.eintrag(9).farbe, Farbe::frei);
   EXPECT_EQ(k.Zellen.eintrag(10).farbe, Farbe::aktuell);
   EXPECT_EQ(k.Zellen.eintrag(103).farbe, Farbe::belegt);
+  for (int a = 0; a < 10; a += 2) apparat(0, 5 + a, 1, a);
+  EXPECT_EQ(Dialog_Kombination("", 2).Zellen.position(), 12) << "the first run for a new device is proposed";
 }
 
 TEST_F(Installation, MapRefusesWhatDoesNotFit) {

@@ -51,6 +51,33 @@ TEST_F(Installation, TreeGathersRoomsUnderTheirStorey) {
   EXPECT_EQ(sitzung.Projekt_geaendert, 0) << "looking changes nothing";
 }
 
+TEST_F(Installation, SearchShowsWhatItFindsAndChoosesThePlace) {
+  kombination(0, "EG", "Küche", 15);
+  kombination(1, "OG", "Bad", 15);
+  kombination(2, "OG", "Gäste", 15);
+  apparat(1, 3, 70, 20);
+  projekt.Dev_text[(16 + 5) * 8] = "Radio laut";  // a key of the list at place 3, kept two places behind it
+  projekt.Dev_text[(32 + 1) * 8 + 2] = "Radio";
+  apparat(2, 1, 14, 30);
+  Einmask8 m;
+  m.Text_Suche.eingeben("RADIO");
+  EXPECT_EQ(m.kombination(), 1);
+  EXPECT_EQ(m.platz(), 3);
+  EXPECT_EQ(Baumtexte(m.TreeView1), (std::vector<std::string>{"EG", "EG > OG", "OG > Bad", "OG > Gäste"}));
+  m.Text_Suche.eingabe();
+  EXPECT_EQ(m.kombination(), 2);
+  EXPECT_EQ(m.platz(), 1);
+  m.Text_Suche.eingabe();
+  EXPECT_EQ(m.kombination(), 1) << "round and round";
+  m.Text_Suche.eingeben("RADIOS");
+  EXPECT_EQ(m.kombination(), 1);
+  EXPECT_EQ(m.Label1.titel, "Nichts gefunden");
+  EXPECT_EQ(m.TreeView1.knoten().size(), 5u) << "all are there again";
+  m.Text_Suche.eingeben("");
+  EXPECT_EQ(m.Label1.titel, "");
+  EXPECT_EQ(m.TreeView1.gewaehlt(), "1key1547852");
+}
+
 TEST_F(Installation, NewKombinationAsksForStoreyRoomAndLayout) {
   Einmask8 m;
   d.erwarte_dialog<Layoutwahl>([this](Layoutwahl& w) {
@@ -331,6 +358,7 @@ TEST_F(Installation, EventsOpenByTheirOffset) {
   EXPECT_EQ(projekt.Ein_relais(53, 2), 2);
   EXPECT_EQ(projekt.Ein_leer[53], 1);
   EXPECT_EQ(m.Command15[5].farbe, Farbe::belegt);
+  EXPECT_EQ(m.Command15[5].marken, "O");
   EXPECT_EQ(m.Command15[4].farbe, Farbe::normal);
   EXPECT_TRUE(m.Taste_belegt(0, 5));
   EXPECT_EQ(m.Combo_LED[0].eintrag(2).text, "O0-2: Decke") << "lists follow new texts";

@@ -154,9 +154,9 @@ Anordnung Actmask_init::anordnung() {
   return Spalte(
       Reiter(TabStrip1,
              Spalte(Gruppe("ZAVswitch, ZAVmotor: Oxx", Baugruppe),
-                    Gruppe(Frame1, Raster(3, Zeilenweise(Lnr1, Text1, Combo1))),
-                    Gruppe("Alle 8 Ausgänge", Zeile(Alle(Alle_8), Feder())),
-                    Gruppe("Alle 512 Ausgänge", Zeile(Alle(Alle_512), Feder()))),
+                    Zeile(Gruppe(Frame1, Storenpaare(Lnr1, Text1, Combo1)),
+                          Spalte(Gruppe("Alle 8 Ausgänge", Raster(3, Alle(Alle_8))),
+                                 Gruppe("Alle 512 Ausgänge", Raster(3, Alle(Alle_512))), Feder()))),
              Spalte(Gruppe("ZAVdimmer, ZAVmodul, ZAVled: Dxx", Dimmbaugruppe),
                     Gruppe(Frame2, Raster(5, Zeilenweise(Lnr2, Text2, Command1, Slider1, Intens))), Feder())),
       Knopfzeile(Command5, Command6));

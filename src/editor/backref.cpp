@@ -36,6 +36,8 @@ Backref::Backref() : Formular("Backref", "Ereignissuche") {
   };
   Text2.mehrzeilig = true;
   Text2.nur_lesen = true;
+  Text2.breite = 84;
+  Text2.zeilen = 16;
   Text2.setzen("Anzeige des Suchergebnisses...");
   Command3.abbruch = true;
   Command3.wenn_gedrueckt = [this] { schliessen(); };

@@ -1,6 +1,7 @@
 #include "editor/dialog_kombination.h"
 
 #include <algorithm>
+#include <span>
 #include <utility>
 #include <vector>
 
@@ -56,7 +57,19 @@ void Dialog_Kombination::Zellen_zeigen() {
   if (const auto alt = Zahl_lesen(aktuell_, 0, adressen - 1)) {
     for (int a = *alt; a < std::min(*alt + anzahl_, adressen); ++a) Zellen.faerben(a, Farbe::aktuell);
     Zellen.setzen(*alt);
+    return;
   }
+  // A device without an address: the first place for it is proposed.
+  for (int a = 0; a < adressen; ++a) {
+    if (Passt_ab(a)) return Zellen.setzen(a);
+  }
+}
+
+bool Dialog_Kombination::Passt_ab(int n) const {
+  if (n + anzahl_ > adressen) return false;
+  const auto lauf = std::span(Zellen.eintraege())
+                        .subspan(static_cast<std::size_t>(n), static_cast<std::size_t>(std::max(anzahl_, 0)));
+  return std::ranges::none_of(lauf, [](const Auswahl::Eintrag& e) { return e.hinweis == zelle_besetzt; });
 }
 
 void Dialog_Kombination::Zelle_gewaehlt(int n) {
@@ -64,11 +77,9 @@ void Dialog_Kombination::Zelle_gewaehlt(int n) {
     Melden("Überschreitet Adressbereich, Vorgang wird nicht ausgeführt");
     return;
   }
-  for (int a = n; a < n + anzahl_; ++a) {
-    if (Zellen.eintrag(a).hinweis == zelle_besetzt) {
-      Melden("Überschneidet besetzte Adressen, Vorgang wird nicht ausgeführt");
-      return;
-    }
+  if (!Passt_ab(n)) {
+    Melden("Überschneidet besetzte Adressen, Vorgang wird nicht ausgeführt");
+    return;
   }
   if (!aktuell_.empty() && !Wechsel_bestaetigt(n)) return;
   gewaehlt_ = n;

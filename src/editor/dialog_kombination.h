@@ -23,6 +23,11 @@ class Dialog_Kombination final : public Formular {
   // The chosen first address; nothing when the dialog was cancelled.
   const std::optional<int>& gewaehlt() const { return gewaehlt_; }
 
+  // Addresses that the device takes, and whether all of them are free from this one on. Its own do not count
+  // as free.
+  int anzahl() const { return anzahl_; }
+  bool Passt_ab(int n) const;
+
   Anordnung anordnung() override;
 
  private:

@@ -78,11 +78,11 @@ void Dimmermode::Uebernehmen() {
 }
 
 Anordnung Dimmermode::anordnung() {
-  // One heading stands over both boxes.
+  // One heading stands over both boxes, which stand under its two words.
   Anordnung zeilen_raster = Raster(3, Leer(), Label3, Label1);
   for (std::size_t z = 0; z < Lnr.size(); ++z) {
     zeilen_raster.kinder.insert(zeilen_raster.kinder.end(),
-                                {Lnr[z], Text1[z], Zeile(Check1[z], Check2[z], Feder())});
+                                {Lnr[z], Text1[z], Zeile(Check1[z], Feder(), Check2[z])});
   }
   return Spalte(TabStrip1, Gruppe(Frame1, std::move(zeilen_raster), Label2), Knopfzeile(OK, Cancel));
 }

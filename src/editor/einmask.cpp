@@ -71,10 +71,13 @@ Einmask::Einmask() : Formular("Einmask", "Eingänge") {
 
 void Einmask::Seite_einrichten() {
   anmelden("TabStrip1", TabStrip1);
+  anmelden("Label_kopf", Label_kopf);
   anmelden("Nummer", Nummer);
   anmelden("Text_grp", Text_grp);
   anmelden("Text_ein", Text_ein);
 
+  Label_kopf[0].titel = "Gruppe";
+  for (int t = 0; t < tasten; ++t) Label_kopf[1 + t].titel = "Taste " + std::to_string(t + 1);
   std::vector<std::string> seiten;
   for (int a = 0; a < adressen; a += gruppen_je_seite) seiten.push_back("I" + std::to_string(a));
   TabStrip1.fuellen(std::move(seiten));
@@ -278,17 +281,17 @@ void Einmask::Loeschen() {
 }
 
 Anordnung Einmask::anordnung() {
-  Anordnung seite(Anordnung::Art::Raster);
-  seite.spalten = 2 + tasten;
+  Anordnung seite = Raster(2 + tasten, Leer(), Alle(Label_kopf));
   for (int z = 0; z < gruppen_je_seite; ++z) {
     seite.kinder.emplace_back(Nummer[z]);
     seite.kinder.emplace_back(Text_grp[z]);
     for (int t = 0; t < tasten; ++t) seite.kinder.emplace_back(Text_ein[z * tasten + t]);
   }
-  return Spalte(TabStrip1, std::move(seite),
-                Gruppe(Frame1, Zeile(Spalte(Label_bild, Zeile(Command_taster, Command_due, Command_mehrfach),
-                                            Zeile(Check_thermo, Feder(), Command_loeschen)),
-                                     Feder(), Raster(3, Zeilenweise(Label_taste, Combo_LED, Command_fkt)))),
+  return Spalte(TabStrip1,
+                Zeile(std::move(seite), Gruppe(Frame1, Label_bild, Zeile(Command_taster, Command_due),
+                                               Zeile(Command_mehrfach, Check_thermo),
+                                               Raster(3, Zeilenweise(Label_taste, Combo_LED, Command_fkt)),
+                                               Feder(), Zeile(Command_loeschen, Feder()))),
                 Knopfzeile(Command_schliessen));
 }
 

@@ -18,6 +18,7 @@ class Einmask final : public Formular {
   Einmask();
 
   Auswahl TabStrip1{Auswahl::Form::Reiter};
+  std::array<Schild, 1 + tasten> Label_kopf;   // headings of the texts
   std::array<Taste, gruppen_je_seite> Nummer;  // makes the group the current one
   std::array<Textfeld, gruppen_je_seite> Text_grp;
   std::array<Textfeld, gruppen_je_seite * tasten> Text_ein;

@@ -1,5 +1,6 @@
 #include "editor/einmask8.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "editor/adressplan.h"
@@ -13,6 +14,7 @@ Einmask8::Einmask8(Tueren tueren)
   Elemente_anmelden();
   Handler_setzen();
 
+  Text_Suche.hinweis = "Sucht in Standort, Bezeichnung und Tastentexten. Enter springt zum nächsten Fund.";
   for (Textfeld* t : {&Text6, &Text7}) {
     t->nur_lesen = true;
     t->breite = 3;
@@ -80,7 +82,8 @@ void Einmask8::Elemente_anmelden() {
 }
 
 void Einmask8::Handler_setzen() {
-  Text_Suche.wenn_geaendert = [this] { Suchen(); };
+  Text_Suche.wenn_geaendert = [this] { Suchen(std::max(komb_, 0)); };
+  Text_Suche.wenn_eingabe = [this] { Suchen(komb_ + 1); };
   TreeView1.wenn_geaendert = [this] { Knoten_gewaehlt(); };
   Command9.wenn_gedrueckt = [this] { Neue_kombination(); };
   Command_Layout.wenn_gedrueckt = [this] { Kombination_bearbeiten(komb_); };

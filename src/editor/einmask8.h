@@ -117,7 +117,8 @@ class Einmask8 final : public Formular {
   void Kombination_bearbeiten(int k);
   void Neue_kombination();
   void Kombination_loeschen();
-  void Suchen();
+  std::string Gesucht() const;
+  void Suchen(int beginn);
   void Importbefehl();
 
   // einmask8_seite.cpp

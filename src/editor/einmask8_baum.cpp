@@ -1,4 +1,5 @@
 // The tree of storeys and Kombinationen, and the commands on a Kombination.
+#include <optional>
 #include <string>
 #include <unordered_map>
 #include <utility>
@@ -25,15 +26,20 @@ constexpr std::string_view kennung_kombination = "key1547852";
 
 std::string Schluessel(int k) { return std::to_string(k) + std::string(kennung_kombination); }
 
-// True when the text stands in storey, room or a key text of the Kombination; capitals do not matter.
-bool Enthaelt(int k, const std::string& klein) {
+// Place of the Kombination where the text stands: 0 for its storey or room, else the device that has it as a
+// key text. Nothing when it stands nowhere; capitals do not matter.
+std::optional<int> Fundort(int k, const std::string& klein) {
   const auto in = [&](const std::string& text) { return Klein(text).find(klein) != std::string::npos; };
-  if (in(projekt.Komb_text[k]) || in(projekt.Komb_text2[k])) return true;
-  const int slots = plaetze * tastenplaetze;
-  for (int n = slots * k; n < slots * (k + 1); ++n) {
-    if (in(projekt.Dev_text[n])) return true;
+  if (in(projekt.Komb_text[k]) || in(projekt.Komb_text2[k])) return 0;
+  for (int p = 0; p < plaetze; ++p) {
+    for (int n = 0; n < tastenplaetze; ++n) {
+      if (!in(projekt.Dev_text[(plaetze * k + p) * tastenplaetze + n])) continue;
+      // A device with a list of keys keeps their texts on the places behind its own, too.
+      while (p > 0 && projekt.App_typ[plaetze * k + p] == apparat_leer) --p;
+      return p;
+    }
   }
-  return false;
+  return std::nullopt;
 }
 
 }  // namespace
@@ -43,16 +49,25 @@ void Einmask8::Baum_zeigen() {
   const int frei = Kombination_erste_freie();
   Text7.setzen(frei < kombinationen ? std::to_string(frei) : "");
 
+  int anzahl = 0;
+  while (anzahl < kombinationen && !projekt.Komb_text[anzahl].empty()) ++anzahl;
+  const std::string gesucht = Gesucht();
+  const auto passt = [&](int k) { return gesucht.empty() || Fundort(k, gesucht); };
+  // What is chosen always stands in the tree: one that was not searched for brings the others back.
+  const bool alle = komb_ < 0 || !passt(komb_);
+
   std::vector<Baum::Knoten> knoten{
       {.schluessel = projekt.Komb_text[0], .text = projekt.Komb_text[0], .bild = "haus", .offen = true}};
   std::unordered_map<std::string, int> standorte{{projekt.Komb_text[0], 0}};
-  int anzahl = 0;
-  for (; anzahl < kombinationen && !projekt.Komb_text[anzahl].empty(); ++anzahl) {
-    const std::string& standort = projekt.Komb_text[anzahl];
+  std::vector<int> gezeigt;
+  for (int k = 0; k < anzahl; ++k) {
+    if (!alle && !passt(k)) continue;
+    gezeigt.push_back(k);
+    const std::string& standort = projekt.Komb_text[k];
     if (!standorte.try_emplace(standort, static_cast<int>(knoten.size())).second) continue;
     knoten.push_back({.schluessel = standort, .text = standort, .eltern = 0, .bild = "haus", .offen = true});
   }
-  for (int k = 0; k < anzahl; ++k) {
+  for (const int k : gezeigt) {
     knoten.push_back({.schluessel = Schluessel(k),
                       .text = projekt.Komb_text2[k],
                       .eltern = standorte.at(projekt.Komb_text[k]),
@@ -136,18 +151,24 @@ void Einmask8::Kombination_loeschen() {
   Label1.titel = "Kombination gelöscht";
 }
 
-void Einmask8::Suchen() {
-  const std::string gesucht = Klein(Ohne_rand(Text_Suche.text()));
+std::string Einmask8::Gesucht() const { return Klein(Ohne_rand(Text_Suche.text())); }
+
+// The tree shows what is found, and the first hit from `beginn` on is chosen.
+void Einmask8::Suchen(int beginn) {
+  const std::string gesucht = Gesucht();
   const int anzahl = Kombination_erste_freie();
-  if (gesucht.empty() || anzahl == 0) return;
-  const int beginn = komb_ < 0 ? 0 : komb_;
-  for (int i = 0; i < anzahl; ++i) {
+  bool gefunden = gesucht.empty();
+  for (int i = 0; i < anzahl && !gefunden; ++i) {
     const int k = (beginn + i) % anzahl;
-    if (Enthaelt(k, gesucht)) {
-      Kombination_zeigen(k);
-      return;
-    }
+    const auto ort = Fundort(k, gesucht);
+    if (!ort) continue;
+    gefunden = true;
+    if (k != komb_) Kombination_zeigen(k);
+    if (*ort != platz_ && Image3.at(static_cast<std::size_t>(*ort)).sichtbar) Platz_waehlen(*ort);
   }
+  Baum_zeigen();
+  Text_Suche.farbe = gefunden ? Farbe::normal : Farbe::belegt;
+  Label1.titel = gefunden ? "" : "Nichts gefunden";
 }
 
 void Einmask8::Importbefehl() {

@@ -25,6 +25,20 @@ std::string Adresse_in_worten(int d) {
   return "Noch keine Adresse, belegt " + anzahl;
 }
 
+// What the event acts on: relay outputs "O", dimmers "D", timers "T", as their numbers begin.
+std::string Ereignismarken(int ereignis) {
+  const Ereigniszeilen z = Zeilen_von(Ereignisart::Eingang, ereignis);
+  const auto benutzt = [](auto werte) { return std::ranges::any_of(werte, [](auto w) { return w != 0; }); };
+  std::string marken;
+  const auto marke = [&marken](bool da, const char* zeichen) {
+    if (da) marken += (marken.empty() ? "" : " ") + std::string(zeichen);
+  };
+  marke(benutzt(z.relais), "O");
+  marke(benutzt(z.dimmer), "D");
+  marke(benutzt(z.timer), "T");
+  return marken;
+}
+
 }  // namespace
 
 void Einmask8::Plaetze_zeigen() {
@@ -113,8 +127,9 @@ void Einmask8::Leds_zeigen(const Apparatseite& seite) {
 void Einmask8::Ereignisse_faerben() {
   for (int j = 0; j < Apparatseite::tasten_max; ++j) {
     const auto e = Ereignis(j);
-    const bool belegt = e && projekt.Ein_leer[*e] != 0;
-    Command15.at(static_cast<std::size_t>(j)).farbe = belegt ? Farbe::belegt : Farbe::normal;
+    Taste& knopf = Command15.at(static_cast<std::size_t>(j));
+    knopf.farbe = e && projekt.Ein_leer[*e] != 0 ? Farbe::belegt : Farbe::normal;
+    knopf.marken = e ? Ereignismarken(*e) : "";
   }
 }
 

@@ -59,12 +59,15 @@ Timer_trepp::Timer_trepp() : Formular("Timer_trepp", "Timer Manager") {
     Txtbox_timerbez[t].setzen(projekt.Timer_text[t]);
     Txtbox_timerbez[t].hinweis = "Bezeichnung, Verwendung";
     Txtbox_timerbez[t].wenn_geaendert = [this, t] { Faerben(t); };
+    Txtbox_timerbez[t].wenn_eingabe = [this, t] { fokussieren(Ttime[t * zeiten_je_timer]); };
   }
   for (int z = 0; z < timeranzahl * zeiten_je_timer; ++z) {
     Ttime[z].setzen(projekt.Timer_zeit[z].empty() ? maske : projekt.Timer_zeit[z]);
-    Ttime[z].breite = 12;
+    Ttime[z].breite = 10;
+    Ttime[z].maske = maske;
     Ttime[z].hinweis = "Zeit in Stunden, Minuten und Sekunden des Ereignisses";
     Ttime[z].wenn_verlassen = [this, z] { Zeit_pruefen(z); };
+    Ttime[z].wenn_eingabe = [this, z] { Weiter(z); };
   }
   for (int e = 0; e < timerereignisse; ++e) {
     Tevent[e].titel = schrittworte[e % schritte];
@@ -85,6 +88,18 @@ bool Timer_trepp::Zeit_pruefen(int nummer) {
   Melden(zeit.fehler);
   fokussieren(feld);
   return false;
+}
+
+void Timer_trepp::Weiter(int nummer) {
+  if (!Zeit_pruefen(nummer)) return;
+  const int naechste = nummer + 1;
+  if (naechste % zeiten_je_timer != 0) {
+    fokussieren(Ttime[naechste]);
+  } else if (naechste / zeiten_je_timer < timeranzahl) {
+    fokussieren(Txtbox_timerbez[naechste / zeiten_je_timer]);
+  } else {
+    fokussieren(OK);
+  }
 }
 
 void Timer_trepp::Ereignis_oeffnen(int ereignis) {

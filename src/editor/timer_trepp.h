@@ -38,6 +38,8 @@ class Timer_trepp final : public Formular {
  private:
   // False where the field's time was refused; it shows the mask then and has the focus.
   bool Zeit_pruefen(int nummer);
+  // Enter in a time: to the next time of the row, else to the next row's name.
+  void Weiter(int nummer);
   void Ereignis_oeffnen(int ereignis);
   void Faerben(int timer);
   void Uebernehmen();

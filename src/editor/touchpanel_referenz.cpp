@@ -75,6 +75,9 @@ Touchpanel_Referenz::Touchpanel_Referenz() : Formular("Touchpanel_Referenz", "To
   anmelden("Command2", Command2);
   Text1.mehrzeilig = true;
   Text1.nur_lesen = true;
+  Text1.festbreit = true;
+  Text1.breite = 64;
+  Text1.zeilen = 30;
   Text1.setzen(Touchpanel_text());
   Command1.wenn_gedrueckt = [this] { oberflaeche().Zwischenablage(Text1.text()); };
   Command2.standard = true;
