@@ -3,7 +3,9 @@
 #include <QLabel>
 #include <QPainter>
 #include <QVBoxLayout>
+#include <algorithm>
 
+#include "editor/dialog_kombination.h"
 #include "zavlink/farben.h"
 #include "zavlink/kartenfeld.h"
 #include "zavlink/qt_text.h"
@@ -12,15 +14,31 @@ namespace zav::fenster {
 
 namespace {
 
+constexpr int breite_karte = 16;
+
 class Adressplanfeld final : public Kartenfeld {
  public:
-  using Kartenfeld::Kartenfeld;
+  Adressplanfeld(const Dialog_Kombination& form, Auswahl& zellen, QWidget* eltern)
+      : Kartenfeld(zellen, eltern), form_(form) {}
+
+  // "Adresse i12   Küche - Erdgeschoss   (besetzt)"
+  QString zelltext(int i) const override {
+    const auto& e = auswahl().eintrag(i);
+    return "Adresse i" + Q(e.text) + "   (" + Q(e.hinweis) + ")";
+  }
+  // The run that the device would take from this cell on, in words.
+  QString lauftext(int i) const {
+    if (form_.anzahl() < 2 || ist_gegenwaertige(i)) return zelltext(i);
+    const QString von = "i" + QString::number(i) + " - i" + QString::number(i + form_.anzahl() - 1);
+    return zelltext(i) +
+           (form_.Passt_ab(i) ? "      frei für den Apparat: " : "      reicht nicht für den Apparat: ") +
+           von;
+  }
 
  protected:
-  int spalten() const override { return 16; }
+  int spalten() const override { return breite_karte; }
   QSize zellmass() const override { return {76, 36}; }
   void zelle_malen(QPainter& p, const QRectF& r, int i) override {
-    // "12   Küche - Erdgeschoss"
     const QString text = Q(auswahl().eintrag(i).text);
     const QRectF innen = r.adjusted(5, 2, -4, -2);
     QFont schrift = font();
@@ -28,13 +46,34 @@ class Adressplanfeld final : public Kartenfeld {
     p.setFont(schrift);
     p.setPen(schriftfarbe(i));
     p.drawText(innen, Qt::AlignLeft | Qt::AlignTop, text.section(' ', 0, 0));
+    // The room; its storey is told below the map.
+    const QString raum = text.section(' ', 1).trimmed().section(" - ", 0, -2);
+    if (raum.isEmpty()) return;
     schrift.setBold(false);
     schrift.setPointSizeF(schrift.pointSizeF() * 0.8);
     p.setFont(schrift);
-    const QString raum = text.section(' ', 1).trimmed();
     p.drawText(innen, Qt::AlignLeft | Qt::AlignBottom,
                QFontMetricsF(schrift).elidedText(raum, Qt::ElideRight, innen.width()));
   }
+  // Around all cells that the device would take: from one row on to the next where it must.
+  void ringe_malen(QPainter& p) override {
+    const int von = ueber() >= 0 ? ueber() : zeiger();
+    const QColor farbe = form_.Passt_ab(von) || ist_gegenwaertige(von) ? palette().color(QPalette::Highlight)
+                                                                       : QColor(176, 32, 32);
+    const int bis = std::min(von + std::max(1, form_.anzahl()), zellenzahl());
+    for (int a = von; a < bis;) {
+      const int ende = std::min(bis, (a / breite_karte + 1) * breite_karte);
+      ring_malen(p, zelle(a).united(zelle(ende - 1)), farbe, 2.5);
+      a = ende;
+    }
+  }
+
+ private:
+  bool ist_gegenwaertige(int i) const {
+    return i == auswahl().position() && auswahl().eintrag(i).farbe == Farbe::aktuell;
+  }
+
+  const Dialog_Kombination& form_;
 };
 
 }  // namespace
@@ -45,14 +84,13 @@ QWidget* Adressplanfeld_bauen(const Anordnung& a, Auffrischer& auf, QWidget* elt
   auto* const spalte = new QVBoxLayout(w);
   spalte->setContentsMargins(0, 0, 0, 0);
   spalte->setSpacing(raster);
-  auto* const karte = new Adressplanfeld(zellen, w);
+  auto* const karte =
+      new Adressplanfeld(dynamic_cast<const Dialog_Kombination&>(*zellen.formular()), zellen, w);
   auto* const zeile = new QLabel(QStringLiteral(" "), w);
   spalte->addWidget(karte, 1);
   spalte->addWidget(zeile);
-  QObject::connect(karte, &Kartenfeld::gezeigt, zeile, [&zellen, zeile](int i) {
-    if (i < 0) return zeile->setText(QStringLiteral(" "));
-    const auto& e = zellen.eintrag(i);
-    zeile->setText("Adresse i" + Q(e.text) + "   (" + Q(e.hinweis) + ")");
+  QObject::connect(karte, &Kartenfeld::gezeigt, zeile, [karte, zeile](int i) {
+    zeile->setText(i < 0 ? QStringLiteral(" ") : karte->lauftext(i));
   });
   ergebnis.widgets[&zellen] = karte;
   auf.binden(zellen, [&zellen, karte] {

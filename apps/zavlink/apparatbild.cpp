@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cmath>
 #include <iterator>
+#include <string_view>
 #include <vector>
 
 #include "store/katalog.h"
@@ -68,15 +69,62 @@ QFont Schrift(double hoehe, bool fett = false) {
   return f;
 }
 
+// How a device of keys is made, by its description in the catalogue.
+struct Machart {
+  bool papier;  // a strip of paper under each key's cover carries the text
+  bool wippe;   // one key rocks both ways: its halves touch
+  QColor platte, taste;
+  double ecken;
+};
+Machart Machart_von(const Apparatart& art) {
+  const auto nennt = [&art](std::string_view wort) { return art.tag.find(wort) != std::string_view::npos; };
+  Machart m{.papier = nennt("mit Papier"),
+            .wippe = nennt("Zweifachbedienung"),
+            .platte = platte,
+            .taste = Qt::white,
+            .ecken = 5};
+  if (nennt("Alte Feller")) {
+    m.platte = QColor(240, 233, 214);
+    m.taste = QColor(250, 246, 234);
+    m.ecken = 2;
+  } else if (nennt("Elegance")) {
+    m.platte = QColor(222, 226, 231);
+    m.ecken = 14;
+  }
+  return m;
+}
+
+// The largest type in which the text fits, on one line or on two; what never fits is cut.
+void Text_malen(QPainter& p, const QRectF& r, const QString& text, double groesste) {
+  constexpr double kleinste = 8;
+  for (double hoehe = groesste; hoehe >= kleinste; hoehe -= 1) {
+    p.setFont(Schrift(hoehe));
+    const QRectF platz = QFontMetricsF(p.font()).boundingRect(r, Qt::AlignCenter | Qt::TextWordWrap, text);
+    if (platz.width() > r.width() || platz.height() > r.height()) continue;
+    p.drawText(r, Qt::AlignCenter | Qt::TextWordWrap, text);
+    return;
+  }
+  p.setFont(Schrift(kleinste));
+  p.drawText(r, Qt::AlignCenter, QFontMetricsF(p.font()).elidedText(text, Qt::ElideRight, r.width()));
+}
+
 // A key: its text (else its number), red with a dot when it has functions, a ring where its LED is.
-void Taste_malen(QPainter& p, const QRectF& r, const Apparatbild::Taste& t, bool mit_led, int nummer) {
+void Taste_malen(QPainter& p, const QRectF& r, const Apparatbild::Taste& t, bool mit_led, int nummer,
+                 const Machart& m) {
   p.setPen(QPen(tastenrand, 1));
-  p.setBrush(t.belegt ? Farbe_qt(Farbe::belegt) : QColor(Qt::white));
-  p.drawRoundedRect(r, 3, 3);
-  const double punkt = std::clamp(r.height() * 0.12, 2.0, 4.0);
-  // On a low key the marks stand beside the text, on a high one above it.
-  const bool niedrig = r.height() < 36;
-  const double hoehe_marken = niedrig ? r.center().y() : r.top() + punkt + 4;
+  p.setBrush(t.belegt ? Farbe_qt(Farbe::belegt) : m.taste);
+  p.drawRoundedRect(r, m.wippe ? 1 : 3, m.wippe ? 1 : 3);
+  const double punkt = std::clamp(r.height() * 0.1, 2.0, 4.0);
+  // The marks stand in the upper corners; on a very low key beside the text.
+  const bool niedrig = r.height() < 24;
+  const double hoehe_marken = niedrig ? r.center().y() : r.top() + punkt + 2.5;
+  if (m.papier) {
+    const QRectF streifen =
+        r.adjusted(3, std::max(3.0, r.height() * 0.28), -3, -std::max(2.0, r.height() * 0.12));
+    p.setPen(QPen(QColor(226, 216, 178), 0.8));
+    p.setBrush(QColor(255, 252, 236, t.belegt ? 150 : 255));
+    p.drawRect(streifen);
+  }
   if (mit_led) {
     p.setPen(QPen(led, 1.2));
     p.setBrush(Qt::NoBrush);
@@ -87,22 +135,13 @@ void Taste_malen(QPainter& p, const QRectF& r, const Apparatbild::Taste& t, bool
     p.setBrush(Farbe_schrift());
     p.drawEllipse(QPointF(r.left() + punkt + 3, hoehe_marken), punkt * 0.8, punkt * 0.8);
   }
-  const double hoehe = std::clamp(r.height() * 0.3, 8.0, 12.5);
-  if (r.width() < 24) return;
+  if (r.width() < 20) return;
+  const double groesste = std::clamp(r.height() * 0.3, 9.0, 14.0);
   p.setPen(t.text.isEmpty() ? led : Farbe_schrift());
-  p.setFont(Schrift(hoehe));
-  const double seite = niedrig && (mit_led || t.belegt) ? 2 * punkt + 5 : 3;
-  const QRectF innen = r.adjusted(seite, 2, -seite, -2);
-  const QFontMetricsF mass(p.font());
-  const QString text = t.text.isEmpty() ? QString::number(nummer) : t.text;
-  const bool zweizeilig = innen.height() > 2.2 * mass.height() && text.contains(' ');
-  if (zweizeilig &&
-      mass.boundingRect(innen, Qt::AlignCenter | Qt::TextWordWrap, text).height() <= innen.height() &&
-      mass.boundingRect(innen, Qt::AlignCenter | Qt::TextWordWrap, text).width() <= innen.width()) {
-    p.drawText(innen, Qt::AlignCenter | Qt::TextWordWrap, text);
-  } else {
-    p.drawText(innen, Qt::AlignCenter, mass.elidedText(text, Qt::ElideRight, innen.width()));
-  }
+  const double seite = niedrig && (mit_led || t.belegt) ? 2 * punkt + 5 : 2;
+  const double oben = niedrig ? 1 : 2 * punkt + 2;
+  Text_malen(p, r.adjusted(seite, t.text.isEmpty() ? 1 : oben, -seite, -1),
+             t.text.isEmpty() ? QString::number(nummer) : t.text, groesste);
 }
 
 void Tasten_malen(QPainter& p, const QRectF& r, const Apparatbild& bild, const Apparatart& art) {
@@ -110,15 +149,17 @@ void Tasten_malen(QPainter& p, const QRectF& r, const Apparatbild& bild, const A
   for (int n = 0; n < 8; ++n) {
     if (art.tasten.hat(n)) slots_da.push_back(n);
   }
+  const Machart machart = Machart_von(art);
   const int spalten = slots_da.size() > 3 ? 2 : 1;
   const int zeilen = (static_cast<int>(slots_da.size()) + spalten - 1) / spalten;
   const double b = r.width() / spalten;
   const double h = r.height() / std::max(1, zeilen);
+  const double fuge = machart.wippe ? 0 : 1;  // between keys one above the other
   for (int i = 0; i < static_cast<int>(slots_da.size()); ++i) {
     const int zeile = i / spalten;
     const int n = slots_da.at(static_cast<std::size_t>(i));
-    Taste_malen(p, QRectF(r.left() + i % spalten * b, r.top() + zeile * h, b, h).adjusted(1, 1, -1, -1),
-                bild.tasten.at(static_cast<std::size_t>(n)), art.leds.hat(n), i + 1);
+    Taste_malen(p, QRectF(r.left() + i % spalten * b, r.top() + zeile * h, b, h).adjusted(1, fuge, -1, -fuge),
+                bild.tasten.at(static_cast<std::size_t>(n)), art.leds.hat(n), i + 1, machart);
   }
 }
 
@@ -236,9 +277,10 @@ void Apparat_malen(QPainter& p, const QRectF& r, const Apparatbild& bild) {
     p.restore();
     return;
   }
+  const Machart machart = Machart_von(*art);
   p.setPen(QPen(plattenrand, 1));
-  p.setBrush(platte);
-  p.drawRoundedRect(r, 5, 5);
+  p.setBrush(machart.platte);
+  p.drawRoundedRect(r, machart.ecken, machart.ecken);
   const double fuss = bild.adresse.isEmpty() ? 0 : 13;
   const double rand = std::clamp(r.width() * 0.06, 3.0, 8.0);
   const QRectF innen = r.adjusted(rand, rand, -rand, -rand - fuss);
@@ -284,17 +326,19 @@ void Layout_malen(QPainter& p, const QRectF& r, int nummer, const QColor& linie,
     Symbol_malen(p, r, "master", linie, akzent);
     return;
   }
-  const double schritt = std::min(r.width(), r.height()) / 4;
-  const double b = schritt * layout->spalten;
-  const double h = schritt * layout->zeilen;
-  const QPointF ecke(r.center().x() - b / 2, r.center().y() - h / 2);
+  // On whole pixels: the lines of small pictures stay sharp.
+  const double schritt = std::floor(std::min(r.width(), r.height()) / 4);
+  const QPointF ecke(std::floor(r.center().x() - schritt * layout->spalten / 2),
+                     std::floor(r.center().y() - schritt * layout->zeilen / 2));
+  QColor flaeche = akzent;
+  flaeche.setAlpha(40);
   p.save();
-  p.setRenderHint(QPainter::Antialiasing);
-  p.setPen(QPen(linie, 1.2));
+  p.setPen(QPen(linie, 1));
+  p.setBrush(flaeche);
   for (int z = 0; z < layout->zeilen; ++z) {
     for (int s = 0; s < layout->spalten; ++s) {
-      p.drawRect(QRectF(ecke.x() + s * schritt, ecke.y() + z * schritt, schritt, schritt)
-                     .adjusted(0.6, 0.6, -0.6, -0.6));
+      p.drawRect(
+          QRectF(ecke.x() + s * schritt + 0.5, ecke.y() + z * schritt + 0.5, schritt - 2, schritt - 2));
     }
   }
   p.restore();

@@ -12,6 +12,7 @@
 #include "zavlink/apparatbild.h"
 #include "zavlink/farben.h"
 #include "zavlink/qt_text.h"
+#include "zavlink/zellenfeld.h"
 
 namespace zav::fenster {
 
@@ -21,22 +22,28 @@ constexpr double platz_kleinst = 64, platz_groesst = 176;
 constexpr double abstand = 6;
 constexpr double rahmenrand = 12;
 
-class Apparaterahmen final : public QWidget {
+class Apparaterahmen final : public Zellenfeld {
  public:
   Apparaterahmen(Einmask8& form, Auffrischer& auf, Gebautes& g, QWidget* eltern)
-      : QWidget(eltern), form_(form), auf_(auf), gebautes_(g) {
-    setFocusPolicy(Qt::StrongFocus);
-    setMouseTracking(true);
-    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+      : Zellenfeld(eltern), form_(form), auf_(auf), gebautes_(g) {
     setAccessibleName("Apparate der Kombination");
   }
 
   QSize sizeHint() const override { return {46 * raster, 72 * raster}; }
   QSize minimumSizeHint() const override { return {36 * raster, 36 * raster}; }
 
+  int zellenzahl() const override { return form_.kombination() < 0 ? 0 : plaetze; }
+  QRectF zelle(int i) const override { return da(i) ? ort(i) : QRectF(); }
+  QString zelltext(int i) const override { return "Platz " + QString::number(i + 1) + ": " + titel(i); }
+  bool zelle_gewaehlt(int i) const override { return i == form_.platz(); }
+  int zeiger() const override { return form_.platz(); }
+  void zelle_nehmen(int i) override {
+    if (i < 0 || !da(i)) return;
+    Handeln([this, i] { form_.Image3.at(static_cast<std::size_t>(i)).druecken(); });
+  }
+
   void beschreiben() {
-    const int p = form_.platz();
-    if (p >= 0) setAccessibleDescription("Platz " + QString::number(p + 1) + ": " + titel(p));
+    zeiger_melden();
     update();
   }
 
@@ -70,15 +77,14 @@ class Apparaterahmen final : public QWidget {
   }
 
   void mousePressEvent(QMouseEvent* e) override {
-    if (e->button() == Qt::LeftButton) waehlen(platz_bei(e->position()));
+    if (e->button() == Qt::LeftButton) zelle_nehmen(zelle_bei(e->position()));
   }
   void mouseDoubleClickEvent(QMouseEvent* e) override {
-    const int i = platz_bei(e->position());
-    if (i >= 0 && Apparat_art(typ(i)) == nullptr) Handeln([this] { druecken(form_.mnuChoose); });
+    if (zelle_bei(e->position()) >= 0) weiter();
   }
   void contextMenuEvent(QContextMenuEvent* e) override {
     const bool maus = e->reason() == QContextMenuEvent::Mouse;
-    const int i = maus ? platz_bei(e->pos()) : form_.platz();
+    const int i = maus ? zelle_bei(e->pos()) : form_.platz();
     if (i < 0) return;
     setFocus();
     Kontextmenue_zeigen(form_.Image3.at(static_cast<std::size_t>(i)), gebautes_, auf_,
@@ -96,19 +102,18 @@ class Apparaterahmen final : public QWidget {
       case Qt::Key_Return:
       case Qt::Key_Enter:
       case Qt::Key_Space:
-        if (form_.platz() >= 0 && Apparat_art(typ(form_.platz())) == nullptr)
-          Handeln([this] { druecken(form_.mnuChoose); });
+        if (form_.platz() >= 0) weiter();
         return;
       default: QWidget::keyPressEvent(e); return;
     }
     const int platz = std::max(0, form_.platz());
     const int neue_spalte = platz % 4 + spalte;
     const int neu = 4 * (platz / 4 + zeile) + neue_spalte;
-    if (neue_spalte >= 0 && neue_spalte < 4 && neu >= 0 && neu < plaetze) waehlen(neu);
+    if (neue_spalte >= 0 && neue_spalte < 4 && neu >= 0 && neu < plaetze) zelle_nehmen(neu);
   }
   void focusInEvent(QFocusEvent* e) override {
     QWidget::focusInEvent(e);
-    update();
+    beschreiben();
   }
   void focusOutEvent(QFocusEvent* e) override {
     QWidget::focusOutEvent(e);
@@ -117,7 +122,7 @@ class Apparaterahmen final : public QWidget {
   bool event(QEvent* e) override {
     if (e->type() != QEvent::ToolTip) return QWidget::event(e);
     auto* const hilfe = static_cast<QHelpEvent*>(e);
-    const int i = platz_bei(hilfe->pos());
+    const int i = zelle_bei(hilfe->pos());
     QToolTip::showText(hilfe->globalPos(), i < 0 ? QString() : titel(i), this);
     return true;
   }
@@ -131,6 +136,17 @@ class Apparaterahmen final : public QWidget {
     if (e->matches(QKeySequence::Delete)) return &form_.Command3;
     return nullptr;
   }
+  // The next step at the chosen place: a device, its address, its first text.
+  void weiter() {
+    const int d = apparat(form_.platz());
+    if (Apparat_art(typ(form_.platz())) == nullptr) return Handeln([this] { druecken(form_.mnuChoose); });
+    const str& anzahl = projekt.App_text2[d];
+    if (projekt.App_text[d].empty() && !anzahl.empty() && anzahl != "0")
+      return Handeln([this] { druecken(form_.Command2); });
+    const auto text =
+        std::ranges::find_if(form_.TTxt, [](const Textfeld& t) { return *t.sichtbar && *t.frei; });
+    if (text != form_.TTxt.end()) gebautes_.widgets.at(&*text)->setFocus(Qt::TabFocusReason);
+  }
   static void druecken(Taste& t) {
     if (t.frei && t.sichtbar) t.druecken();
   }
@@ -140,7 +156,8 @@ class Apparaterahmen final : public QWidget {
   int typ(int i) const { return projekt.App_typ[apparat(i)]; }
   QString titel(int i) const {
     const Taste& t = form_.Image3.at(static_cast<std::size_t>(i));
-    return t.titel->empty() ? QStringLiteral("Leerer Platz: Doppelklick wählt einen Apparat") : Q(*t.titel);
+    return t.titel->empty() ? QStringLiteral("Leerer Platz: Doppelklick oder Enter wählt einen Apparat")
+                            : Q(*t.titel);
   }
 
   QRectF ort(int i) const {
@@ -155,18 +172,6 @@ class Apparaterahmen final : public QWidget {
     const int zeile = i / 4;
     return {links + i % 4 * (mass + abstand), rahmenrand + 2 + zeile * (mass + abstand), mass, mass};
   }
-  int platz_bei(QPointF p) const {
-    if (form_.kombination() < 0) return -1;
-    for (int i = 0; i < plaetze; ++i) {
-      if (da(i) && ort(i).contains(p)) return i;
-    }
-    return -1;
-  }
-  void waehlen(int i) {
-    if (i < 0 || !da(i)) return;
-    Handeln([this, i] { form_.Image3.at(static_cast<std::size_t>(i)).druecken(); });
-  }
-
   Apparatbild bild(int i) const {
     Apparatbild b{.typ = typ(i)};
     for (int n = 0; n < 8; ++n) {
@@ -177,6 +182,7 @@ class Apparaterahmen final : public QWidget {
     }
     if (const auto lauf = Apparat_adressen(projekt, apparat(i)); lauf && lauf->anzahl > 0) {
       b.adresse = "i" + QString::number(lauf->von);
+      if (lauf->anzahl > 1) b.adresse += " - i" + QString::number(lauf->von + lauf->anzahl - 1);
     }
     return b;
   }

@@ -1,7 +1,6 @@
 #include "zavlink/apparatseitenfeld.h"
 
 #include <QGridLayout>
-#include <QHBoxLayout>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QTimer>
@@ -9,10 +8,13 @@
 
 #include "editor/einmask8.h"
 #include "zavlink/farben.h"
+#include "zavlink/qt_text.h"
 
 namespace zav::fenster {
 
 namespace {
+
+constexpr int spalte_ereignis = 4;  // behind key name, text, LED name and LED list
 
 // Puts the lines of the page into a grid whenever the device has changed.
 class Apparatseitenfeld final : public QScrollArea {
@@ -53,17 +55,16 @@ class Apparatseitenfeld final : public QScrollArea {
     int reihe = 0;
     QWidget* vorher = nullptr;
     for (const auto& z : zeilen) {
-      if (z.ueberschrift != nullptr) gitter_->addWidget(von(z.ueberschrift), reihe++, 0, 1, 5);
+      if (z.ueberschrift != nullptr) gitter_->addWidget(von(z.ueberschrift), reihe++, 0, 1, -1);
       if (z.name != nullptr) gitter_->addWidget(von(z.name), reihe, 0);
       if (z.text != nullptr) gitter_->addWidget(von(z.text), reihe, 1);
       if (z.led != nullptr) {
         gitter_->addWidget(von(z.led_name), reihe, 2);
         gitter_->addWidget(von(z.led), reihe, 3);
       }
-      auto* const ereignisse = new QHBoxLayout;
-      ereignisse->setSpacing(raster / 2);
-      for (Taste* t : z.ereignisse) ereignisse->addWidget(von(t));
-      gitter_->addLayout(ereignisse, reihe, 4);
+      int spalte = spalte_ereignis;
+      for (const Taste* t : z.ereignisse) gitter_->addWidget(von(t), reihe, spalte++);
+      beschreiben(z);
       for (const Steuerelement* e : std::vector<const Steuerelement*>{z.text, z.led}) tabulator(vorher, e);
       for (const Taste* t : z.ereignisse) tabulator(vorher, t);
       ++reihe;
@@ -86,14 +87,15 @@ class Apparatseitenfeld final : public QScrollArea {
     if (vorher != nullptr) setTabOrder(vorher, von(e));
     vorher = von(e);
   }
+  // Which key a list or a button belongs to, for those who hear the page.
+  void beschreiben(const Einmask8::Tastenzeile& z) {
+    const QString taste = z.name == nullptr ? QString() : Q(*z.name->titel);
+    if (z.led != nullptr) von(z.led)->setAccessibleDescription(taste);
+    for (const Taste* t : z.ereignisse) von(t)->setAccessibleDescription(taste);
+  }
   void leeren() {
     gitter_->setRowStretch(letzte_reihe_, 0);
-    while (QLayoutItem* const teil = gitter_->takeAt(0)) {
-      if (teil->layout() != nullptr) {
-        while (QLayoutItem* const innen = teil->layout()->takeAt(0)) delete innen;
-      }
-      delete teil;
-    }
+    while (QLayoutItem* const teil = gitter_->takeAt(0)) delete teil;
   }
 
   Einmask8& form_;

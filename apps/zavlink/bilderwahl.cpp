@@ -30,9 +30,13 @@ class Bilderwahl final : public Kartenfeld {
   Bilderwahl(Auswahl& auswahl, std::vector<int> typen, QWidget* eltern)
       : Kartenfeld(auswahl, eltern), typen_(std::move(typen)) {}
 
+  QString zelltext(int i) const override { return Q(auswahl().eintrag(i).hinweis); }
+
  protected:
   int spalten() const override { return auswahl().anzahl() > 40 ? 11 : auswahl().anzahl() > 16 ? 8 : 5; }
-  QSize zellmass() const override { return {96, 96}; }
+  QSize zellmass() const override { return {96, 92}; }
+  // The plates stand out by themselves.
+  void grund_malen(QPainter&, const QRectF&, int) override {}
   void zelle_malen(QPainter& p, const QRectF& r, int i) override {
     const double mass = std::min(r.width(), r.height()) - 14;
     Apparat_malen(p, QRectF(r.center().x() - mass / 2, r.center().y() - mass / 2, mass, mass),
@@ -55,6 +59,9 @@ QWidget* Bilderwahl_bauen(const Anordnung& a, Auffrischer& auf, QWidget* eltern,
   spalte->setSpacing(raster);
   auto* const karte = new Bilderwahl(bilder, std::move(typen), w);
   auto* const zeile = new QLabel(QStringLiteral(" "), w);
+  QFont schrift = zeile->font();
+  schrift.setBold(true);
+  zeile->setFont(schrift);
   spalte->addWidget(karte, 1);
   spalte->addWidget(zeile);
   QObject::connect(karte, &Kartenfeld::gezeigt, zeile, [&bilder, zeile](int i) {

@@ -16,17 +16,23 @@ namespace {
 constexpr double rundung = 4;
 }  // namespace
 
-Kartenfeld::Kartenfeld(Auswahl& auswahl, QWidget* eltern) : QWidget(eltern), auswahl_(auswahl) {
-  setFocusPolicy(Qt::StrongFocus);
-  setMouseTracking(true);
-  setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
-}
+Kartenfeld::Kartenfeld(Auswahl& auswahl, QWidget* eltern) : Zellenfeld(eltern), auswahl_(auswahl) {}
 
 void Kartenfeld::auffrischen() {
-  zeiger_ = std::clamp(auswahl_.position() >= 0 ? auswahl_.position() : zeiger_, 0,
-                       std::max(0, auswahl_.anzahl() - 1));
+  // A cell that the form has refused keeps the keyboard.
+  if (auswahl_.position() != gezeigte_) {
+    gezeigte_ = auswahl_.position();
+    if (gezeigte_ >= 0) zeiger_ = gezeigte_;
+  }
+  zeiger_ = std::clamp(zeiger_, 0, std::max(0, auswahl_.anzahl() - 1));
+  zeiger_melden();
   updateGeometry();
   update();
+}
+
+QString Kartenfeld::zelltext(int i) const {
+  const auto& e = auswahl_.eintrag(i);
+  return Q(e.hinweis.empty() ? e.text : e.text + ", " + e.hinweis);
 }
 
 int Kartenfeld::spalten() const { return auswahl_.anzahl() >= 128 ? 16 : auswahl_.anzahl() > 24 ? 8 : 4; }
@@ -51,18 +57,10 @@ QRectF Kartenfeld::zelle(int i) const {
   const double h = height() / static_cast<double>(zeilen());
   const double links = i % spalten() * b;
   const double oben = i / spalten() * h;  // NOLINT(bugprone-integer-division): the row
-  return QRectF(links, oben, b, h).adjusted(1, 1, -1, -1);
+  return {links, oben, b, h};
 }
 
-int Kartenfeld::zelle_bei(QPointF p) const {
-  if (!rect().contains(p.toPoint())) return -1;
-  const int spalte = std::min(spalten() - 1, static_cast<int>(p.x() * spalten() / width()));
-  const int zeile = std::min(zeilen() - 1, static_cast<int>(p.y() * zeilen() / height()));
-  const int i = zeile * spalten() + spalte;
-  return i < auswahl_.anzahl() ? i : -1;
-}
-
-void Kartenfeld::nehmen(int i) {
+void Kartenfeld::zelle_nehmen(int i) {
   if (i < 0) return;
   zeigen(i);
   if (auswahl_.eintrag(i).frei) Handeln(auswahl_, [&] { auswahl_.waehlen(i); });
@@ -70,7 +68,7 @@ void Kartenfeld::nehmen(int i) {
 
 void Kartenfeld::zeigen(int i) {
   zeiger_ = i;
-  setAccessibleDescription(Q(auswahl_.eintrag(i).text + " " + auswahl_.eintrag(i).hinweis));
+  zeiger_melden();
   Q_EMIT gezeigt(i);
   update();
 }
@@ -85,19 +83,31 @@ void Kartenfeld::paintEvent(QPaintEvent*) {
   QPainter p(this);
   p.setRenderHint(QPainter::Antialiasing);
   for (int i = 0; i < auswahl_.anzahl(); ++i) {
-    const auto& e = auswahl_.eintrag(i);
-    const QRectF r = zelle(i);
-    p.setPen(Qt::NoPen);
-    p.setBrush(e.farbe != Farbe::normal ? Farbe_qt(e.farbe) : palette().color(QPalette::Button));
-    p.drawRoundedRect(r, rundung, rundung);
+    const QRectF r = zelle(i).adjusted(1, 1, -1, -1);
+    grund_malen(p, r, i);
     zelle_malen(p, r, i);
-    const bool tastatur = hasFocus() && i == zeiger_;
-    if (i == auswahl_.position() || tastatur || i == ueber_) {
-      p.setBrush(Qt::NoBrush);
-      p.setPen(QPen(palette().color(QPalette::Highlight), tastatur || i == auswahl_.position() ? 2.5 : 1));
-      p.drawRoundedRect(r.adjusted(1, 1, -1, -1), rundung, rundung);
-    }
   }
+  if (auswahl_.anzahl() > 0) ringe_malen(p);
+}
+
+void Kartenfeld::grund_malen(QPainter& p, const QRectF& r, int i) {
+  const auto& e = auswahl_.eintrag(i);
+  p.setPen(Qt::NoPen);
+  p.setBrush(e.farbe != Farbe::normal ? Farbe_qt(e.farbe) : palette().color(QPalette::Button));
+  p.drawRoundedRect(r, rundung, rundung);
+}
+
+void Kartenfeld::ringe_malen(QPainter& p) {
+  const QColor farbe = palette().color(QPalette::Highlight);
+  if (ueber_ >= 0) ring_malen(p, zelle(ueber_), farbe, 1);
+  if (auswahl_.position() >= 0) ring_malen(p, zelle(auswahl_.position()), farbe, 2.5);
+  if (hasFocus()) ring_malen(p, zelle(zeiger_), farbe, 2.5);
+}
+
+void Kartenfeld::ring_malen(QPainter& p, const QRectF& r, const QColor& farbe, double staerke) const {
+  p.setBrush(Qt::NoBrush);
+  p.setPen(QPen(farbe, staerke));
+  p.drawRoundedRect(r.adjusted(2, 2, -2, -2), rundung, rundung);
 }
 
 void Kartenfeld::zelle_malen(QPainter& p, const QRectF& r, int i) {
@@ -106,7 +116,7 @@ void Kartenfeld::zelle_malen(QPainter& p, const QRectF& r, int i) {
 }
 
 void Kartenfeld::mousePressEvent(QMouseEvent* e) {
-  if (e->button() == Qt::LeftButton) nehmen(zelle_bei(e->position()));
+  if (e->button() == Qt::LeftButton) zelle_nehmen(zelle_bei(e->position()));
 }
 
 void Kartenfeld::mouseMoveEvent(QMouseEvent* e) {
@@ -136,7 +146,7 @@ void Kartenfeld::keyPressEvent(QKeyEvent* e) {
     case Qt::Key_End: ziel = auswahl_.anzahl() - 1; break;
     case Qt::Key_Space:
     case Qt::Key_Return:
-    case Qt::Key_Enter: nehmen(zeiger_); return;
+    case Qt::Key_Enter: zelle_nehmen(zeiger_); return;
     default: QWidget::keyPressEvent(e); return;
   }
   if (ziel >= 0 && ziel < auswahl_.anzahl()) zeigen(ziel);
@@ -157,7 +167,7 @@ bool Kartenfeld::event(QEvent* e) {
     auto* const hilfe = static_cast<QHelpEvent*>(e);
     const int i = zelle_bei(hilfe->pos());
     if (i >= 0) {
-      QToolTip::showText(hilfe->globalPos(), Q(auswahl_.eintrag(i).hinweis), this, zelle(i).toRect());
+      QToolTip::showText(hilfe->globalPos(), zelltext(i), this, zelle(i).toRect());
     } else {
       QToolTip::hideText();
     }

@@ -2,19 +2,25 @@
 // their texts.
 #pragma once
 
-#include <QWidget>
-
 #include "form/steuerelement.h"
+#include "zavlink/zellenfeld.h"
 
 namespace zav::fenster {
 
-class Kartenfeld : public QWidget {
+class Kartenfeld : public Zellenfeld {
   Q_OBJECT
  public:
   Kartenfeld(Auswahl& auswahl, QWidget* eltern);
   void auffrischen();
   QSize sizeHint() const override;
   QSize minimumSizeHint() const override;
+
+  int zellenzahl() const override { return auswahl_.anzahl(); }
+  QRectF zelle(int i) const override;
+  QString zelltext(int i) const override;
+  bool zelle_gewaehlt(int i) const override { return i == auswahl_.position(); }
+  int zeiger() const override { return zeiger_; }
+  void zelle_nehmen(int i) override;
 
  Q_SIGNALS:
   // The cell under the pointer or the keyboard, -1 = none.
@@ -23,10 +29,15 @@ class Kartenfeld : public QWidget {
  protected:
   virtual int spalten() const;
   virtual QSize zellmass() const;
-  // One cell within its rectangle; frame and colour of meaning are drawn already.
+  // One cell within its rectangle, and what lies under it: the colour of meaning.
   virtual void zelle_malen(QPainter& p, const QRectF& r, int i);
+  virtual void grund_malen(QPainter& p, const QRectF& r, int i);
+  // Rings around the cells of the choice, of the pointer and of the keyboard.
+  virtual void ringe_malen(QPainter& p);
+  void ring_malen(QPainter& p, const QRectF& r, const QColor& farbe, double staerke) const;
 
   const Auswahl& auswahl() const { return auswahl_; }
+  int ueber() const { return ueber_; }  // the cell under the pointer, -1 = none
   // Text colour of a cell, readable on its background.
   QColor schriftfarbe(int i) const;
 
@@ -41,14 +52,12 @@ class Kartenfeld : public QWidget {
 
  private:
   int zeilen() const;
-  QRectF zelle(int i) const;
-  int zelle_bei(QPointF p) const;  // -1: none
-  void nehmen(int i);
   void zeigen(int i);
 
   Auswahl& auswahl_;
-  int zeiger_ = 0;  // cell of the keyboard
-  int ueber_ = -1;  // cell under the pointer
+  int zeiger_ = 0;
+  int gezeigte_ = -1;  // position that the widget has been brought to
+  int ueber_ = -1;
 };
 
 }  // namespace zav::fenster

@@ -114,7 +114,9 @@ QIcon Symbolbild(const std::string& name) {
   const QColor akzent = palette.color(QPalette::Highlight);
   const QColor blass = palette.color(QPalette::Disabled, QPalette::WindowText);
   QIcon symbol;
-  for (const int groesse : {18, 24, 36, 48}) {
+  // Frames of layouts are drawn on whole pixels, at the sizes in which they are shown.
+  const auto groessen = name.starts_with("layout-") ? std::array{20, 40, 60, 80} : std::array{18, 24, 36, 48};
+  for (const int groesse : groessen) {
     symbol.addPixmap(
         Gemalt(groesse, [&](QPainter& p, const QRectF& r) { Bild_malen(p, r, name, linie, akzent); }));
     symbol.addPixmap(

@@ -1,0 +1,29 @@
+// A painted widget of cells to move over and to take: what screen readers are told of them, cell by cell.
+#pragma once
+
+#include <QWidget>
+
+namespace zav::fenster {
+
+class Zellenfeld : public QWidget {
+  Q_OBJECT
+ public:
+  explicit Zellenfeld(QWidget* eltern);
+
+  // Cells are counted from 0; one that is not there has an empty place.
+  virtual int zellenzahl() const = 0;
+  virtual QRectF zelle(int i) const = 0;
+  virtual QString zelltext(int i) const = 0;
+  virtual bool zelle_gewaehlt(int i) const = 0;
+  // The cell of the keyboard, -1 = none.
+  virtual int zeiger() const = 0;
+  // What a click on the cell does.
+  virtual void zelle_nehmen(int i) = 0;
+
+ protected:
+  int zelle_bei(QPointF p) const;  // -1: none
+  // Says where the keyboard has come to: after every step, and when the focus comes.
+  void zeiger_melden();
+};
+
+}  // namespace zav::fenster
