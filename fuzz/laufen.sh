@@ -3,6 +3,8 @@
 # have found. Ends with an error when one finds something; the input then lies in build/fuzz/funde/.
 set -euo pipefail
 cd "$(dirname "$0")/.."
+. scripts/pakete.sh
+pakete_sicherstellen bauen fuzzen
 sekunden=${1:-60}
 cache=()
 if command -v ccache >/dev/null; then

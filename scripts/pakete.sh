@@ -9,6 +9,7 @@ paketgruppe() {
     pruefen) echo "libgtest-dev libbenchmark-dev ser2net" ;;
     packen) echo "dpkg-dev file gzip pandoc" ;;
     paketpruefung) echo "lintian desktop-file-utils appstream shared-mime-info bash-completion groff-base" ;;
+    fuzzen) echo "clang libclang-rt-dev" ;;
     statisch) echo "clang-tidy cppcheck gcovr valgrind" ;;
     *) echo "pakete.sh: unbekannte Gruppe $1" >&2; return 1 ;;
   esac

@@ -283,6 +283,8 @@ TEST_F(App, CamerasAreWrittenWithTheirKeys) {
             "</zavappdescriptor>\r\n");
   projekt.Kamera_stream_von[2] = "";
   EXPECT_NE(App_xml_bauen(projekt).find("streamportpool=\"0-5\""), std::string::npos);
+  projekt.Kamera_stream_von[2] = "2147483647";  // the largest that a file can hold
+  EXPECT_NE(App_xml_bauen(projekt).find("streamportpool=\"2147483647-2147483652\""), std::string::npos);
 }
 
 TEST_F(App, TextsPassAsBytes) {

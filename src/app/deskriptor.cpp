@@ -1,6 +1,7 @@
 #include "app/deskriptor.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <optional>
 #include <span>
 #include <vector>
@@ -249,7 +250,7 @@ class Verfasser {
 
   void kamera(int i) {
     if (p_.Kamera_aktiv[i] != "1") return;
-    const int strom = Zahl_lesen(p_.Kamera_stream_von[i]).value_or(0);
+    const std::int64_t strom = Zahl_lesen(p_.Kamera_stream_von[i]).value_or(0);  // any number, in a file
     dok_.zeile(1, "<node type=\"cameraview\" usecase=" + Gefasst(p_.Kamera_usecase[i]) + " cid=\"" +
                       std::to_string(i) + "\">");
     dok_.feld(2, "title", p_.Kamera_titel[i], " ");
@@ -283,9 +284,10 @@ App_umfang App_zaehlen(const Projekt& p) { return Verfasser(p).zaehlen(); }
 bool App_xml_schreiben(const std::string& pfad, std::string_view App_xml) {
   const Dateiergebnis ergebnis = Datei_schreiben(pfad, App_xml);
   if (ergebnis) return true;
-  Dateifehler_melden(ergebnis.fehler,
-                     ". Die Datei mit diesem Namen ist möglicherweise schreibgeschützt. Speichern Sie sie "
-                     "mit einem anderen Namen oder in einen anderen Ordner.");
+  Dateifehler_melden(
+      ergebnis.fehler,
+      ". Die Datei mit diesem Namen ist möglicherweise schreibgeschützt. Speichern Sie sie mit einem "
+      "anderen Namen oder in einen anderen Ordner.");
   return false;
 }
 
@@ -306,7 +308,8 @@ bool App_daten_moeglich() {
   if (projekt.Datei_version != "800" && projekt.Datei_version != "900") return true;
   Melden(std::string("Wenn Sie die neuen Funktionen von ") + programm_version +
          " nutzen möchten, wählen Sie 'Speichern unter' und den Dateityp 910. Achtung: Das Betriebssystem "
-         "des ZAVmasters muss auf die Version 9 aufgerüstet werden.");
+         "des ZAVmasters muss "
+         "auf die Version 9 aufgerüstet werden.");
   return false;
 }
 
