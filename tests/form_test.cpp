@@ -51,6 +51,17 @@ TEST(Formular, ChangesRunHandlersUnlessBusyOrUnchanged) {
   EXPECT_EQ(d.pieptoene(), 1);
 }
 
+TEST(Formular, LogKeepsItsNewerHalfInWholeLines) {
+  Textfeld protokoll;
+  std::size_t zeilen = 0;
+  for (; zeilen < Textfeld::laengstes_protokoll / 8 + 1; ++zeilen) protokoll.anhaengen("0123456\n");
+  EXPECT_EQ(protokoll.text().size() % 8, 0U);
+  EXPECT_TRUE(protokoll.text().starts_with("0123456\n"));
+  EXPECT_LE(protokoll.text().size(), Textfeld::laengstes_protokoll / 2);
+  protokoll.anhaengen(std::string(Textfeld::laengstes_protokoll, 'x'));
+  EXPECT_EQ(protokoll.text(), std::string(Textfeld::laengstes_protokoll / 2, 'x'));
+}
+
 TEST(Formular, ActsOnHiddenOrDisabledControlsAreProgrammingErrors) {
   Muster f;
   f.Combo1[0].waehlen("b");

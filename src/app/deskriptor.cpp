@@ -284,10 +284,9 @@ App_umfang App_zaehlen(const Projekt& p) { return Verfasser(p).zaehlen(); }
 bool App_xml_schreiben(const std::string& pfad, std::string_view App_xml) {
   const Dateiergebnis ergebnis = Datei_schreiben(pfad, App_xml);
   if (ergebnis) return true;
-  Dateifehler_melden(
-      ergebnis.fehler,
-      ". Die Datei mit diesem Namen ist möglicherweise schreibgeschützt. Speichern Sie sie mit einem "
-      "anderen Namen oder in einen anderen Ordner.");
+  Dateifehler_melden(ergebnis.fehler,
+                     ". Die Datei mit diesem Namen ist möglicherweise schreibgeschützt. Speichern Sie sie "
+                     "mit einem anderen Namen oder in einen anderen Ordner.");
   return false;
 }
 
@@ -308,8 +307,7 @@ bool App_daten_moeglich() {
   if (projekt.Datei_version != "800" && projekt.Datei_version != "900") return true;
   Melden(std::string("Wenn Sie die neuen Funktionen von ") + programm_version +
          " nutzen möchten, wählen Sie 'Speichern unter' und den Dateityp 910. Achtung: Das Betriebssystem "
-         "des ZAVmasters muss "
-         "auf die Version 9 aufgerüstet werden.");
+         "des ZAVmasters muss auf die Version 9 aufgerüstet werden.");
   return false;
 }
 

@@ -143,6 +143,11 @@ void Textfeld::ausfuellen(std::string text) {
 
 void Textfeld::anhaengen(std::string_view text) {
   text_ += text;
+  if (text_.size() > laengstes_protokoll) {
+    const std::size_t mitte = text_.size() - laengstes_protokoll / 2;
+    const std::size_t zeilenende = text_.find('\n', mitte);
+    text_.erase(0, zeilenende == std::string::npos ? mitte : zeilenende + 1);
+  }
   geaendert();
 }
 

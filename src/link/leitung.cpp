@@ -247,10 +247,8 @@ void Empfang_leeren() {
   constexpr int stille_ms = 50;
   const auto ende = Uhr::now() + std::chrono::seconds(1);
   std::array<char, groesste_antwort> puffer{};
-  while (Uhr::now() < ende && Warten(1, stille_ms) > 0) {
-    while (Nehmen(puffer.data(), static_cast<int>(puffer.size())) > 0) {
-    }
-  }
+  while (Uhr::now() < ende && Warten(1, stille_ms) > 0)
+    Nehmen(puffer.data(), static_cast<int>(puffer.size()));
 }
 
 void Com_suche() {

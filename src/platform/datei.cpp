@@ -216,7 +216,7 @@ std::string Systemfehler_text(int fehler) {
       {ENFILE, "Zu viele Dateien sind offen"},
       {EMFILE, "Zu viele Dateien sind offen"},
       {ETXTBSY, "Die Datei wird gerade ausgeführt"},
-      {EFBIG, "Die Datei ist zu groß"},
+      {EFBIG, "Die Datei ist zu gross"},
       {ENOSPC, "Kein Speicherplatz mehr frei"},
       {EROFS, "Der Datenträger ist schreibgeschützt"},
       {EPIPE, "Die Gegenseite hat die Verbindung geschlossen"},

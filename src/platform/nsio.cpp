@@ -8,6 +8,7 @@
 #include <map>
 #include <memory>
 #include <optional>
+#include <set>
 #include <string_view>
 
 #include "basis/melder.h"
@@ -45,6 +46,10 @@ constexpr double antwortzeit_s =
     3.0;  // for the confirmation of a setting, and for a pause that the server asks for
 constexpr milliseconds runde{50};              // between two turns of the front end
 constexpr std::size_t laengste_auskunft = 64;  // bytes of a subnegotiation that are kept
+// A server in front of a line of 115200 baud never comes near these: the bytes of the line that wait to be
+// taken, which are five seconds of it, and the blocks that are read at a time.
+constexpr std::size_t meiste_daten = std::size_t{1} << 16;
+constexpr int meiste_bloecke = 64;
 
 std::string Bytes(std::initializer_list<int> werte) {
   std::string s;
@@ -82,19 +87,23 @@ class Serverport {
   }
 
   int Nehmen(char* puffer, int n) {
-    Nachlesen();
-    const std::size_t m = std::min(static_cast<std::size_t>(std::max(n, 0)), daten_.size());
+    const auto gewuenscht = static_cast<std::size_t>(std::max(n, 0));
+    if (daten_.size() < gewuenscht) Nachlesen();
+    const std::size_t m = std::min(gewuenscht, daten_.size());
     std::copy_n(daten_.begin(), m, puffer);
     daten_.erase(0, m);
     return static_cast<int>(m);
   }
+  void Leeren() {
+    Nachlesen();
+    daten_.clear();
+  }
 
   int Warten(int ms) {
     const auto ende = Uhr::now() + milliseconds(ms);
-    int da = 0;
     // What wakes the wait may be Telnet's own.
     for (;;) {
-      da = Nachlesen();
+      int da = daten_.empty() ? Nachlesen() : 0;
       if (!daten_.empty()) return static_cast<int>(daten_.size());
       const auto rest = std::chrono::ceil<milliseconds>(ende - Uhr::now()).count();
       if (da < 0 || rest <= 0) return std::min(da, 0);
@@ -136,15 +145,21 @@ class Serverport {
     return cscPutData(socket_, text.data(), static_cast<int>(text.size()));
   }
 
-  // Takes in what has come; negative once the server has closed.
+  // Takes in what has come, of a flood a part; negative once the server has closed or takes no answer any
+  // more.
   int Nachlesen() {
     const int da = cscReadSize(socket_);
     std::array<char, 1024> block{};
-    for (;;) {
+    for (int bloecke = 0; bloecke < meiste_bloecke && fehler_ == 0; ++bloecke) {
       const int n = cscGetData(socket_, block.data(), static_cast<int>(block.size()));
-      if (n <= 0) return da;
+      if (n <= 0) break;
       for (int i = 0; i < n; ++i) Byte(static_cast<unsigned char>(block[static_cast<std::size_t>(i)]));
     }
+    return fehler_ != 0 ? fehler_ : da;
+  }
+
+  void Datenbyte(unsigned char b) {
+    if (daten_.size() < meiste_daten) daten_ += static_cast<char>(b);
   }
 
   template <class Fertig>
@@ -166,12 +181,12 @@ class Serverport {
         if (b == IAC) {
           lage_ = Lage::iac;
         } else if (b != 0 || empfaengt_binaer_ || daten_.empty() || daten_.back() != '\r') {
-          daten_ += static_cast<char>(b);
+          Datenbyte(b);
         }
         break;
       case Lage::iac:
         lage_ = Lage::daten;
-        if (b == IAC) daten_ += static_cast<char>(b);
+        if (b == IAC) Datenbyte(b);
         if (b >= WILL && b <= DONT) {
           verb_ = b;
           lage_ = Lage::option;
@@ -213,8 +228,15 @@ class Serverport {
         break;
       case option_sga: break;
       default:
-        if (ja) Roh_senden(Bytes({IAC, von_uns ? WONT : DONT, option}));
+        if (ja) Ablehnen(von_uns ? WONT : DONT, option);
     }
+  }
+
+  // Once for each option: a refusal holds. A server that asks without reading would otherwise hold us with
+  // every answer.
+  void Ablehnen(unsigned char verb, unsigned char option) {
+    if (fehler_ != 0 || !abgelehnt_[verb == WONT].insert(option).second) return;
+    fehler_ = std::min(0, Roh_senden(Bytes({IAC, verb, option})));
   }
 
   void Auskunft_verstehen() {
@@ -234,8 +256,10 @@ class Serverport {
   std::string daten_;             // bytes of the line, not yet taken
   std::optional<bool> com_port_;  // the server lets us control its port
   bool sendet_binaer_ = false, empfaengt_binaer_ = false;
-  bool angehalten_ = false;                // the server wants no data now
-  std::map<int, std::string> bestaetigt_;  // values confirmed last, by number of the reply
+  bool angehalten_ = false;                           // the server wants no data now
+  std::map<int, std::string> bestaetigt_;             // values confirmed last, by number of the reply
+  std::array<std::set<unsigned char>, 2> abgelehnt_;  // options refused to it and to us
+  int fehler_ = 0;                                    // negative once an answer did not go out
 };
 
 std::map<int, std::unique_ptr<Serverport>> offen;
@@ -304,6 +328,13 @@ int nsio_RTS(int port, int v) { return Steuern(port, v != 0 ? control_rts_an : c
 int nsio_read(int port, char* puffer, int n) {
   Serverport* p = Finden(port);
   return p == nullptr ? -EBADF : p->Nehmen(puffer, n);
+}
+
+int nsio_leeren(int port) {
+  Serverport* p = Finden(port);
+  if (p == nullptr) return -EBADF;
+  p->Leeren();
+  return 0;
 }
 
 int nsio_write(int port, const char* bytes, int n) {

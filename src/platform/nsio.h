@@ -34,6 +34,8 @@ int nsio_RTS(int port, int v);
 
 // Takes up to n bytes that have come; gives their number.
 int nsio_read(int port, char* puffer, int n);
+// Drops what has come.
+int nsio_leeren(int port);
 // Sends all n bytes; waits while the server asks to.
 int nsio_write(int port, const char* bytes, int n);
 // Waits in the kernel until a byte has come, at most ms real milliseconds. The number of bytes waiting, or
