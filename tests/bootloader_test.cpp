@@ -14,6 +14,7 @@
 #include <optional>
 #include <thread>
 
+#include "firmware_hilfen.h"
 #include "form/drehbuch.h"
 #include "hilfen.h"
 #include "link/leitung.h"
@@ -27,33 +28,6 @@
 
 namespace zav {
 namespace {
-
-// S1 records of 16 bytes each, and the closing one.
-std::string Firmwaredatei(int saetze) {
-  const auto satz = [](char typ, const std::vector<int>& bytes) {
-    std::string text = {'S', typ};
-    int summe = static_cast<int>(bytes.size()) + 1;
-    const auto hex = [&text](int b) {
-      char ziffern[3];
-      std::snprintf(ziffern, sizeof ziffern, "%02X", b & 0xFF);
-      text += ziffern;
-    };
-    hex(summe);
-    for (const int b : bytes) {
-      summe += b;
-      hex(b);
-    }
-    hex(~summe);
-    return text + "\r\n";
-  };
-  std::string text = satz('0', {0, 0, 'Z', 'A', 'V'});
-  for (int n = 0; n < saetze; ++n) {
-    std::vector<int> bytes{n / 16 % 256, n * 16 % 256};
-    for (int i = 0; i < 16; ++i) bytes.push_back((n + i) % 256);
-    text += satz('1', bytes);
-  }
-  return text + satz('9', {0, 0});
-}
 
 TEST(Srecord, NamesTheFirstFault) {
   const std::string gut = Firmwaredatei(2);
@@ -81,30 +55,6 @@ TEST(Srecord, NamesTheFirstFault) {
     EXPECT_EQ(Srecord_mangel(datei), mangel);
   }
 }
-
-// A line whose other end the test holds itself, raw from the start.
-struct Pty {
-  Pty() {
-    grantpt(master);
-    unlockpt(master);
-    name = ptsname(master);
-    geraet = open(name.c_str(), O_RDWR | O_NOCTTY | O_CLOEXEC);
-    termios t{};
-    tcgetattr(geraet, &t);
-    cfmakeraw(&t);
-    tcsetattr(geraet, TCSANOW, &t);
-  }
-  ~Pty() {
-    close(geraet);
-    close(master);
-  }
-  Pty(const Pty&) = delete;
-  Pty& operator=(const Pty&) = delete;
-
-  int master = posix_openpt(O_RDWR | O_NOCTTY | O_CLOEXEC);
-  int geraet = -1;
-  std::string name;
-};
 
 const Meldung neustartmeldung{.text = "ZAVmaster jetzt neu starten\r\n"};
 
@@ -138,8 +88,9 @@ class Update : public ::testing::Test {
   void Erwarte_ganzes_update(Bootloader& f, int saetze) {
     EXPECT_EQ(Schritte(f),
               "1. Datei auswählen|2. Jetzt bitte ZAVmaster aus-/einschalten|3. Betriebssystem im ZAVmaster "
-              "wird gelöscht|4. ZAVmaster wird vorbereitet zum Update|5. ZAVmaster update läuft...|6. Update "
-              "erfolgreich, ZAVmaster wird neu gestartet|");
+              "wird gelöscht|"
+              "4. ZAVmaster wird vorbereitet zum Update|5. ZAVmaster update läuft...|"
+              "6. Update erfolgreich, ZAVmaster wird neu gestartet|");
     EXPECT_TRUE(sim->firmware().gueltig);
     EXPECT_EQ(sim->firmware().falsche, 0U);
     EXPECT_EQ(sim->firmware().bytes, static_cast<std::size_t>(16 * saetze));
@@ -223,52 +174,8 @@ TEST_F(Update, LineThatBreaksDownWhileWaitingEndsTheRun) {
   EXPECT_TRUE(f.offen());
 }
 
-// ---- device server ----------------------------------------------------------------------------------------
-
-// A real device server in front of a pseudo-terminal, on a loopback address of this process's own: its TCP
-// port is fixed, and several tests may run at once.
-class Geraeteserver {
- public:
-  Geraeteserver(const Testordner& ordner, const std::string& geraet) {
-    const int pid = getpid();
-    adresse = "127." + std::to_string(pid / 65536 % 200 + 20) + "." + std::to_string(pid / 256 % 256) + "." +
-              std::to_string(pid % 254 + 1);
-    const std::string datei = ordner / "ser2net.yaml";
-    Datei_anlegen(datei, "%YAML 1.1\n---\nconnection: &zav\n  accepter: telnet(rfc2217),tcp," + adresse +
-                             ",4001\n  connector: serialdev(nouucplock=true)," + geraet + ",9600n71,local\n");
-    prozess_ = fork();
-    if (prozess_ == 0) {
-      execlp("ser2net", "ser2net", "-n", "-c", datei.c_str(), nullptr);
-      _exit(127);
-    }
-    for (int n = 0; n < 200; ++n) {
-      const int s = cscClient(adresse, 4001);
-      if (s >= 0) {
-        cscClose(s);
-        return;
-      }
-      std::this_thread::sleep_for(std::chrono::milliseconds(20));
-    }
-    ADD_FAILURE() << "ser2net does not listen on " << adresse;
-  }
-  ~Geraeteserver() {
-    kill(prozess_, SIGTERM);
-    waitpid(prozess_, nullptr, 0);
-  }
-  static bool vorhanden() {
-    const std::string pfade = std::string(getenv("PATH")) + ":/usr/sbin";
-    setenv("PATH", pfade.c_str(), 1);
-    return std::system("command -v ser2net >/dev/null 2>&1") == 0;
-  }
-
-  std::string adresse;
-
- private:
-  pid_t prozess_ = -1;
-};
-
-#define BRAUCHT_SER2NET() \
-  if (!Geraeteserver::vorhanden()) GTEST_SKIP() << "the package ser2net is not installed"
+// ---- device server
+// ----------------------------------------------------------------------------------------------------
 
 TEST_F(Update, OverADeviceServerInSixSteps) {
   BRAUCHT_SER2NET();

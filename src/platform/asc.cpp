@@ -67,6 +67,7 @@ int ascGetMessage(char* puffer, int n) {
   return std::min(std::snprintf(puffer, static_cast<std::size_t>(n), "%s", text.c_str()), n - 1);
 }
 
+int ascFehler() { return -sender.fehler; }
 std::size_t ascLaenge() { return sender.text.size(); }
 std::size_t ascGesendet() { return sender.gesendet; }
 

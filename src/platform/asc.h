@@ -18,6 +18,8 @@ int ascDriver();
 // How it ended or stands, as a German sentence, with a closing zero byte into puffer of n bytes. Its length.
 int ascGetMessage(char* puffer, int n);
 
+// 0, or the negative error number with which it ended.
+int ascFehler();
 // Bytes of the file, and those that have gone.
 std::size_t ascLaenge();
 std::size_t ascGesendet();

@@ -23,6 +23,8 @@ constexpr const char* aufforderung = "Quit Bootloader and start ZAVmaster-1024";
 constexpr int runde_ms = 50;
 constexpr int countdown_s = 15;
 constexpr int erstes_zeichen = 13;  // characters below never reach a line
+constexpr std::size_t laengste_zeile = 4096;  // its own are far shorter; a flood without CR is cut here
+constexpr int nachlauf = 64;                  // reads of a log behind its time, so that a flood does not hold the run
 
 milliseconds Spanne(double sekunden) { return milliseconds(Echte_millisekunden(sekunden)); }
 
@@ -71,13 +73,21 @@ Updateergebnis Firmware_update::Ausfuehren(Updateweg weg, const std::string& Upd
   if (!leitung->Oeffnen()) return Updateergebnis::nicht_geoeffnet;
   const Updateergebnis ergebnis = Fuehren(*leitung, Update_datei);
   beobachter_.Abbruch_freigeben(false);
-  if (ergebnis == Updateergebnis::leitung_weg) {
-    Melden(geloescht ? "Die Verbindung zum ZAVmaster ist unterbrochen. Er hat jetzt kein Betriebssystem: "
-                       "bitte den Update wiederholen."
-                     : "Die Verbindung zum ZAVmaster ist unterbrochen.",
-           "Update-Assistent", Symbol::Stopp);
-  }
+  Scheitern_melden(ergebnis);
   return ergebnis;
+}
+
+void Firmware_update::Scheitern_melden(Updateergebnis ergebnis) const {
+  std::string text;
+  if (ergebnis == Updateergebnis::leitung_weg) {
+    text = "Die Verbindung zum ZAVmaster ist unterbrochen.";
+  } else if (ergebnis == Updateergebnis::unvollstaendig) {
+    text = "Die Update-Datei konnte nicht vollständig gesendet werden.";
+  } else {
+    return;
+  }
+  if (geloescht) text += " Der ZAVmaster hat jetzt kein Betriebssystem: bitte den Update wiederholen.";
+  Melden(text, "Update-Assistent", Symbol::Stopp);
 }
 
 Updateergebnis Firmware_update::Fuehren(Firmwareleitung& l, const std::string& pfad) {
@@ -104,7 +114,7 @@ Updateergebnis Firmware_update::Fuehren(Firmwareleitung& l, const std::string& p
   beobachter_.Schritt_zeigen(5, "5. ZAVmaster update läuft...");
   l.Leeren();
   Zeile("Schnittstelle wird initialisiert");
-  l.Datei_senden(
+  const int gesendet = l.Datei_senden(
       pfad, [this](const std::string& text) { Zeile(text); },
       [&](Firmwareleitung::Sendestand s) {
         beobachter_.Fortschritt_zeigen(static_cast<double>(s.gesendet) / 100,
@@ -114,7 +124,7 @@ Updateergebnis Firmware_update::Fuehren(Firmwareleitung& l, const std::string& p
   l.Modemleitungen_loeschen();
   Mitlesen(l, Echte_millisekunden(2));
   Neu_starten(l);
-  return Updateergebnis::fertig;
+  return gesendet < 0 ? Updateergebnis::unvollstaendig : Updateergebnis::fertig;
 }
 
 // Reads lines into the log until one holds the prompt, behind at least one other character. The master may
@@ -128,10 +138,8 @@ Firmware_update::Warten Firmware_update::Aufforderung_abwarten(Firmwareleitung& 
     const int n = l.Lesen(&c, 1, runde_ms);
     if (n < 0) return Warten::leitung_weg;
     if (n == 0 || static_cast<unsigned char>(c) < erstes_zeichen) continue;
-    if (c != '\r') {
-      zeile += c;
-      continue;
-    }
+    if (c != '\r') zeile += c;
+    if (c != '\r' && zeile.size() < laengste_zeile) continue;
     Zeile(Aus_1252(zeile));
     const std::size_t stelle = zeile.find(aufforderung);
     if (stelle != std::string::npos && stelle > 0) return Warten::gekommen;
@@ -139,11 +147,11 @@ Firmware_update::Warten Firmware_update::Aufforderung_abwarten(Firmwareleitung& 
   }
 }
 
-// For ms milliseconds, and as long as something waits, what the master sends goes to the log.
+// For ms milliseconds, and what waits then, what the master sends goes to the log.
 void Firmware_update::Mitlesen(Firmwareleitung& l, int ms) {
   std::array<char, 64> puffer{};
   const auto ende = Uhr::now() + milliseconds(ms);
-  for (;;) {
+  for (int noch = nachlauf; noch > 0;) {
     melder().DoEvents();
     const auto rest = std::chrono::ceil<milliseconds>(ende - Uhr::now()).count();
     const int warten = static_cast<int>(std::clamp<std::int64_t>(rest, 0, runde_ms));
@@ -157,7 +165,8 @@ void Firmware_update::Mitlesen(Firmwareleitung& l, int ms) {
       echo += c == '\r' ? std::string("\r\n") : std::string(1, c);
     }
     if (!echo.empty()) beobachter_.Protokoll(Aus_1252(echo));
-    if (n <= 0 && rest <= 0) return;
+    if (rest > 0) continue;
+    noch = n <= 0 ? 0 : noch - 1;
   }
 }
 

@@ -27,7 +27,8 @@ enum class Updateergebnis {
   nicht_gewollt,    // the user took the warning to heart
   nicht_geoeffnet,  // box; no line
   abgebrochen,      // by Abbruch
-  leitung_weg,      // the line has broken down while the run waited for the master
+  leitung_weg,      // box; the line has broken down while the run waited for the master
+  unvollstaendig,   // box, behind the steps; not all of the file could be read and sent
 };
 
 class Firmware_update {
@@ -47,6 +48,7 @@ class Firmware_update {
 
   bool Inhalt_pruefen(const std::string& pfad);
   Updateergebnis Fuehren(Firmwareleitung& l, const std::string& pfad);
+  void Scheitern_melden(Updateergebnis ergebnis) const;
   Warten Aufforderung_abwarten(Firmwareleitung& l);
   void Neu_starten(Firmwareleitung& l);
   void Mitlesen(Firmwareleitung& l, int ms);

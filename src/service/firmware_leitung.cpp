@@ -54,8 +54,8 @@ class Com_leitung final : public Firmwareleitung {
     SioDTR(Sio_port(), 'C');
     SioRTS(Sio_port(), 'C');
   }
-  void Datei_senden(const std::string& pfad, const std::function<void(const std::string&)>& protokoll,
-                    const std::function<void(Sendestand)>& runde) override {
+  int Datei_senden(const std::string& pfad, const std::function<void(const std::string&)>& protokoll,
+                   const std::function<void(Sendestand)>& runde) override {
     constexpr int zeilenpause_us = 1000;
     ascInit(Sio_port(), zeilenpause_us, 1);
     protokoll("Datenübertragung vorbereiten");
@@ -71,6 +71,7 @@ class Com_leitung final : public Firmwareleitung {
     ascGetMessage(text.data(), static_cast<int>(text.size()));
     protokoll(text.data());
     protokoll("Datenübertragung fertig");
+    return ascFehler();
   }
 };
 
@@ -105,11 +106,7 @@ class Ethernet_leitung final : public Firmwareleitung {
     const int da = nsio_warten(port_, ms);
     return da > 0 ? nsio_read(port_, puffer, n) : da;
   }
-  void Leeren() override {
-    std::array<char, 256> puffer{};
-    while (nsio_read(port_, puffer.data(), static_cast<int>(puffer.size())) > 0) {
-    }
-  }
+  void Leeren() override { nsio_leeren(port_); }
   void Modemleitungen_loeschen() override {
     nsio_DTR(port_, 0);
     nsio_RTS(port_, 0);
@@ -117,19 +114,22 @@ class Ethernet_leitung final : public Firmwareleitung {
   }
   // The network takes the file in no time and the server holds it for the line: handed over at the line's
   // speed, progress tells the truth and the end is the end.
-  void Datei_senden(const std::string& pfad, const std::function<void(const std::string&)>& protokoll,
-                    const std::function<void(Sendestand)>& runde) override {
+  int Datei_senden(const std::string& pfad, const std::function<void(const std::string&)>& protokoll,
+                   const std::function<void(Sendestand)>& runde) override {
     using Uhr = std::chrono::steady_clock;
     constexpr std::size_t stueck = 100;
     constexpr double zeichen_je_s = 11520;
     std::string text;
     const Dateiergebnis gelesen = Datei_lesen(pfad, text);
-    if (!gelesen) protokoll(Systemfehler_text(gelesen.fehler));
+    int fehler = -gelesen.fehler;
+    if (fehler < 0) protokoll(Systemfehler_text(-fehler));
     protokoll("Daten werden jetzt übertragen, bitte warten...");
     const auto beginn = Uhr::now();
-    for (std::size_t da = 0; da < text.size();) {
+    std::size_t da = 0;
+    while (da < text.size()) {
       const std::string_view teil = std::string_view(text).substr(da, stueck);
       if (const int n = Schreiben(teil); n < 0) {
+        fehler = n;
         protokoll(Systemfehler_text(-n));
         break;
       }
@@ -139,7 +139,8 @@ class Ethernet_leitung final : public Firmwareleitung {
           beginn + std::chrono::milliseconds(Echte_millisekunden(static_cast<double>(da) / zeichen_je_s)));
     }
     protokoll("Datenübertragung fertig");
-    protokoll(std::to_string(text.size()) + " Zeichen übermittelt");
+    protokoll(std::to_string(da) + " Zeichen übermittelt");
+    return fehler;
   }
 
  private:

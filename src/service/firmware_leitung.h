@@ -29,9 +29,10 @@ class Firmwareleitung {
     std::size_t gesendet = 0;
     std::size_t laenge = 0;
   };
-  // Sends the file as it stands. `protokoll` takes a line of the log; `runde` runs after each piece.
-  virtual void Datei_senden(const std::string& pfad, const std::function<void(const std::string&)>& protokoll,
-                            const std::function<void(Sendestand)>& runde) = 0;
+  // Sends the file as it stands. `protokoll` takes a line of the log; `runde` runs after each piece. 0, or a
+  // negative error number when not all of it could be read and has gone.
+  virtual int Datei_senden(const std::string& pfad, const std::function<void(const std::string&)>& protokoll,
+                           const std::function<void(Sendestand)>& runde) = 0;
 };
 
 std::unique_ptr<Firmwareleitung> Firmwareleitung_anlegen(Updateweg weg);
