@@ -6,9 +6,9 @@ paketgruppe() {
   case $1 in
     bauen) echo "cmake ninja-build g++ libcli11-dev nlohmann-json3-dev" ;;
     fenster) echo "qt6-base-dev qt6-svg-dev qt6-translations-l10n qt6-qpa-plugins qt6-wayland fonts-dejavu-core" ;;
-    pruefen) echo "libgtest-dev libbenchmark-dev ser2net" ;;
+    pruefen) echo "libgtest-dev libbenchmark-dev ser2net pandoc" ;;
     packen) echo "dpkg-dev file gzip pandoc" ;;
-    paketpruefung) echo "lintian desktop-file-utils appstream shared-mime-info bash-completion groff-base" ;;
+    paketpruefung) echo "lintian desktop-file-utils appstream shared-mime-info libglib2.0-bin bash-completion groff-base" ;;
     fuzzen) echo "clang libclang-rt-dev" ;;
     statisch) echo "clang-tidy cppcheck gcovr valgrind" ;;
     *) echo "pakete.sh: unbekannte Gruppe $1" >&2; return 1 ;;

@@ -1,13 +1,18 @@
 #include "zavlink/programm.h"
 
 #include <QApplication>
-#include <QCommandLineParser>
 #include <QDesktopServices>
 #include <QDir>
 #include <QFileInfo>
 #include <QStandardPaths>
 #include <QUrl>
+#include <algorithm>
+#include <iostream>
 #include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
 
 #include "basis/melder.h"
 #include "link/leitung.h"
@@ -31,40 +36,69 @@ struct Aufruf {
   Thema thema = Thema::wie_arbeitsplatz;
 };
 
-Aufruf Lesen(const QApplication& programm) {
-  QCommandLineParser parser;
-  parser.setApplicationDescription("ZAVlink: Konfiguration und Service des ZAVnet-Bussystems.");
-  const QCommandLineOption hilfe({"h", "help", "hilfe"}, "Zeigt diese Hilfe.");
-  const QCommandLineOption versionsfrage({"v", "version"}, "Zeigt die Version.");
-  const QCommandLineOption simulator("simulator",
-                                     "Startet mit einem simulierten ZAVmaster als Schnittstelle.");
-  const QCommandLineOption hell("hell", "Helle Darstellung.");
-  const QCommandLineOption dunkel("dunkel", "Dunkle Darstellung.");
-  parser.addOptions({hilfe, versionsfrage, simulator, hell, dunkel});
-  parser.addPositionalArgument("DATEI", "Projekt, das geöffnet wird.", "[DATEI]");
-  parser.process(programm);
-  if (parser.isSet(hilfe)) parser.showHelp();
-  if (parser.isSet(versionsfrage)) parser.showVersion();
-  if (parser.positionalArguments().size() > 1) parser.showHelp(2);
-  Aufruf a;
-  if (!parser.positionalArguments().isEmpty()) {
-    a.datei = S(QFileInfo(parser.positionalArguments().first()).absoluteFilePath());
+constexpr const char* hilfetext =
+    "zavlink richtet die Gebäudesteuerung ZAVnet ein und wartet sie.\n"
+    "\n"
+    "Aufruf: zavlink [OPTION ...] [DATEI]\n"
+    "\n"
+    "Argumente:\n"
+    "  DATEI        Projekt, das geöffnet wird\n"
+    "\n"
+    "Optionen:\n"
+    "  --simulator  mit einem simulierten ZAVmaster als Schnittstelle, mit eigenen Einstellungen\n"
+    "  --hell       helle Darstellung (sonst die des Arbeitsplatzes)\n"
+    "  --dunkel     dunkle Darstellung\n"
+    "  --hilfe      diese Hilfe zeigen\n"
+    "  --version    die Version zeigen\n"
+    "\n"
+    "Beispiel: zavlink --simulator haus.zav\n";
+
+// Help and version, which need no screen. False when the arguments ask for neither.
+bool Ohne_fenster(const std::vector<std::string_view>& argumente) {
+  const auto verlangt = [&argumente](std::initializer_list<std::string_view> namen) {
+    return std::ranges::find_first_of(argumente, namen) != argumente.end();
+  };
+  if (verlangt({"--hilfe", "--help", "-h"})) {
+    std::cout << hilfetext << std::flush;
+  } else if (verlangt({"--version", "-v"})) {
+    std::cout << "zavlink " << version << std::endl;
+  } else {
+    return false;
   }
-  a.simulator = parser.isSet(simulator);
-  if (parser.isSet(hell)) a.thema = Thema::hell;
-  if (parser.isSet(dunkel)) a.thema = Thema::dunkel;
+  return true;
+}
+
+// Nothing for a wrong use, which has been told.
+std::optional<Aufruf> Lesen(const QStringList& argumente) {
+  Aufruf a;
+  for (const QString& argument : argumente) {
+    if (argument == "--simulator") {
+      a.simulator = true;
+    } else if (argument == "--hell") {
+      a.thema = Thema::hell;
+    } else if (argument == "--dunkel") {
+      a.thema = Thema::dunkel;
+    } else if (argument.startsWith('-') || !a.datei.empty()) {
+      std::cerr << (argument.startsWith('-') ? "Unbekannte Option: " : "Zu viele Argumente: ") << S(argument)
+                << "\nzavlink --hilfe zeigt alle Optionen.\n";
+      return std::nullopt;
+    } else {
+      a.datei = S(QFileInfo(argument).absoluteFilePath());
+    }
+  }
   return a;
 }
 
-// The manual lies beside the program when installed, in the build tree while it is being developed.
+// The manual lies beside the program when installed, in the build tree while it is being developed. A
+// window's place in it is a file of its own, since many desktops drop the "#" behind the name of a file that
+// they open.
 void Handbuch_zeigen(const std::string& form) {
   const QDir programm(QApplication::applicationDirPath());
-  for (const char* ort : {"../share/zavlink/handbuch/index.html", "../../handbuch/index.html"}) {
-    const QFileInfo datei(programm.filePath(ort));
-    if (!datei.exists()) continue;
-    QUrl adresse = QUrl::fromLocalFile(datei.canonicalFilePath());
-    adresse.setFragment(Q(form));
-    if (QDesktopServices::openUrl(adresse)) return;
+  for (const char* ort : {"../share/zavlink/handbuch/", "../../handbuch/"}) {
+    for (const QString& seite : {"f1/" + Q(form) + ".html", QString("index.html")}) {
+      const QFileInfo datei(programm.filePath(ort + seite));
+      if (datei.exists() && QDesktopServices::openUrl(QUrl::fromLocalFile(datei.canonicalFilePath()))) return;
+    }
   }
   Melden("Das Handbuch ist auf diesem Computer nicht vorhanden.", "Handbuch", Symbol::Information);
 }
@@ -80,23 +114,25 @@ void Einstellungen_trennen() {
 }  // namespace
 
 int Programm(int argc, char** argv) {
+  if (Ohne_fenster({argv + 1, argv + argc})) return 0;
   QApplication programm(argc, argv);
   QApplication::setApplicationName("zavlink");
   QApplication::setApplicationDisplayName("ZAVlink");
   QApplication::setApplicationVersion(Q(version));
   QGuiApplication::setDesktopFileName("net.zavnet.zavlink");
   QApplication::setQuitOnLastWindowClosed(false);  // the greeting closes before the main window opens
-  const Aufruf aufruf = Lesen(programm);
-  Aussehen_setzen(aufruf.thema);
+  const std::optional<Aufruf> aufruf = Lesen(QApplication::arguments().mid(1));
+  if (!aufruf) return 2;
+  Aussehen_setzen(aufruf->thema);
   QApplication::setWindowIcon(QIcon::fromTheme("zavlink", Symbolbild("haus")));
   handbuch_oeffnen = Handbuch_zeigen;
-  if (aufruf.simulator) Einstellungen_trennen();
+  if (aufruf->simulator) Einstellungen_trennen();
 
   Qt_oberflaeche oberflaeche;
   Oberflaeche_setzen(&oberflaeche);
   std::unique_ptr<Simulierter_master> master;
-  if (Sitzung_beginnen(aufruf.datei)) {
-    if (aufruf.simulator) {
+  if (Sitzung_beginnen(aufruf->datei)) {
+    if (aufruf->simulator) {
       master = std::make_unique<Simulierter_master>();
       Com_art_setzen();
     }
