@@ -275,9 +275,9 @@ TEST_P(LinkTest, FailedOpenSpeaksOnceAndTheCommandIsSilent) {
   const Meldung box{
       .text = ist_com()
                   ? "SIO-Fehler -2 --- F97: COM-Port kann nicht geöffnet werden. Eventuell ist es bereits "
-                    "durch ein anderes Programm belegt. Das Gerät " +
-                        ziel + " gibt es nicht."
-                  : "TCP-Fehler -111: Fehler beim Öffnen. 127.0.0.1 (Port " + ziel +
+                    "durch ein anderes Programm belegt.\r\n\r\nDas Gerät " +
+                        ziel + " gibt es nicht. Ist der Adapter eingesteckt?"
+                  : "TCP-Fehler -111: Fehler beim Öffnen\r\n\r\n127.0.0.1 (Port " + ziel +
                         ") nimmt keine Verbindung an."};
   skript.erwarte(box);
   Neustart_ausfuehren();
@@ -393,14 +393,17 @@ TEST_P(LeitungTest, SearchForPortsFindsTheFreeOnes) {
   einstellungen.Com_geraet.clear();
   const std::string anfang =
       " --- F97: COM-Port kann nicht geöffnet werden. Eventuell ist es bereits durch ein anderes Programm "
-      "belegt. ";
+      "belegt.\r\n\r\n";
   const struct {
     i16 nummer;
     std::string text;
   } faelle[] = {
-      {1, "SIO-Fehler -2" + anfang + "Das Gerät /dev/gibt_es_nicht gibt es nicht."},
+      {1,
+       "SIO-Fehler -2" + anfang + "Das Gerät /dev/gibt_es_nicht gibt es nicht. Ist der Adapter eingesteckt?"},
       {3, "SIO-Fehler -11" + anfang + "Das Gerät " + belegt.geraet() +
-              " ist durch ein anderes Programm belegt."},
+              " ist durch ein anderes Programm belegt: Beenden Sie es. Nach dem Einstecken eines Adapters "
+              "prüft ihn "
+              "oft der ModemManager; warten Sie zehn Sekunden und versuchen Sie es noch einmal."},
       {4, "SIO-Fehler -25" + anfang + "/dev/null ist keine serielle Schnittstelle."},
   };
   for (const auto& fall : faelle) {

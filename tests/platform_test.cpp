@@ -220,7 +220,8 @@ TEST(Sio, PortIsRawAndBelongsToOneProgram) {
   EXPECT_LT(SioParms(-1, 1, 0, 7), 0);
   ASSERT_EQ(SioReset(sio_direkt, 128, 1100), 0) << SioUrsache();
   EXPECT_EQ(SioReset(sio_direkt, 128, 1100), -EBUSY);
-  EXPECT_EQ(SioUrsache(), "Das Gerät " + g.geraet() + " ist durch ein anderes Programm belegt.");
+  EXPECT_TRUE(
+      SioUrsache().starts_with("Das Gerät " + g.geraet() + " ist durch ein anderes Programm belegt: "));
 
   EXPECT_EQ(SioGetc(sio_direkt), -EAGAIN);
   EXPECT_EQ(SioRxQue(sio_direkt), 0);
@@ -261,13 +262,33 @@ TEST(Sio, WaitingSleepsInTheKernel) {
   SioDone(sio_direkt);
 }
 
-TEST(Ports, DevicesAreListedByKindAndNumber) {
+TEST(Ports, ANumberStandsForTheNthDeviceOrForTheOneTheUserNamed) {
   einstellungen = {};
-  const auto geraete = Serielle_geraete();
-  for (std::size_t i = 0; i < std::min<std::size_t>(geraete.size(), 8); ++i) {
-    EXPECT_EQ(Portgeraet(static_cast<int>(i)), geraete[i].datei);
-  }
-  EXPECT_EQ(Portgeraet(7).empty(), geraete.size() < 8);
+  const Testordner ordner;
+  const std::filesystem::path& dev = ordner.pfad();
+  for (const char* name : {"ttyUSB10", "ttyUSB2", "ttyACM0", "ttyS0", "tty1", "ttyUSBx"})
+    Datei_anlegen(dev / name, "");
+  std::filesystem::create_symlink(dev / "ttyACM0", dev / "usb-Adapter");
+  Geraeteordner_setzen(dev);
+
+  std::string liste;
+  for (const Serielles_geraet& g : Comports())
+    liste += g.datei.empty() ? "-" : g.datei.substr(g.datei.rfind('/') + 1) + " ";
+  EXPECT_EQ(liste, "ttyUSB2 ttyUSB10 ttyACM0 ttyS0 ----");
+  EXPECT_EQ(Portgeraet(1), dev / "ttyUSB10");
+  EXPECT_EQ(Bezeichnung(Comports()[3]), "eingebaute Schnittstelle");
+  EXPECT_EQ(Bezeichnung({.datei = "/dev/ttyUSB0", .beschreibung = "FTDI FT232R"}), "FTDI FT232R");
+  einstellungen.Ports[0] = dev / "usb-Adapter";
+  EXPECT_EQ(Portnummer(dev / "ttyACM0"), 0) << "the link names the same device";
+  EXPECT_EQ(Portnummer(dev / "ttyUSB2"), -1) << "its number is taken";
+  EXPECT_EQ(Portnummer(""), -1);
+
+  const Geraetewache wache;
+  EXPECT_FALSE(wache.Warten(0));
+  Datei_anlegen(dev / "ttyUSB3", "");
+  EXPECT_TRUE(wache.Warten(5000));
+  EXPECT_FALSE(wache.Warten(0)) << "told once";
+  Geraeteordner_setzen("/dev");
 }
 
 }  // namespace

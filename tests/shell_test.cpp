@@ -1,7 +1,10 @@
 // The program around the editors, as a person uses it: start, files, options, sending, end.
+#include <fcntl.h>
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 #include <cerrno>
+#include <cstdlib>
 #include <filesystem>
 #include <memory>
 
@@ -14,6 +17,7 @@
 #include "link/leitung.h"
 #include "platform/datei.h"
 #include "platform/einstellungen.h"
+#include "platform/ports.h"
 #include "platform/uhrwerk.h"
 #include "service/infofenster.h"
 #include "service/init_flash.h"
@@ -391,6 +395,51 @@ TEST_F(Shell, OptionsCheckTheNetworkAndCancelTakesAllBack) {
   g.OK.druecken();
   EXPECT_FALSE(g.offen());
   EXPECT_EQ(einstellungen.Com_port, 5);
+}
+
+TEST_F(Shell, PortFinderNamesTheAdapterThatComes) {
+  const std::string dev = ordner / "dev";
+  std::filesystem::create_directory(dev);
+  Geraeteordner_setzen(dev);
+  Datei_anlegen(dev + "/ttyS0", "");
+  const int adapter = posix_openpt(O_RDWR | O_NOCTTY);
+  ASSERT_TRUE(adapter >= 0 && grantpt(adapter) == 0 && unlockpt(adapter) == 0);
+  const std::string aus = "Stecken Sie den Adapter aus und drücken Sie dann OK.";
+  const std::string ein = "Stecken Sie den Adapter jetzt ein und drücken Sie dann OK.";
+  Zeitraffer_setzen(40);
+
+  zav::Setup f;
+  EXPECT_EQ(f.Label2.titel, "Com 1: eingebaute Schnittstelle (" + dev + "/ttyS0)");
+  d.erwarte_text(aus, Antwort::Abbrechen);
+  f.Command2.druecken();
+  d.erwarte_text(aus);
+  d.erwarte_text(ein);
+  d.erwarte_text(
+      "Es ist kein Adapter dazugekommen. Prüfen Sie Stecker und Kabel, nehmen Sie einen anderen "
+      "USB-Anschluss und versuchen "
+      "Sie es noch einmal.");
+  f.Command2.druecken();
+  EXPECT_TRUE(f.CBCOM[0].an());
+
+  // It comes a moment after OK, and counts before the port that is built in.
+  d.bei_doevents = [&] {
+    std::error_code schon_da;
+    std::filesystem::create_symlink(ptsname(adapter), dev + "/ttyUSB4", schon_da);
+  };
+  Zeitraffer_setzen(1);
+  d.erwarte_text(aus);
+  d.erwarte_text(ein);
+  d.erwarte_text("Ihr Adapter ist\r\n\r\nCom 1: USB-Adapter (" + dev +
+                 "/ttyUSB4)\r\n\r\nDer Port ist jetzt gewählt.");
+  f.Command2.druecken();
+  EXPECT_TRUE(f.CBCOM[0].an() && f.CBCOM[0].frei && !f.CBCOM[1].frei);
+  EXPECT_NE(f.CBCOM[1].hinweis->find("ist keine serielle Schnittstelle."), std::string::npos)
+      << f.CBCOM[1].hinweis;
+  f.Command4.druecken();
+  EXPECT_EQ(einstellungen.Com_port, 1);
+  d.bei_doevents = nullptr;
+  Geraeteordner_setzen("/dev");
+  close(adapter);
 }
 
 TEST_F(Shell, SmallDialogsCommitOnOkOnly) {

@@ -313,7 +313,7 @@ TEST_F(Transfer, WasVorDemErstenBlockEndet) {
   EXPECT_EQ(projekt, vorher);
 
   sim.stop();
-  skript.erwarte({.text = "TCP-Fehler -111: Fehler beim Öffnen. 127.0.0.1 (Port " +
+  skript.erwarte({.text = "TCP-Fehler -111: Fehler beim Öffnen\r\n\r\n127.0.0.1 (Port " +
                           std::to_string(einstellungen.Host_port) + ") nimmt keine Verbindung an."});
   EXPECT_EQ(Senden(), Sendeergebnis::gescheitert);
   EXPECT_TRUE(mitschrift.frei);

@@ -116,7 +116,7 @@ TEST_F(Wetter, SilentMasterLeavesTheDisplayOpen) {
   EXPECT_TRUE(f.offen());
   EXPECT_TRUE(f.Command1.frei);
   sim.stop();
-  d.erwarte_text("TCP-Fehler -111: Fehler beim Öffnen. 127.0.0.1 (Port " +
+  d.erwarte_text("TCP-Fehler -111: Fehler beim Öffnen\r\n\r\n127.0.0.1 (Port " +
                  std::to_string(einstellungen.Host_port) + ") nimmt keine Verbindung an.");
   d.erwarte({.text = "SIO: Fehler 1 bei Open Port"});
   f.Command2.druecken();

@@ -17,6 +17,7 @@
 #include "basis/text.h"
 #include "befehlszeile.h"
 #include "platform/einstellungen.h"
+#include "platform/ports.h"
 #include "platform/uhrwerk.h"
 #include "simulator/simulator.h"
 #include "store/felder.h"
@@ -130,6 +131,7 @@ TEST_F(Zav, HelpIsOnStandardOutputAndEveryCommandHasAnExample) {
   const Ergebnis alles = zav({"--hilfe"});
   EXPECT_EQ(alles.status, 0);
   EXPECT_EQ(zav({"--version"}).aus, "zav 9.102\n");
+  EXPECT_NE(alles.aus.find("\nRückgabewert:\n  0  "), std::string::npos);
   std::istringstream zeilen(alles.aus.substr(alles.aus.find("Befehle:\n")));
   std::string zeile;
   std::getline(zeilen, zeile);
@@ -146,6 +148,28 @@ TEST_F(Zav, HelpIsOnStandardOutputAndEveryCommandHasAnExample) {
     ++befehle;
   }
   EXPECT_GE(befehle, 8);
+}
+
+TEST_F(Zav, PortsAreListedByWhatTheyAreWithTheReasonOfThoseThatDoNotOpen) {
+  EXPECT_EQ(zav({"ports"}).status, 0) << "whatever this computer has";
+  Geraeteordner_setzen(ordner);
+  EXPECT_EQ(zav({"ports"}).fehler, "Dieser Computer hat keine serielle Schnittstelle.\n");
+  simulator::Simulator master{{.pty = true}};
+  master.start();
+  fs::create_symlink(master.pty_name(), ordner / "ttyUSB0");
+  schreiben("ttyS0", "");
+  const Ergebnis e = zav({"ports"});
+  EXPECT_EQ(e.status, 0);
+  EXPECT_EQ(e.aus, "1  frei   " + pfad("ttyUSB0") + "  USB-Adapter\n2  nicht  " + pfad("ttyS0") +
+                       "  eingebaute Schnittstelle\n");
+  EXPECT_EQ(e.fehler, "COM 2: " + pfad("ttyS0") + " ist keine serielle Schnittstelle.\n");
+  EXPECT_EQ(nlohmann::json::parse(zav({"ports", "--json"}).aus)[0],
+            (nlohmann::json{{"com", 1},
+                            {"geraet", pfad("ttyUSB0")},
+                            {"bezeichnung", "USB-Adapter"},
+                            {"frei", true},
+                            {"ursache", ""}}));
+  Geraeteordner_setzen("/dev");
 }
 
 // ---- files ------------------------------------------------------------------------------------------------

@@ -1,4 +1,4 @@
-// suche, touchpanel, sonne: reports that read and change nothing.
+// suche, touchpanel, sonne, ports: reports that read and change nothing.
 #include <CLI/CLI.hpp>
 #include <memory>
 #include <nlohmann/json.hpp>
@@ -10,6 +10,8 @@
 #include "befehl.h"
 #include "editor/ereignissuche.h"
 #include "editor/touchpanel_referenz.h"
+#include "link/leitung.h"
+#include "platform/ports.h"
 #include "platform/uhrwerk.h"
 #include "projektzugriff.h"
 #include "time/sonneninfo.h"
@@ -104,6 +106,33 @@ Ausfuehrung Befehl_sonne(CLI::App& app) {
     } else {
       Tag_ausgeben(lauf, Sonneninfo_am(Heute()));
     }
+    return true;
+  };
+}
+
+Ausfuehrung Befehl_ports(CLI::App& /*app*/) {
+  return [](Lauf& lauf) {
+    Com_suche();
+    const auto ports = Comports();
+    Json liste = Json::array();
+    for (std::size_t n = 0; n < ports.size(); ++n) {
+      const int port = static_cast<int>(n);
+      const Serielles_geraet& g = ports[n];
+      if (g.datei.empty()) continue;
+      const bool frei = leitung.Com_frei[port] == 1;
+      const std::string& ursache = leitung.Com_ursache[port];
+      liste.push_back({{"com", port + 1},
+                       {"geraet", g.datei},
+                       {"bezeichnung", Bezeichnung(g)},
+                       {"frei", frei},
+                       {"ursache", ursache}});
+      if (lauf.json) continue;
+      lauf.aus << port + 1 << (frei ? "  frei   " : "  nicht  ") << g.datei << "  " << Bezeichnung(g)
+               << std::endl;
+      if (!frei) lauf.konsole.Anmerken("COM " + std::to_string(port + 1) + ": " + ursache);
+    }
+    if (lauf.json) lauf.aus << liste.dump(2) << '\n';
+    if (liste.empty()) lauf.konsole.Anmerken("Dieser Computer hat keine serielle Schnittstelle.");
     return true;
   };
 }

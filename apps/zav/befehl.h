@@ -54,6 +54,7 @@ Ausfuehrung Befehl_app(CLI::App& app);
 Ausfuehrung Befehl_suche(CLI::App& app);
 Ausfuehrung Befehl_touchpanel(CLI::App& app);
 Ausfuehrung Befehl_sonne(CLI::App& app);
+Ausfuehrung Befehl_ports(CLI::App& app);
 Ausfuehrung Befehl_update(CLI::App& app);
 
 }  // namespace zav

@@ -35,7 +35,7 @@ constexpr std::array befehle{
     Befehl{"master", "Fragt Version und Projektname des ZAVmasters ab", "zav --com 1 master", Befehl_master},
     Befehl{"neustart", "Startet den ZAVmaster neu", "zav --ja neustart", Befehl_neustart},
     Befehl{"uhr", "Stellt die Uhr des ZAVmasters und die Daten der Zeitumstellung",
-           "zav --nein uhr --umstellung 1", Befehl_uhr},
+           "zav --ja uhr --umstellung 1", Befehl_uhr},
     Befehl{"protokoll", "Zeigt die Ereignisse am Bus, wie sie geschehen, mit --liste alle Busteilnehmer",
            "zav --com 1 protokoll --filter K000 --zeit", Befehl_protokoll},
     Befehl{"ereignis", "Drückt, löst oder tippt eine Taste, als täte es jemand im Haus",
@@ -50,6 +50,8 @@ constexpr std::array befehle{
            Befehl_touchpanel},
     Befehl{"sonne", "Zeigt Sonnenzeiten und Zeitumstellung eines Tages oder Jahres",
            "zav --heute 21.06.2026 sonne", Befehl_sonne},
+    Befehl{"ports", "Listet die seriellen Schnittstellen COM 1 bis COM 8 und ob sie frei sind", "zav ports",
+           Befehl_ports},
     Befehl{"update", "Ersetzt das Betriebssystem des ZAVmasters", "zav --com 1 update ZAVMAStER_0904.s19",
            Befehl_update},
 };
@@ -185,7 +187,12 @@ int Befehlszeile(std::vector<std::string> argumente, Endgeraet geraet) {
   app.set_help_flag("--hilfe", "diese Hilfe zeigen");
   app.set_version_flag("--version", "zav " + std::string(version), "die Version zeigen");
   app.footer(
-      "zav BEFEHL --hilfe zeigt die Argumente eines Befehls.\nBeispiel: zav --simulator --ja senden haus");
+      "Rückgabewert:\n"
+      "  0  erledigt\n"
+      "  1  misslungen, abgelehnt, oder es gab eine Fehlermeldung\n"
+      "  2  falsch aufgerufen\n\n"
+      "zav BEFEHL --hilfe zeigt die Argumente eines Befehls.\n"
+      "Beispiel: zav --simulator --ja senden haus --initialisieren");
   app.fallthrough();
   app.require_subcommand(1);
   Optionen_anmelden(app, optionen);

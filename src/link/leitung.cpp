@@ -146,7 +146,7 @@ void Com_oeffnen() {
   leitung.Lib_status = SioReset(Sio_port(), groesste_antwort, 1100);
   gescheitert(
       " --- F97: COM-Port kann nicht geöffnet werden. Eventuell ist es bereits durch ein anderes Programm "
-      "belegt. " +
+      "belegt.\r\n\r\n" +
       SioUrsache());
 }
 
@@ -158,7 +158,7 @@ void Tcp_oeffnen() {
   leitung.Lib_status = leitung.Tcp_socket;
   if (leitung.Tcp_socket >= 0) return;
   leitung.Port_fehler = 1;
-  Melden("TCP-Fehler " + std::to_string(leitung.Lib_status) + ": Fehler beim Öffnen. " + cscUrsache());
+  Melden("TCP-Fehler " + std::to_string(leitung.Lib_status) + ": Fehler beim Öffnen\r\n\r\n" + cscUrsache());
   cscRelease();
 }
 
@@ -259,6 +259,7 @@ void Com_suche() {
   for (int port = 0; port < 8; ++port) {
     const bool frei = SioReset(port, groesste_antwort, 0) >= 0;
     leitung.Com_frei[port] = frei ? 1 : 0;
+    leitung.Com_ursache[port] = SioUrsache();
     if (frei) SioDone(port);
     text += std::to_string(port + 1) + ", ";
     melder().Hinweis(text);

@@ -26,6 +26,7 @@ struct Leitung {
   str Sende_text;             // message being sent; checksum and CR are appended in place
   str Empfang_text;           // last reply: payload + CR, or "portopen"
   Feld<i16, 8> Com_frei;      // 1: serial port n + 1 could be opened
+  Feld<str, 8> Com_ursache;   // why serial port n + 1 could not be opened and what helps, "" where it could
   i16 Com_gesucht = 0;        // 1: the search for free ports has run
 };
 

@@ -39,11 +39,17 @@ std::string Ursache(int fehler, const std::string& geraet) {
   switch (fehler) {
     case ENOENT:
     case ENODEV:
-    case ENXIO: return "Das Gerät " + geraet + " gibt es nicht.";
+    case ENXIO: return "Das Gerät " + geraet + " gibt es nicht. Ist der Adapter eingesteckt?";
     case EACCES:
-    case EPERM: return "Kein Zugriff auf " + geraet + ": Der Benutzer muss Mitglied der Gruppe dialout sein.";
+    case EPERM:
+      return "Kein Zugriff auf " + geraet +
+             ": Ihr Konto muss zur Gruppe dialout gehören. Geben Sie in einem Terminal \"sudo adduser $USER "
+             "dialout\" ein und melden Sie sich dann ab und wieder an.";
     case EBUSY:
-    case EWOULDBLOCK: return "Das Gerät " + geraet + " ist durch ein anderes Programm belegt.";
+    case EWOULDBLOCK:
+      return "Das Gerät " + geraet +
+             " ist durch ein anderes Programm belegt: Beenden Sie es. Nach dem Einstecken eines Adapters "
+             "prüft ihn oft der ModemManager; warten Sie zehn Sekunden und versuchen Sie es noch einmal.";
     case ENOTTY:
     case EISDIR:
     case EINVAL: return geraet + " ist keine serielle Schnittstelle.";
@@ -127,7 +133,7 @@ int SioParms(int port, int parity, int stop, int bits) {
 int SioReset(int port, int /*rxSize*/, int /*txSize*/) {
   const std::string geraet = Portgeraet(port);
   if (geraet.empty()) {
-    ursache = "COM " + std::to_string(port + 1) + " ist kein Gerät zugeordnet.";
+    ursache = "COM " + std::to_string(port + 1) + " ist kein Gerät zugeordnet. Ist der Adapter eingesteckt?";
     return -ENODEV;
   }
   const int fd = Finden(port) != nullptr ? -EBUSY : Allein_oeffnen(geraet);

@@ -39,7 +39,7 @@ int SioRTS(int port, char c);
 // a negative number at once when the device has vanished.
 int SioWarten(int port, int n, int ms);
 
-// Why the last SioReset failed, as a German sentence; "" after a good one.
+// Why the last SioReset failed, and what helps, as German sentences; "" after a good one.
 const std::string& SioUrsache();
 
 }  // namespace zav

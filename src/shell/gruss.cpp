@@ -11,7 +11,7 @@ namespace {
 
 constexpr const char* leer = "---";
 constexpr const char* neuerungen =
-    "Neu in Version 9.102: Eigenschaften und Tasten für die ZAVapp, IP-Kameras, Funksender mit bis zu 16 "
+    "Neu in dieser Version: Eigenschaften und Tasten für die ZAVapp, IP-Kameras, Funksender mit bis zu 16 "
     "Empfängern, Ausgänge aus dem Funktionsfenster testen. Projekte der Generation 910 brauchen im ZAVmaster "
     "die Version 9.";
 constexpr const char* haftung =

@@ -6,14 +6,15 @@
 #include "form/oberflaeche.h"
 #include "link/adresse.h"
 #include "link/leitung.h"
-#include "platform/ports.h"
 #include "service/infofenster.h"
+#include "shell/portsuche.h"
 
 namespace zav {
 
 Setup::Setup() : Formular("Setup", "Optionen"), eth_modus_vorher_(leitung.Eth_modus) {
   Verdrahten();
   const Beschaeftigt still(*this);
+  Ports_zeigen();
   Option1.setzen(std::clamp<int>(einstellungen.Com_art, 0, 2));
   Port_gewaehlt(static_cast<std::size_t>(std::clamp<int>(einstellungen.Com_port, 1, 8) - 1));
   Text1.setzen(einstellungen.Standard_ordner);
@@ -26,6 +27,8 @@ void Setup::Verdrahten() {
   anmelden("Frame1", Frame1);
   anmelden("Option1", Option1);
   anmelden("Frame2", Frame2);
+  anmelden("Label2", Label2);
+  anmelden("Command2", Command2);
   anmelden("Frame3", Frame3);
   anmelden("Text2", Text2);
   anmelden("Text3", Text3);
@@ -43,13 +46,11 @@ void Setup::Verdrahten() {
   for (std::size_t n = 0; n < CBCOM.size(); ++n) {
     const std::string nummer = std::to_string(n + 1);
     anmelden("CBCOM" + nummer, CBCOM[n]);
-    const std::string geraet = Portgeraet(static_cast<int>(n));
     CBCOM[n].titel = "Com &" + nummer;
-    CBCOM[n].frei = leitung.Com_frei[n] == 1;
-    CBCOM[n].hinweis = "Serielle Schnittstelle des PCs zur Kommunikation mit ZAVmaster" +
-                       (geraet.empty() ? "" : " (" + geraet + ")");
     CBCOM[n].wenn_geaendert = [this, n] { Port_gewaehlt(n); };
   }
+  Command2.hinweis = "Findet den Port Ihres Adapters: ausstecken, OK, einstecken, OK";
+  Command2.wenn_gedrueckt = [this] { Port_finden(); };
   Text2.wenn_geaendert = [this] { Text2.farbe = Farbe::normal; };
   Text3.wenn_geaendert = [this] { Text3.farbe = Farbe::normal; };
   Text3.hoechstlaenge = 5;
@@ -80,6 +81,23 @@ void Setup::Port_gewaehlt(std::size_t n) {
   const Beschaeftigt still(*this);
   port_ = n;
   for (std::size_t i = 0; i < CBCOM.size(); ++i) CBCOM[i].setzen(i == n);
+}
+
+void Setup::Ports_zeigen() {
+  for (std::size_t n = 0; n < CBCOM.size(); ++n) {
+    const int port = static_cast<int>(n);
+    const std::string& ursache = leitung.Com_ursache[port];
+    CBCOM[n].frei = leitung.Com_frei[port] == 1;
+    CBCOM[n].hinweis = "Serielle Schnittstelle des PCs zur Kommunikation mit ZAVmaster" +
+                       (ursache.empty() ? "" : "\n" + ursache);
+  }
+  Label2.titel = Portliste();
+}
+
+void Setup::Port_finden() {
+  const std::optional<int> port = Port_suchen();
+  Ports_zeigen();
+  if (port) Port_gewaehlt(static_cast<std::size_t>(*port));
 }
 
 void Setup::Ordner_waehlen() {
@@ -124,7 +142,8 @@ void Setup::Zuruecknehmen() {
 }
 
 Anordnung Setup::anordnung() {
-  return Spalte(Gruppe(Frame1, Option1), Gruppe(Frame2, Raster(4, Alle(CBCOM))),
+  return Spalte(Gruppe(Frame1, Option1),
+                Gruppe(Frame2, Raster(4, Alle(CBCOM)), Zeile(Label2, Feder(), Command2)),
                 Gruppe(Frame3, Zeile(Text2, Text3, Command3), Label1), Zeile(Text1, Dir1),
                 Knopfzeile(Command1, OK, Command4));
 }

@@ -18,6 +18,8 @@ class Setup final : public Formular {
                    "Ethernet verkabelt (Timeout 10 Sek.)", "WLAN, WiFi (Timeout 15 Sek.)"}};
   Rahmen Frame2{"Serielle Schnittstelle"};
   std::array<Kaestchen, 8> CBCOM;  // one of them is ticked
+  Schild Label2;                   // what stands behind the numbers
+  Taste Command2{"&Port finden..."};
   Rahmen Frame3{"Ethernet-Verbindung zum Serial Device Server"};
   Textfeld Text2{"IP Adresse"}, Text3{"TCP Port"};
   Taste Command3{"IP &Check"};
@@ -33,6 +35,8 @@ class Setup final : public Formular {
   void Verdrahten();
   void Art_gewaehlt();
   void Port_gewaehlt(std::size_t n);
+  void Ports_zeigen();
+  void Port_finden();
   void Ordner_waehlen();
   // False after a complaint; the failing fields are tinted then. Writes host and port.
   bool Netz_pruefen(Farbe gut);
