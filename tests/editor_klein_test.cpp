@@ -2,10 +2,6 @@
 // reference.
 #include <gtest/gtest.h>
 
-#include <algorithm>
-#include <string>
-#include <vector>
-
 #include "editor/actmask.h"
 #include "editor/actmask_init.h"
 #include "editor/actmask_timer.h"
@@ -16,57 +12,35 @@
 #include "editor/ereignissuche.h"
 #include "editor/timer_trepp.h"
 #include "editor/touchpanel_referenz.h"
-#include "form/drehbuch.h"
-#include "store/sitzung.h"
+#include "projektvergleich.h"
+#include "pruefstand.h"
 
 namespace zav {
 namespace {
 
-class Kleine_editoren : public testing::Test {
- protected:
-  void SetUp() override {
-    Projekt_reset();
-    sitzung.Projekt_geaendert = 0;
-  }
-  void TearDown() override {
-    EXPECT_EQ(d.maengel(), "");
-    Projekt_reset();
-  }
-  // A Kombination with one device at its place 0.
-  void Apparat_setzen(int k, const std::string& stock, const std::string& raum, int typ, int adresse,
-                      int anzahl) {
-    projekt.Komb_typ[k] = 1;
-    projekt.Komb_text[k] = stock;
-    projekt.Komb_text2[k] = raum;
-    projekt.App_typ[16 * k] = static_cast<i16>(typ);
-    projekt.App_text[16 * k] = std::to_string(adresse);
-    projekt.App_text2[16 * k] = std::to_string(anzahl);
-  }
-  Drehbuch d;
-};
+class Kleine_editoren : public Pruefstand {};
 
 TEST_F(Kleine_editoren, TimerTimesAreCheckedOnLeavingTheField) {
   const std::string form = "Eingabe im Format HH.MM.SS oder HH.MM, Maximalwert 17.59.59";
   struct Fall {
-    const char* eingabe;
-    const char* steht_dann;
+    const char *eingabe, *steht_dann;
     std::string meldung;
-  };
+  } const faelle[] = {{"17.59.59", "17.59.59", ""},
+                      {"05.30", "05.30.00", ""},
+                      {"", "HH.MM.SS", ""},
+                      {"HH.MM.SS", "HH.MM.SS", ""},
+                      {"18.00.00", "HH.MM.SS", "Stunde zu gross"},
+                      {"18.00", "HH.MM.SS", "Stunde zu gross"},
+                      {"00.60.00", "HH.MM.SS", "Minute zu gross"},
+                      {"00.00.60", "HH.MM.SS", "Sekunde zu gross"},
+                      {"0.30", "HH.MM.SS", form},
+                      {"12:30", "HH.MM.SS", form},
+                      {"12.30:00", "HH.MM.SS", form},
+                      {"ab.cd.ef", "HH.MM.SS", form},
+                      {"-1.00.00", "HH.MM.SS", form},
+                      {"00.00.1ü", "HH.MM.SS", form}};
   Timer_trepp m;
-  for (const Fall& f : {Fall{"17.59.59", "17.59.59", ""},
-                        {"05.30", "05.30.00", ""},
-                        {"", "HH.MM.SS", ""},
-                        {"HH.MM.SS", "HH.MM.SS", ""},
-                        {"18.00.00", "HH.MM.SS", "Stunde zu gross"},
-                        {"18.00", "HH.MM.SS", "Stunde zu gross"},
-                        {"00.60.00", "HH.MM.SS", "Minute zu gross"},
-                        {"00.00.60", "HH.MM.SS", "Sekunde zu gross"},
-                        {"0.30", "HH.MM.SS", form},
-                        {"12:30", "HH.MM.SS", form},
-                        {"12.30:00", "HH.MM.SS", form},
-                        {"ab.cd.ef", "HH.MM.SS", form},
-                        {"-1.00.00", "HH.MM.SS", form},
-                        {"00.00.1ü", "HH.MM.SS", form}}) {
+  for (const Fall& f : faelle) {
     SCOPED_TRACE(f.eingabe);
     if (!f.meldung.empty()) d.erwarte({.text = f.meldung});
     m.Ttime[47].ausfuellen(f.eingabe);
@@ -78,6 +52,7 @@ TEST_F(Kleine_editoren, TimerTimesAreCheckedOnLeavingTheField) {
 TEST_F(Kleine_editoren, TimersAreNamedTimedAndGivenFunctions) {
   projekt.Timer_zeit[3] = "00.05.00";
   projekt.Tev_leer[60] = 1;  // marked in use, but without a function
+  const Projekt vorher = projekt;
   Timer_trepp m;
   EXPECT_EQ(m.titel(), "Timer Manager");
   EXPECT_EQ(m.Ttime[3].text(), "00.05.00");
@@ -92,7 +67,6 @@ TEST_F(Kleine_editoren, TimersAreNamedTimedAndGivenFunctions) {
   });
   m.Tevent[7].druecken();
   EXPECT_EQ(m.Tevent[7].farbe, Farbe::belegt);
-  EXPECT_EQ(projekt.Tev_dimmer(7, 0, 2), 30);
 
   // Enter goes on: name, times, next row; a wrong time holds it.
   m.Txtbox_timerbez[1].eingabe();
@@ -111,21 +85,19 @@ TEST_F(Kleine_editoren, TimersAreNamedTimedAndGivenFunctions) {
   d.erwarte({.text = "Eingabe im Format HH.MM.SS oder HH.MM, Maximalwert 17.59.59"});
   m.OK.druecken();
   EXPECT_TRUE(m.offen()) << "Enter does not get past a wrong time";
-  EXPECT_EQ(projekt.Timer_text[1], "");
   m.Ttime[5].eingeben("01.30");
   m.schliessen_wuenschen();
   EXPECT_FALSE(m.offen());
-  EXPECT_EQ(projekt.Timer_text[1], "Treppenhaus");
-  EXPECT_EQ(projekt.Timer_zeit[3], "");
-  EXPECT_EQ(projekt.Timer_zeit[5], "01.30.00");
-  EXPECT_EQ(projekt.Tev_leer[7], 1);
-  EXPECT_EQ(projekt.Tev_leer[60], 0);
+  EXPECT_EQ(Geaendert(vorher),
+            "Tev_leer(7)=1 Tev_leer(60)=0 Tev_funktext(7)=1 Timer_text(1)=Treppenhaus Timer_zeit(3)= "
+            "Timer_zeit(5)=01.30.00 Tev_dimmer(7,0,2)=30");
   EXPECT_EQ(sitzung.Projekt_geaendert, 1);
 }
 
 TEST_F(Kleine_editoren, RestartStates) {
   projekt.Dimmer_neustart[5] = 60;
   projekt.Relais_neustart_a[9] = 2;
+  Projekt vorher = projekt;
   Actmask_init m;
   EXPECT_EQ(m.Baugruppe.position(), 0);
   EXPECT_EQ(m.Dimmbaugruppe.eintrag(1).farbe, Farbe::belegt);
@@ -142,25 +114,22 @@ TEST_F(Kleine_editoren, RestartStates) {
   m.Text1[7].eingeben("Pumpe");
   EXPECT_EQ(m.Baugruppe.eintrag(63).farbe, Farbe::belegt);
   m.Command5.druecken();
-  EXPECT_EQ(projekt.Relais_neustart[0], 1);
-  EXPECT_EQ(projekt.Relais_neustart[510], 0);
-  EXPECT_EQ(projekt.Relais_neustart[511], 2);
-  EXPECT_EQ(projekt.Relais_text[511], "Pumpe");
-  EXPECT_EQ(projekt.Dimmer_neustart[0], 1);
-  EXPECT_EQ(projekt.Dimmer_neustart[5], 60);
-  EXPECT_EQ(projekt.Relais_neustart_a[9], 2);
+  vorher.Relais_neustart = Feld<i16, 512>(1);
+  EXPECT_EQ(Geaendert(vorher),
+            "Relais_text(511)=Pumpe Relais_neustart(504-510)=0 Relais_neustart(511)=2 Dimmer_neustart(0)=1");
 
-  const Projekt vorher = projekt;
+  vorher = projekt;
   Actmask_init abbruch;
   abbruch.Alle_512[0].druecken();
   abbruch.Text2[0].eingeben("x");
   abbruch.Command6.druecken();
-  EXPECT_TRUE(projekt == vorher);
+  EXPECT_EQ(Geaendert(vorher), "");
 }
 
 TEST_F(Kleine_editoren, ADimmerHasExactlyOneMode) {
   projekt.Dimmer_text[127] = "Spots";
   projekt.Dimmer_modus[0] = 1;
+  const Projekt vorher = projekt;
   Dimmermode m;
   EXPECT_TRUE(!m.Check1[0].an() && m.Check2[0].an());
   m.Check2[0].haken(false);
@@ -171,21 +140,23 @@ TEST_F(Kleine_editoren, ADimmerHasExactlyOneMode) {
   EXPECT_EQ(m.Lnr[15].titel, "D31-3");
   EXPECT_EQ(m.Text1[15].text(), "Spots");
   m.Check2[15].haken(true);
-  EXPECT_EQ(projekt.Dimmer_modus[0], 1) << "nothing before OK";
+  EXPECT_EQ(Geaendert(vorher), "") << "nothing before OK";
   m.OK.druecken();
-  EXPECT_EQ(projekt.Dimmer_modus[0], 0);
-  EXPECT_EQ(projekt.Dimmer_modus[127], 1);
+  EXPECT_EQ(Geaendert(vorher), "Dimmer_modus(0)=0 Dimmer_modus(127)=1");
 }
 
 TEST_F(Kleine_editoren, TheSearchFindsEveryEventOfAnOutput) {
-  Apparat_setzen(0, "EG", "Küche", 14, 12, 1);
+  kombination(0, "EG", "Küche");
+  apparat(0, 0, 14, 12);
   projekt.Dev_text[3] = "Licht";
   projekt.Ein_relais(4 * 12 + 3, 29) = 4;
-  Apparat_setzen(1, "EG", "Gang", 45, 20, 2);  // edges: offsets 2 and 3 are key 1
+  kombination(1, "EG", "Gang");
+  apparat(1, 0, 45, 20);  // edges: offsets 2 and 3 are key 1
   projekt.Dev_text[128 + 1] = "Melder";
   projekt.Ein_relais(4 * 20 + 2, 29) = 2;
   projekt.Ein_relais(4 * 20 + 3, 29) = 1;
-  Apparat_setzen(2, "Dach", "Wetter", 75, 252, 4);
+  kombination(2, "Dach", "Wetter");
+  apparat(2, 0, 75, 252);
   projekt.Ein_relais(4 * 252, 29) = 5;
   projekt.Ein_relais(4 * 252 + 15, 29) = 5;
   projekt.Ein_relais(0, 29) = 1;  // no device there
@@ -232,10 +203,12 @@ TEST_F(Kleine_editoren, TheSearchFindsEveryEventOfAnOutput) {
 }
 
 TEST_F(Kleine_editoren, TouchpanelReference) {
-  Apparat_setzen(0, "EG", "Küche", 14, 31, 1);
+  kombination(0, "EG", "Küche");
+  apparat(0, 0, 14, 31);
   projekt.Dev_text[1] = "Licht";
   projekt.Dev_text[8 * 2] = "Reserve";  // a place without a device
-  Apparat_setzen(1, "EG", "Wohnen", 65, 200, 6);
+  kombination(1, "EG", "Wohnen");
+  apparat(1, 0, 65, 200);
   projekt.Dev_text[128 + 23] = "Taste 24";  // on the places behind the sender
   projekt.Relais_text[29] = "Decke";
   projekt.Dimmer_text[127] = "Spots";
@@ -265,19 +238,17 @@ TEST_F(Kleine_editoren, TouchpanelReference) {
 TEST_F(Kleine_editoren, TheFlatEditorWorksOnAddressGroups) {
   projekt.Grp_text[17] = "Küche";
   projekt.Grp_led[17] = 0;
+  Projekt vorher = projekt;
   Einmask m;
   m.TabStrip1.waehlen(1);
   EXPECT_EQ(m.Text_grp[1].text(), "Küche");
   m.Text_ein[4 * 1 + 2].eingeben("Licht");  // makes I17 the current group
-  EXPECT_EQ(projekt.Ein_text[70], "Licht");
   EXPECT_EQ(m.Nummer[1].farbe, Farbe::aktuell);
   EXPECT_EQ(m.Frame1.titel, "I17  Küche");
   EXPECT_EQ(m.Label_bild.titel, "Feller (alt): Vierfachtaster mit LED");
   m.Combo_LED[2].waehlen("LED dauernd ein");
   m.Check_thermo.haken(true);
-  EXPECT_EQ(projekt.Ein_led[70], 641);
-  EXPECT_EQ(projekt.Grp_led[17], 1);
-  EXPECT_EQ(projekt.Grp_thermo[17], 1);
+  EXPECT_EQ(Geaendert(vorher), "Grp_led(17)=1 Grp_thermo(17)=1 Ein_text(70)=Licht Ein_led(70)=641");
 
   d.erwarte_dialog<Actmask>([](Actmask& a) {
     EXPECT_EQ(a.titel(), "Funktionen für Ereignis: Küche - Licht");
@@ -294,35 +265,30 @@ TEST_F(Kleine_editoren, TheFlatEditorWorksOnAddressGroups) {
   m.Nummer[1].druecken();
 
   const Meldung warnung{
-      .text =
-          "Alle Schalt-, Dimm- und Timerfunktionen dieses Ereignisses werden unwiderruflich "
-          "gelöscht. Die Abläufe in den Timern selbst bleiben aber erhalten. Die LEDs werden auf "
-          "'dauernd aus' gesetzt.\nAusführen?",
-      .titel = "Warnung vor dem Löschen",
-      .knoepfe = Knoepfe::Ja_Nein,
-      .symbol = Symbol::Warnung,
-      .standard = 2};
-  const Projekt vorher = projekt;
+      "Alle Schalt-, Dimm- und Timerfunktionen dieses Ereignisses werden unwiderruflich gelöscht. Die "
+      "Abläufe in den Timern selbst bleiben aber erhalten. Die LEDs werden auf 'dauernd aus' "
+      "gesetzt.\nAusführen?",
+      "Warnung vor dem Löschen", Knoepfe::Ja_Nein, Symbol::Warnung, 2};
+  vorher = projekt;
   d.erwarte(warnung, Antwort::Nein);
   m.Command_loeschen.druecken();
-  EXPECT_TRUE(projekt == vorher);
+  EXPECT_EQ(Geaendert(vorher), "");
   d.erwarte(warnung, Antwort::Ja);
   m.Command_loeschen.druecken();
   EXPECT_EQ(m.Text_ein[6].text(), "");
   EXPECT_EQ(m.Combo_LED[2].text(), "LED dauernd aus");
-  EXPECT_FALSE(Hat_funktionen(Ereignisart::Eingang, 70));
-  EXPECT_EQ(projekt.Ein_leer[70], 0);
-  EXPECT_EQ(projekt.Ein_funktext[68], 1);
-  EXPECT_EQ(projekt.Grp_text[17], "Küche");
+  EXPECT_EQ(Geaendert(vorher),
+            "Ein_text(70)= Ein_leer(70)=0 Ein_funktext(68-69)=1 Ein_funktext(71)=1 Ein_led(70)=640 "
+            "Ein_relais(70,0-7)=0");
 }
 
 TEST_F(Kleine_editoren, AMultipleSenderTakesSixGroups) {
   projekt.Grp_text[40] = "@meZweiter";
   Einmask m;
   m.Nummer[11].druecken();
-  d.erwarte({.text = "Der Mehrfachsender belegt 6 aufeinanderfolgende ZAVnummern. Die höchste wählbare "
-                     "Nummer in dieser "
-                     "Gruppe ist somit die I10"});
+  d.erwarte_text(
+      "Der Mehrfachsender belegt 6 aufeinanderfolgende ZAVnummern. Die höchste wählbare Nummer in dieser "
+      "Gruppe ist somit die I10");
   m.Command_mehrfach.druecken();
   m.Nummer[10].druecken();
   m.Command_mehrfach.druecken();
@@ -334,10 +300,9 @@ TEST_F(Kleine_editoren, AMultipleSenderTakesSixGroups) {
 
   m.TabStrip1.waehlen(2);
   m.Nummer[0].druecken();
-  d.erwarte(
-      {.text =
-           "Es ist bereits ein Mehrfachsender ab I10 definiert. Wie Sie mehrere Mehrfachsender definieren "
-           "können, finden Sie in der Anleitung zum IR-Empfänger."});
+  d.erwarte_text(
+      "Es ist bereits ein Mehrfachsender ab I10 definiert. Wie Sie mehrere Mehrfachsender definieren können, "
+      "finden Sie in der Anleitung zum IR-Empfänger.");
   m.Command_mehrfach.druecken();
   EXPECT_EQ(projekt.Grp_typ[32], 5);
   d.erwarte_dialog<Auswahl_Taster>([](Auswahl_Taster& a) { a.Bilder.waehlen("26"); });  // Beo4, another kind
@@ -349,11 +314,8 @@ TEST_F(Kleine_editoren, AMultipleSenderTakesSixGroups) {
 
   m.TabStrip1.waehlen(0);
   m.Nummer[10].druecken();
-  const Meldung frage{.text = "Mehrfachsender löschen? Alle Texte und Funktionen bleiben erhalten.",
-                      .titel = "Warnung vor dem Löschen",
-                      .knoepfe = Knoepfe::Ja_Nein,
-                      .symbol = Symbol::Warnung,
-                      .standard = 2};
+  const Meldung frage{"Mehrfachsender löschen? Alle Texte und Funktionen bleiben erhalten.",
+                      "Warnung vor dem Löschen", Knoepfe::Ja_Nein, Symbol::Warnung, 2};
   d.erwarte(frage, Antwort::Nein);
   m.Command_mehrfach.druecken();
   EXPECT_EQ(projekt.Grp_typ[10], 70);

@@ -23,6 +23,20 @@
 
 namespace zav {
 
+// A socket that listens on a free port of this machine, with that many connections waiting at the most.
+inline int Lauscher(int& port, int warteschlange = 4) {
+  const int fd = socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0);
+  sockaddr_in ort{};
+  ort.sin_family = AF_INET;
+  ort.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+  socklen_t laenge = sizeof ort;
+  auto* const adresse = reinterpret_cast<sockaddr*>(&ort);
+  EXPECT_TRUE(bind(fd, adresse, laenge) == 0 && listen(fd, warteschlange) == 0 &&
+              getsockname(fd, adresse, &laenge) == 0);
+  port = ntohs(ort.sin_port);
+  return fd;
+}
+
 class Gegenstelle {
  public:
   // Prepares the line and points the settings at it.
@@ -79,16 +93,8 @@ class Gegenstelle {
     einstellungen.Com_geraet = geraet_;
   }
   void Lauschen() {
-    lauscher_ = socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0);
-    sockaddr_in ort{};
-    ort.sin_family = AF_INET;
-    ort.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
-    ASSERT_EQ(bind(lauscher_, reinterpret_cast<sockaddr*>(&ort), sizeof ort), 0);
-    ASSERT_EQ(listen(lauscher_, 4), 0);
-    socklen_t laenge = sizeof ort;
-    getsockname(lauscher_, reinterpret_cast<sockaddr*>(&ort), &laenge);
+    lauscher_ = Lauscher(einstellungen.Host_port);
     einstellungen.Host_ip = "127.0.0.1";
-    einstellungen.Host_port = ntohs(ort.sin_port);
   }
 
   bool Bereit(int fd) const {

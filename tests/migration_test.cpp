@@ -59,14 +59,11 @@ std::string Altdatei(const std::string& version, const std::vector<const char*>&
 }
 
 Meldung Frage(const std::string& freigabe, const std::string& endung, const char* titel) {
-  return {.text = "Diese Datei wurde mit " + freigabe +
-                  " erstellt und gespeichert. Sie wird nun in der neuen ZAVlink-Version 9.102 geöffnet. Wenn "
-                  "Sie 'Ja' "
-                  "wählen, wird sie vorher unter dem gleichem Namen mit der Erweiterung " +
-                  endung + " gespeichert (empfohlen)?",
-          .titel = titel,
-          .knoepfe = Knoepfe::Ja_Nein,
-          .symbol = Symbol::Frage};
+  return {"Diese Datei wurde mit " + freigabe +
+              " erstellt und gespeichert. Sie wird nun in der neuen ZAVlink-Version 9.102 geöffnet. Wenn Sie "
+              "'Ja' wählen, wird sie vorher unter dem gleichem Namen mit der Erweiterung " +
+              endung + " gespeichert (empfohlen)?",
+          titel, Knoepfe::Ja_Nein, Symbol::Frage};
 }
 
 class Migration : public testing::Test {
@@ -148,11 +145,9 @@ TEST_F(Migration, TheCopyIsMadeBeforeOrTheFileIsNotRead) {
   std::filesystem::create_directory(ordner / "haus.70x");
   skript.erwarte(Frage("ZAVlink 7.100", ".71x", titel), Antwort::Ja);
   skript.erwarte(
-      {.text = "Der Name gehört einem Ordner. Möglicherweise existiert die Sicherungsdatei .71x bereits und "
-               "ist schreibgeschützt. Heben Sie bitte den Schreibschutz auf oder sichern Sie die Datei "
-               "manuell.",
-       .titel = "ZAVlink: Fehler 21",
-       .symbol = Symbol::Stopp});
+      {"Der Name gehört einem Ordner. Möglicherweise existiert die Sicherungsdatei .71x bereits und ist "
+       "schreibgeschützt. Heben Sie bitte den Schreibschutz auf oder sichern Sie die Datei manuell.",
+       "ZAVlink: Fehler 21", Knoepfe::OK, Symbol::Stopp});
   EXPECT_EQ(Oeffnen(bytes), Laden::nicht_gesichert);
   EXPECT_EQ(projekt.Projekt_name, ordner / "haus");
   EXPECT_EQ(projekt.Relais_text[0], "");
@@ -190,16 +185,13 @@ TEST_F(Migration, Generation500BecomesTimersAndFlags) {
 
   const auto codes = p.Ein_relais.zeile(0).first(6);
   EXPECT_EQ(std::vector<i16>(codes.begin(), codes.end()), (std::vector<i16>{2, 0, 0, 0, 0, 14}));
-  EXPECT_EQ(p.Ein_timer(0, 1), 1);
-  EXPECT_EQ(p.Ein_timer(0, 2), 1);
-  EXPECT_EQ(p.Ein_timer(0, 7), 1);
   EXPECT_EQ(p.Ein_timer(0, 0), 0);
-  EXPECT_EQ(p.Tev_relais(4, 1), 1) << "old code 6 is read as 7: timer 1";
-  EXPECT_EQ(p.Tev_relais(7, 1), 2);
-  EXPECT_EQ(p.Tev_relais(8, 3), 1);
-  EXPECT_EQ(p.Tev_relais(11, 3), 2);
-  EXPECT_EQ(p.Tev_relais(28, 4), 1);
-  EXPECT_EQ(p.Tev_relais(31, 4), 2);
+  for (const int t : {1, 2, 7}) EXPECT_EQ(p.Ein_timer(0, t), 1);
+  // Old code 6 is read as 7: timer 1.
+  for (const auto& [ereignis, relais, code] :
+       {std::array{4, 1, 1}, {7, 1, 2}, {8, 3, 1}, {11, 3, 2}, {28, 4, 1}, {31, 4, 2}}) {
+    EXPECT_EQ(p.Tev_relais(ereignis, relais), code) << ereignis;
+  }
   for (int t = 0; t < 64; ++t) {
     const bool benutzt = t == 4 || t == 7 || t == 8 || t == 11 || t == 28 || t == 31;
     EXPECT_EQ(p.Tev_leer[t], benutzt) << t;
@@ -209,16 +201,10 @@ TEST_F(Migration, Generation500BecomesTimersAndFlags) {
   EXPECT_EQ(p.Ein_dimmer(255, 31, 3), 50);
   EXPECT_EQ(p.Ein_leer[0] + p.Ein_leer[255], 2);
   EXPECT_EQ(p.Ein_leer[1] + p.Ein_leer[254], 0);
-  EXPECT_EQ(p.Uhr_relais(0, 0), 17);
-  EXPECT_EQ(p.Uhr_leer[0], 1);
-  EXPECT_EQ(p.Uhr_dimmer(1, 31, 3), 1);
-  EXPECT_EQ(p.Uhr_leer[1], 1);
-  EXPECT_EQ(p.Uhr_leer[2], 0);
-  EXPECT_EQ(p.Timer_zeit[0], "00.05.30");
-  EXPECT_EQ(p.Timer_text[0], "Timer 0");
-  EXPECT_EQ(p.Timer_text[1], "");
-  EXPECT_EQ(p.Timer_zeit[3], "");
-  EXPECT_EQ(p.Timer_zeit[6], "00.00.00");
+  EXPECT_TRUE(p.Uhr_relais(0, 0) == 17 && p.Uhr_dimmer(1, 31, 3) == 1);
+  EXPECT_TRUE(p.Uhr_leer[0] == 1 && p.Uhr_leer[1] == 1 && p.Uhr_leer[2] == 0);
+  EXPECT_EQ(p.Timer_zeit[0] + p.Timer_text[0], "00.05.30Timer 0");
+  EXPECT_EQ(p.Timer_text[1] + p.Timer_zeit[3] + p.Timer_zeit[6], "00.00.00");
   EXPECT_EQ(sitzung.Projekt_geaendert, 0);
 }
 

@@ -3,9 +3,7 @@
 
 #include <filesystem>
 #include <functional>
-#include <map>
 #include <random>
-#include <sstream>
 #include <string>
 #include <type_traits>
 #include <vector>
@@ -13,7 +11,7 @@
 #include "basis/windows1252.h"
 #include "hilfen.h"
 #include "platform/einstellungen.h"
-#include "store/felder.h"
+#include "projektvergleich.h"
 #include "store/kamera.h"
 #include "store/letzte_dateien.h"
 #include "store/projekt.h"
@@ -50,21 +48,6 @@ std::string Verbinden(const std::vector<std::string>& zeilen) {
   std::string bytes;
   for (const auto& z : zeilen) bytes += z + "\r\n";
   return bytes;
-}
-
-// Every field by its name, as text.
-std::map<std::string, std::string> Abdruck(const Projekt& p) {
-  std::map<std::string, std::string> abdruck;
-  Felder_besuchen(p, [&](const char* name, const auto& feld) {
-    std::ostringstream aus;
-    if constexpr (requires { feld.alle(); }) {
-      for (const auto& e : feld.alle()) aus << e << '|';
-    } else {
-      aus << feld;
-    }
-    abdruck[name] = aus.str();
-  });
-  return abdruck;
 }
 
 // Every value of a project different from its neighbours, and texts of all bytes that a line can hold.
@@ -196,54 +179,50 @@ TEST(Projektdatei, RoundTripIsExact) {
   Projekt gelesen;
   gelesen.Projekt_name = p.Projekt_name;
   ASSERT_TRUE(Projekt_lesen(Projekt_schreiben(p), gelesen));
-  EXPECT_EQ(Abdruck(gelesen), Abdruck(p));
+  EXPECT_EQ(Geaendert(p, gelesen), "");
 }
 
 TEST(Projektdatei, EachFieldConvertsByItsRule) {
   Projekt benutzt = Neues_projekt();
   benutzt.Ein_leer[0] = 1;
   const auto grund = Zeilen(Projekt_schreiben(benutzt));
+  struct Fall {
+    const char* text;
+    int wert;
+  };
   struct {
     std::size_t zeile;
-    const char* text;
     std::function<int(const Projekt&)> wert;
-    int soll;
-  } const faelle[] = {
-      {9, "", [](const Projekt& p) { return p.Sowi_modus[0]; }, 1},
-      {9, "2", [](const Projekt& p) { return p.Sowi_modus[0]; }, 2},
-      {9, " 2", [](const Projekt& p) { return p.Sowi_modus[0]; }, 1},
-      {9, "+2", [](const Projekt& p) { return p.Sowi_modus[0]; }, 1},
-      {9, "2.0", [](const Projekt& p) { return p.Sowi_modus[0]; }, 1},
-      {9, "-7", [](const Projekt& p) { return p.Sowi_modus[0]; }, -7},
-      {9, "0032767", [](const Projekt& p) { return p.Sowi_modus[0]; }, 32767},
-      {9, "32768", [](const Projekt& p) { return p.Sowi_modus[0]; }, 1},
-      {9, "99999999999999999999", [](const Projekt& p) { return p.Sowi_modus[0]; }, 1},
-      {756, "255", [](const Projekt& p) { return p.Ein_funktext[0]; }, 255},
-      {756, "256", [](const Projekt& p) { return p.Ein_funktext[0]; }, 0},
-      {756, "-1", [](const Projekt& p) { return p.Ein_funktext[0]; }, 0},
-      {8193, "", [](const Projekt& p) { return p.Ein_relais(0, 0); }, 0},
-      {8193, "-3", [](const Projekt& p) { return p.Ein_relais(0, 0); }, -3},
-      {8193 + 1024, "32767", [](const Projekt& p) { return p.Ein_timer(0, 0); }, 32767},
-      {8193 + 1024, "32768", [](const Projekt& p) { return p.Ein_timer(0, 0); }, 0},
-      {1040 + 9281, "", [](const Projekt& p) { return p.Ein_led[0]; }, 640},
-      {1040 + 9281, "0", [](const Projekt& p) { return p.Ein_led[0]; }, 0},
-      {1040 + 9281, "x", [](const Projekt& p) { return p.Ein_led[0]; }, 640},
-      {1040 + 10305, "", [](const Projekt& p) { return p.Ein_param(0, 0); }, 0},
-      {1040 + 10305, "x", [](const Projekt& p) { return p.Ein_param(0, 0); }, 1},
-      {1040 + 10859, "", [](const Projekt& p) { return p.Grp_typ[0]; }, 0},
-      {1040 + 10859, "x", [](const Projekt& p) { return p.Grp_typ[0]; }, 5},
-      {1040 + 11115, "1", [](const Projekt& p) { return p.Seq_manuell; }, 1},
-      {1040 + 11115, "01", [](const Projekt& p) { return p.Seq_manuell; }, 0},
-      {1040 + 11118, "", [](const Projekt& p) { return p.Store_p1; }, 120},
-      {1040 + 11118, "90", [](const Projekt& p) { return p.Store_p1; }, 90},
+    std::vector<Fall> faelle;
+  } const felder[] = {
+      {9,
+       [](const Projekt& p) { return p.Sowi_modus[0]; },
+       {{"", 1},
+        {"2", 2},
+        {" 2", 1},
+        {"+2", 1},
+        {"2.0", 1},
+        {"-7", -7},
+        {"0032767", 32767},
+        {"32768", 1},
+        {"99999999999999999999", 1}}},
+      {756, [](const Projekt& p) { return p.Ein_funktext[0]; }, {{"255", 255}, {"256", 0}, {"-1", 0}}},
+      {8193, [](const Projekt& p) { return p.Ein_relais(0, 0); }, {{"", 0}, {"-3", -3}}},
+      {8193 + 1024, [](const Projekt& p) { return p.Ein_timer(0, 0); }, {{"32767", 32767}, {"32768", 0}}},
+      {1040 + 9281, [](const Projekt& p) { return p.Ein_led[0]; }, {{"", 640}, {"0", 0}, {"x", 640}}},
+      {1040 + 10305, [](const Projekt& p) { return p.Ein_param(0, 0); }, {{"", 0}, {"x", 1}}},
+      {1040 + 10859, [](const Projekt& p) { return p.Grp_typ[0]; }, {{"", 0}, {"x", 5}}},
+      {1040 + 11115, [](const Projekt& p) { return p.Seq_manuell; }, {{"1", 1}, {"01", 0}}},
+      {1040 + 11118, [](const Projekt& p) { return p.Store_p1; }, {{"", 120}, {"90", 90}}},
   };
-  for (const auto& fall : faelle) {
-    auto zeilen = grund;
-    zeilen.at(fall.zeile - 1) = fall.text;
-    Projekt p;
-    ASSERT_TRUE(Projekt_lesen(Verbinden(zeilen), p));
-    EXPECT_EQ(fall.wert(p), fall.soll) << "line " << fall.zeile << " '" << fall.text << "'";
-    EXPECT_EQ(p.Kamera_text[99], "X");
+  for (const auto& feld : felder) {
+    for (const auto& [text, wert] : feld.faelle) {
+      auto zeilen = grund;
+      zeilen.at(feld.zeile - 1) = text;
+      Projekt p;
+      ASSERT_TRUE(Projekt_lesen(Verbinden(zeilen), p));
+      EXPECT_EQ(feld.wert(p), wert) << "line " << feld.zeile << " '" << text << "'";
+    }
   }
 
   auto zeilen = grund;
@@ -298,14 +277,12 @@ TEST(Kamera, LineIsCutAtItsMarkersAndBuiltBack) {
   Projekt p = Neues_projekt();
   p.Kamera_text[1] = "Tor@01#Nord@02#10.0.0.1@03#ohne Port@05#@09#";
   p.Kamera_text[4] = "Rest@01#";
+  const Projekt vorher = p;
   Kamera_zerlegen(p);
-  EXPECT_EQ(p.Kamera_titel[1], "Tor");
-  EXPECT_EQ(p.Kamera_ip[1], "10.0.0.1");
-  EXPECT_EQ(p.Kamera_port[1], "") << "marker missing: reset value";
-  EXPECT_EQ(p.Kamera_controlport[1], "ohne Port");
-  EXPECT_EQ(p.Kamera_aktiv[1], "");
-  EXPECT_EQ(p.Kamera_usecase[1], "0");
-  EXPECT_EQ(p.Kamera_titel[0], "");
+  EXPECT_EQ(Geaendert(vorher, p),
+            "Kamera_titel(1)=Tor Kamera_untertitel(1)=Nord Kamera_ip(1)=10.0.0.1 Kamera_controlport(1)=ohne "
+            "Port Kamera_aktiv(1)=")
+      << "a marker that is missing gives the reset value";
   p.Kamera_titel[2] = "Hof";
   Kamera_zusammensetzen(p);
   EXPECT_EQ(p.Kamera_text[0], "X");
@@ -341,15 +318,14 @@ TEST_F(Befehle, SavesAndLoadsUnderOneName) {
   EXPECT_TRUE(Dateibytes(ordner / "haus.zav") == Projekt_schreiben(projekt));
   EXPECT_EQ(einstellungen.last_file[0], Pfad_ohne_endung());
 
-  const str kennung = projekt.Projekt_kennung;
+  const Projekt gespeichert = projekt;
   einstellungen = Einstellungen{};
   projekt.Notizen = "ungespeichert";
   sitzung.Projekt_geaendert = 1;
   sitzung.Master_neu_pruefen = 0;
   ASSERT_EQ(Oeffnen("haus.zav"), Laden::geladen);
-  EXPECT_EQ(projekt.Projekt_name, Pfad_ohne_endung());
-  EXPECT_EQ(projekt.Projekt_kennung, kennung);
-  EXPECT_EQ(projekt.Notizen, Volles_projekt("910").Notizen);
+  EXPECT_EQ(projekt.Projekt_name + projekt.Projekt_kennung + projekt.Notizen,
+            gespeichert.Projekt_name + gespeichert.Projekt_kennung + gespeichert.Notizen);
   EXPECT_EQ(sitzung.Projekt_geaendert, 0);
   EXPECT_EQ(sitzung.Master_neu_pruefen, 1);
   EXPECT_EQ(sitzung.Marke, "ETB");
@@ -360,20 +336,17 @@ TEST_F(Befehle, SavesAndLoadsUnderOneName) {
 TEST_F(Befehle, SavingTellsWhatItMust) {
   projekt = Neues_projekt();
   skript.erwarte(
-      {.text = "Der Speicherort ist unvollständig. Speichern Sie diese Datei bitte mit 'Projekt speichern "
-               "unter...'.",
-       .titel = "Unvollständige Dateiinformation",
-       .symbol = Symbol::Information});
+      {"Der Speicherort ist unvollständig. Speichern Sie diese Datei bitte mit 'Projekt speichern unter...'.",
+       "Unvollständige Dateiinformation", Knoepfe::OK, Symbol::Information});
   EXPECT_EQ(Projekt_speichern(), Speichern::ohne_namen);
   EXPECT_EQ(sitzung.Speicherfehler, 1);
 
   projekt.Projekt_name = ordner / "kein/haus";
   skript.erwarte(
-      {.text = "Datei oder Ordner nicht gefunden. Die Datei mit diesem Namen ist möglicherweise "
-               "schreibgeschützt. Speichern Sie sie mit 'Projekt speichern unter...' mit einem anderen "
-               "Namen oder in einen anderen Ordner.",
-       .titel = "ZAVlink: Fehler 2",
-       .symbol = Symbol::Stopp});
+      {"Datei oder Ordner nicht gefunden. Die Datei mit diesem Namen ist möglicherweise schreibgeschützt. "
+       "Speichern Sie sie mit 'Projekt speichern unter...' mit einem anderen Namen oder in einen anderen "
+       "Ordner.",
+       "ZAVlink: Fehler 2", Knoepfe::OK, Symbol::Stopp});
   EXPECT_EQ(Projekt_speichern(), Speichern::nicht_angelegt);
   EXPECT_EQ(projekt.Projekt_name, "Namenlos");
   EXPECT_EQ(skript.pieptoene(), 1);
@@ -388,11 +361,9 @@ TEST_F(Befehle, SavingTellsWhatItMust) {
 
 TEST_F(Befehle, LoadingTellsWhatItMust) {
   const Meldung unbekannt{
-      .text =
-          "Öffnen nicht möglich: diese Datei wurde evtl. mit einer neueren Version von ZAVlink erstellt und "
-          "gespeichert.\r\n\r\n",
-      .titel = "Info",
-      .symbol = Symbol::Information};
+      "Öffnen nicht möglich: diese Datei wurde evtl. mit einer neueren Version von ZAVlink erstellt und "
+      "gespeichert.\r\n\r\n",
+      "Info", Knoepfe::OK, Symbol::Information};
   projekt.Datei_version = "910";
   Datei_anlegen(ordner / "kurz.zav", "nur eine Zeile\r\n");
   skript.erwarte(unbekannt);
@@ -413,8 +384,7 @@ TEST_F(Befehle, LoadingTellsWhatItMust) {
   skript.erwarte(unbekannt);
   EXPECT_EQ(Oeffnen("lang.zav"), Laden::unbekannt);
 
-  skript.erwarte(
-      {.text = "Datei oder Ordner nicht gefunden", .titel = "ZAVlink: Fehler 2", .symbol = Symbol::Stopp});
+  skript.erwarte({"Datei oder Ordner nicht gefunden", "ZAVlink: Fehler 2", Knoepfe::OK, Symbol::Stopp});
   EXPECT_EQ(Oeffnen("fehlt.zav"), Laden::nicht_geoeffnet);
   EXPECT_EQ(projekt.Projekt_name, "Namenlos");
   EXPECT_EQ(skript.pieptoene(), 4);
@@ -439,14 +409,11 @@ TEST_F(Befehle, Generation800IsAnnouncedAndItsDimmersCorrectedWithoutTheMarker) 
   Datei_anlegen(ordner / "haus.zav", Verbinden(zeilen));
   zeilen[2] = "";
   Datei_anlegen(ordner / "alt.zav", Verbinden(zeilen));
-  const Meldung hinweis{.text =
-                            "Diese Datei wurde mit ZAVlink 8 erstellt und wird weiterhin so gespeichert. "
-                            "Wenn Sie die neuen Funktionen "
-                            "von ZAVlink-Version 9.102 nutzen möchten, wählen Sie 'Speichern unter' und den "
-                            "Dateityp 9. Achtung: Das "
-                            "Betriebssystem des ZAVmasters muss auf die Version 9 aufgerüstet werden.",
-                        .titel = "Öffnen mit der neuen Version von ZAVlink",
-                        .symbol = Symbol::Information};
+  const Meldung hinweis{
+      "Diese Datei wurde mit ZAVlink 8 erstellt und wird weiterhin so gespeichert. Wenn Sie die neuen "
+      "Funktionen von ZAVlink-Version 9.102 nutzen möchten, wählen Sie 'Speichern unter' und den Dateityp 9. "
+      "Achtung: Das Betriebssystem des ZAVmasters muss auf die Version 9 aufgerüstet werden.",
+      "Öffnen mit der neuen Version von ZAVlink", Knoepfe::OK, Symbol::Information};
 
   skript.erwarte(hinweis);
   ASSERT_EQ(Oeffnen("haus.zav"), Laden::geladen);

@@ -1,4 +1,5 @@
-// Whole transfers to the simulated master, over a real socket and a real pseudo-terminal.
+// Whole transfers to the simulated master, over a real socket and a real pseudo-terminal. Faults of the line
+// are put on every exchange in jeder_austausch_test.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -6,13 +7,10 @@
 
 #include "basis/zahl.h"
 #include "hilfen.h"
-#include "link/leitung.h"
-#include "platform/einstellungen.h"
 #include "platform/uhrwerk.h"
-#include "simulator/simulator.h"
 #include "store/sitzung.h"
+#include "testmaster.h"
 #include "transfer/uebertragung.h"
-#include "transfer/uhr_stellen.h"
 
 namespace zav {
 namespace {
@@ -37,27 +35,17 @@ class Mitschrift : public Beobachter {
 };
 
 const Meldung neustartfrage{
-    .text =
-        "Im ZAVmaster einen Neustart durchführen? 'Ja', wenn Schaltzeiten und Timer aktualisiert werden "
-        "sollen. 'Nein', wenn nur Ausgangsverknüpfungen geändert wurden.",
-    .titel = "Neustart ZAVmaster?",
-    .knoepfe = Knoepfe::Ja_Nein_Abbrechen,
-    .symbol = Symbol::Frage};
-const Meldung loeschfrage{
-    .text = "Der ZAVmaster enthält anschliessend keine Daten mehr! Möchten Sie fortfahren?",
-    .titel = "ZAVlink",
-    .knoepfe = Knoepfe::Ja_Nein,
-    .symbol = Symbol::Warnung,
-    .standard = 2};
-Meldung Fehlerbox(const std::string& text) {
-  return {.text = text, .titel = "Fehler", .symbol = Symbol::Stopp};
-}
+    "Im ZAVmaster einen Neustart durchführen? 'Ja', wenn Schaltzeiten und Timer aktualisiert werden sollen. "
+    "'Nein', wenn nur Ausgangsverknüpfungen geändert wurden.",
+    "Neustart ZAVmaster?", Knoepfe::Ja_Nein_Abbrechen, Symbol::Frage};
+const Meldung loeschfrage{"Der ZAVmaster enthält anschliessend keine Daten mehr! Möchten Sie fortfahren?",
+                          "ZAVlink", Knoepfe::Ja_Nein, Symbol::Warnung, 2};
+Meldung Fehlerbox(const std::string& text) { return {text, "Fehler", Knoepfe::OK, Symbol::Stopp}; }
 
 class Transfer : public ::testing::Test {
  protected:
   Transfer() {
-    sim.start();
-    Tcp();
+    sim.verbinden();
     Heute_setzen({2026, 5, 4});
     Zeitraffer_setzen(40);
     sitzung = {};
@@ -89,17 +77,6 @@ class Transfer : public ::testing::Test {
     leitung = {};
   }
 
-  void Tcp() {
-    einstellungen.Com_art = 1;
-    einstellungen.Host_ip = "127.0.0.1";
-    einstellungen.Host_port = sim.tcp_port();
-    Com_art_setzen();
-  }
-  void Seriell() {
-    einstellungen.Com_art = 0;
-    einstellungen.Com_geraet = sim.pty_name();
-    Com_art_setzen();
-  }
   // The master knows this project already.
   void Synchron() { sim.speicher_setzen(0x800, {0x00, 0x11, 0x22, 0x33, 0xAA, 0xBB, 0xCC, 0xDD}); }
 
@@ -122,10 +99,7 @@ class Transfer : public ::testing::Test {
   // The master holds what the line of the image says.
   bool Angekommen(const std::string& zeile) const {
     std::istringstream worte(zeile);
-    std::string befehl;
-    std::string von;
-    std::string bis;
-    std::string ziffern;
+    std::string befehl, von, bis, ziffern;
     worte >> befehl;
     if (befehl != "W") return worte >> ziffern && sim.block(befehl) == ziffern;
     worte >> von >> bis >> ziffern;
@@ -147,20 +121,20 @@ class Transfer : public ::testing::Test {
 
   Testordner ordner;
   Meldungsskript skript;
-  simulator::Simulator sim{{.pty = true}};
+  Testmaster sim;
   Mitschrift mitschrift;
   Uebertragung u{mitschrift};
 };
 
 TEST_F(Transfer, ZuerstAllesDannNurWasSichAendert) {
-  for (const bool seriell : {false, true}) {
-    seriell ? Seriell() : Tcp();
+  for (const Verbindung art : {Verbindung::tcp, Verbindung::com}) {
+    sim.verbinden(art);
     Synchron();
     projekt.Uhr_tabelle_geaendert = 1;
-    for (auto& f : projekt.Ein_funktext.alle()) f = 1;
-    for (auto& f : projekt.Uhr_funktext.alle()) f = 1;
-    for (auto& f : projekt.Tev_funktext.alle()) f = 1;
-    for (auto& f : projekt.Grp_led.alle()) f = 1;
+    for (auto f : {projekt.Ein_funktext.alle(), projekt.Uhr_funktext.alle(), projekt.Tev_funktext.alle()}) {
+      std::ranges::fill(f, u8{1});
+    }
+    std::ranges::fill(projekt.Grp_led.alle(), i16{1});
     const auto alles = Abbildzeilen(false);
     Sendet_alles();
     Speicher_ist_abbild(alles);
@@ -174,7 +148,7 @@ TEST_F(Transfer, ZuerstAllesDannNurWasSichAendert) {
     for (const auto& m : sim.mitschrift()) befehle.push_back(m.substr(0, m.starts_with("D") ? 7 : 1));
     const std::vector<std::string> soll{"i", "V",       "D000800", "R",       "A", "Q", "T",       "P", "H",
                                         "M", "D006000", "W",       "D362000", "W", "L", "D000800", "W"};
-    if (seriell) {
+    if (art == Verbindung::com) {
       EXPECT_EQ(befehle.front(), "%");
       befehle.erase(befehle.begin());
     }
@@ -205,102 +179,30 @@ TEST_F(Transfer, ZuerstAllesDannNurWasSichAendert) {
   EXPECT_TRUE(mitschrift.frei);
 }
 
-TEST_F(Transfer, NachEinemFehlerGehtDerRest) {
-  struct Fall {
-    const char* regel;
-    const char* meldung;
-  };
-  const Fall faelle[] = {
-      {"stumm@i", "F98: Keine Antwort vom ZAVmaster"},
-      {"F99@i", "F99: Neustart im ZAVmaster wurde durchgeführt"},
-      {"F06@D1",
-       "F06: Wertebereich der Buffer-/Pageadresse falsch oder Endadresse kleiner als Startadresse."},
-      {"kurz@R", "F98: Keine Antwort vom ZAVmaster"},
-      {"F02@A", "F02: Buffer Overrun im RAM"},
-      {"F07@Qx10", "F07: Prüfsumme im ZAVmaster falsch."},
-      {"trenn@M", "F98: Keine Antwort vom ZAVmaster"},
-      {"F44@LS", "Fxx: Undefinierbarer Fehler"},
-      {"muell@W4", "Fxx: Undefinierbarer Fehler"},
-      {"lang@D12", "Fxx: Undefinierbarer Fehler"},
-      {"verloren@W20", "F98: Keine Antwort vom ZAVmaster"},
-      {"trenn@W31", "F98: Keine Antwort vom ZAVmaster"},
-      {"F64@W46", "F64: Buffer ist grösser als 527."},
-      {"stumm@D48", "F98: Keine Antwort vom ZAVmaster"},
-  };
-  const Projekt vorher = projekt;
-  for (const Fall& fall : faelle) {
-    SCOPED_TRACE(fall.regel);
-    projekt = vorher;
-    sim.speicher_setzen(0, simulator::Bytes(0x400));
-    Synchron();
-    const auto alles = Abbildzeilen(true);
-    sim.fehler_setzen({fall.regel});
-    skript.erwarte(Fehlerbox(fall.meldung));
-    EXPECT_EQ(Senden(), Sendeergebnis::gescheitert);
-    EXPECT_TRUE(mitschrift.frei);
-    EXPECT_EQ(mitschrift.stand, Fortschritt{});
-    EXPECT_FALSE(Nichts_vorgemerkt());
-    // What is no longer flagged has arrived.
-    const auto rest = Abbildzeilen(true);
-    for (const auto& zeile : alles) {
-      EXPECT_TRUE(std::ranges::find(rest, zeile) != rest.end() || Angekommen(zeile)) << zeile.substr(0, 60);
-    }
-    sim.fehler_setzen({});
-    Sendet_alles();
-    Speicher_ist_abbild(alles);
-    EXPECT_TRUE(Nichts_vorgemerkt());
-  }
-}
-
-TEST_F(Transfer, SchaltzeitenGehenGanzOderNocheinmal) {
-  Synchron();
-  projekt.Uhr_tabelle_geaendert = 1;
-  sim.fehler_setzen({"F03@W374"});  // weather, dates, then page 372
-  skript.erwarte(Fehlerbox("F03: Overrun-, Noise- oder Frame-Fehler auf RS 232"));
-  EXPECT_EQ(Senden(), Sendeergebnis::gescheitert);
-  EXPECT_EQ(projekt.Uhr_tabelle_geaendert, 1);
-  EXPECT_EQ(projekt.Ein_funktext[0], 1);
-  sim.fehler_setzen({"F07@W3x2"});  // mended on the way
-  const auto alles = Abbildzeilen(true);
-  Sendet_alles();
-  Speicher_ist_abbild(alles);
-  EXPECT_EQ(mitschrift.korrigiert, 2);
-  EXPECT_TRUE(Nichts_vorgemerkt());
-}
-
 TEST_F(Transfer, WasVorDemErstenBlockEndet) {
   const Projekt vorher = projekt;
   projekt.Projekt_name = "Namenlos";
-  skript.erwarte({.text = "Sie sollten das aktuelle Projekt vorher speichern.",
-                  .titel = "Information",
-                  .symbol = Symbol::Information});
+  skript.erwarte({"Sie sollten das aktuelle Projekt vorher speichern.", "Information", Knoepfe::OK,
+                  Symbol::Information});
   EXPECT_EQ(Senden(), Sendeergebnis::nicht_gespeichert);
   EXPECT_TRUE(sim.zaehler().empty());
   projekt = vorher;
 
   struct Fall {
-    const char* datei_version;
-    const char* master;
+    const char *datei_version, *master;
     bool passt;
-  };
-  for (const Fall& f : {Fall{"910", "REV 09.04", true},
-                        {"900", "REV 09.0x", true},
-                        {"800", "REV 08.01", true},
-                        {"800", "REV 09.04", false},
-                        {"910", "REV 08.01", false},
-                        {"910", "REV 09.10", false},
-                        {"710", "REV 09.04", false},
-                        {"", "REV 09.04", false}}) {
+  } const faelle[] = {{"910", "REV 09.04", true},  {"900", "REV 09.0x", true},  {"800", "REV 08.01", true},
+                      {"800", "REV 09.04", false}, {"910", "REV 08.01", false}, {"910", "REV 09.10", false},
+                      {"710", "REV 09.04", false}, {"", "REV 09.04", false}};
+  for (const Fall& f : faelle) {
     SCOPED_TRACE(std::string(f.datei_version) + " " + f.master);
     projekt.Datei_version = f.datei_version;
     sim.version_setzen(f.master);
-    const bool leer = projekt.Datei_version.empty();
-    if (f.passt) {
-      skript.erwarte({.text = "PC und ZAVmaster sind nicht synchronisiert. Bitte zuerst Initialisieren."});
-    } else {
-      skript.erwarte(Fehlerbox(leer ? "Bitte die Konfiguration vorher speichern"
-                                    : "Version ZAVmaster ist nicht kompatibel zur PC-Software ZAVlink!"));
-    }
+    skript.erwarte(f.passt
+                       ? Meldung{"PC und ZAVmaster sind nicht synchronisiert. Bitte zuerst Initialisieren."}
+                   : projekt.Datei_version.empty()
+                       ? Fehlerbox("Bitte die Konfiguration vorher speichern")
+                       : Fehlerbox("Version ZAVmaster ist nicht kompatibel zur PC-Software ZAVlink!"));
     EXPECT_EQ(Senden(), f.passt ? Sendeergebnis::nicht_synchron : Sendeergebnis::falsche_version);
     EXPECT_EQ(u.Transfer_status == Transferstand::falsche_version, !f.passt);
     u.Transfer_status = Transferstand::bereit;
@@ -327,18 +229,18 @@ TEST_F(Transfer, ZuBreiteWerte) {
   EXPECT_EQ(sim.anzahl("H"), 1U);
   EXPECT_EQ(sim.anzahl("M"), 0U);
   projekt.Dimmer_neustart[1] = 300;
-  skript.erwarte({.text = "Ungültige Daten!", .titel = "Senden", .symbol = Symbol::Stopp});
+  skript.erwarte({"Ungültige Daten!", "Senden", Knoepfe::OK, Symbol::Stopp});
   skript.erwarte(Fehlerbox("F01: Unbekannter Befehl oder letztes Zeichen nicht <CR>"));
   EXPECT_EQ(Senden(), Sendeergebnis::gescheitert);
   EXPECT_EQ(sim.mitschrift().back(), "Q0000");
+  EXPECT_EQ(mitschrift.stand, Fortschritt{});
 }
 
 TEST_F(Transfer, SperrenUndNeustart) {
   Synchron();
   u.Check1 = true;
   skript.erwarte(neustartfrage, Antwort::Ja);
-  skript.erwarte(
-      {.text = "F99: Neustart im ZAVmaster war erfolgreich", .titel = "Info", .symbol = Symbol::Information});
+  skript.erwarte({"F99: Neustart im ZAVmaster war erfolgreich", "Info", Knoepfe::OK, Symbol::Information});
   EXPECT_EQ(Senden(), Sendeergebnis::gesendet);
   EXPECT_EQ(sim.neustarts(), 1);
   EXPECT_FALSE(sim.gesperrt());
@@ -351,8 +253,8 @@ TEST_F(Transfer, SperrenUndNeustart) {
 }
 
 TEST_F(Transfer, InitialisierenUndSenden) {
-  for (const bool seriell : {false, true}) {
-    seriell ? Seriell() : Tcp();
+  for (const Verbindung art : {Verbindung::tcp, Verbindung::com}) {
+    sim.verbinden(art);
     sim.speicher_setzen(0x8000, simulator::Bytes(100, 0xAB));
     projekt.Ein_funktext[1] = 1;  // no function: need not go after an erase
     skript.erwarte(loeschfrage, Antwort::Nein);
@@ -360,7 +262,7 @@ TEST_F(Transfer, InitialisierenUndSenden) {
     EXPECT_EQ(sim.speicher(0x8000, 1)[0], 0xAB);
 
     skript.erwarte(loeschfrage, Antwort::Ja);
-    skript.erwarte({.text = "Senden ist jetzt möglich", .titel = "Info", .symbol = Symbol::Information});
+    skript.erwarte({"Senden ist jetzt möglich", "Info", Knoepfe::OK, Symbol::Information});
     EXPECT_TRUE(u.Initialisieren());
     EXPECT_EQ(sim.speicher(0x8000, 1)[0], 0);
     EXPECT_EQ(mitschrift.stand.aktuell, 100);
@@ -382,22 +284,15 @@ TEST_F(Transfer, InitialisierenUndSenden) {
 TEST_F(Transfer, InitialisierenMitFehlern) {
   sim.flash_defekt();
   skript.erwarte(loeschfrage, Antwort::Ja);
-  skript.erwarte({.text = "Fehler im Flash, trotzdem senden?", .titel = "Info", .symbol = Symbol::Stopp});
+  skript.erwarte({"Fehler im Flash, trotzdem senden?", "Info", Knoepfe::OK, Symbol::Stopp});
   EXPECT_TRUE(u.Initialisieren());
   EXPECT_EQ(u.Transfer_status, Transferstand::flash_fehler);
   EXPECT_EQ(u.Nach_initialisierung, 1);
 
-  const Meldung timeout{
-      .text = "Timeout, keine Verbindung mit ZAVmaster!", .titel = "Info", .symbol = Symbol::Stopp};
-  for (const char* regel : {"stumm@EI", "trenn@EI", "stumm@V"}) {
-    u.Nach_initialisierung = 0;
-    sim.fehler_setzen({regel});
-    skript.erwarte(loeschfrage, Antwort::Ja);
-    skript.erwarte(timeout);
-    EXPECT_FALSE(u.Initialisieren()) << regel;
-    EXPECT_EQ(u.Nach_initialisierung, 0);
-    EXPECT_TRUE(mitschrift.frei);
-  }
+  sim.fehler_setzen({"stumm@V"});
+  skript.erwarte(loeschfrage, Antwort::Ja);
+  skript.erwarte({"Timeout, keine Verbindung mit ZAVmaster!", "Info", Knoepfe::OK, Symbol::Stopp});
+  EXPECT_FALSE(u.Initialisieren());
   sim.fehler_setzen({});
   sim.version_setzen("REV 08.01");
   skript.erwarte(loeschfrage, Antwort::Ja);
@@ -405,31 +300,6 @@ TEST_F(Transfer, InitialisierenMitFehlern) {
       Fehlerbox("Version ZAVmaster (REV 08.01) ist nicht kompatibel zur PC-Software ZAVlink-Version 9.102"));
   EXPECT_FALSE(u.Initialisieren());
   EXPECT_EQ(u.Transfer_status, Transferstand::falsche_version);
-}
-
-TEST_F(Transfer, UhrStellen) {
-  const Meldung frage{.text = "Im ZAVmaster einen Neustart durchführen (nur so werden Änderungen wirksam)?",
-                      .titel = "Neustart ZAVmaster?",
-                      .knoepfe = Knoepfe::Ja_Nein_Abbrechen,
-                      .symbol = Symbol::Frage};
-  Uhrstellung uhr{
-      .Akt_zeit_text = "08:15:30", .Akt_datum_text = "04.05.2026", .Akt_wochentag = 0, .Richt_modus = 1};
-  uhr.Sowi_datum = Sowi_daten_berechnen(2026);
-  uhr.Sowi_datum[19] = "";
-  for (const bool seriell : {false, true}) {
-    seriell ? Seriell() : Tcp();
-    sim.mitschrift_leeren();
-    skript.erwarte(frage, Antwort::Abbrechen);
-    EXPECT_TRUE(Uhr_stellen(uhr));
-    EXPECT_EQ(sim.mitschrift().front(), seriell ? "%" : "i");
-    EXPECT_EQ(sim.uhr(), "3015081004052600");
-    EXPECT_EQ(sim.speicher(0x362000, 3), (simulator::Bytes{1, 0x26, 0x22}));
-    EXPECT_EQ(sim.speicher(0x362000 + 39, 2), (simulator::Bytes{0xFF, 0xFF}));
-  }
-  sim.fehler_setzen({"stumm@U"});
-  skript.erwarte(Fehlerbox("F98: Keine Antwort vom ZAVmaster"));
-  EXPECT_FALSE(Uhr_stellen(uhr));
-  EXPECT_EQ(skript.zeiger(), Zeiger::normal);
 }
 
 }  // namespace

@@ -1,0 +1,51 @@
+// A fresh program for tests of forms and commands: an empty project, default settings, a scripted user.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "form/drehbuch.h"
+#include "link/leitung.h"
+#include "platform/einstellungen.h"
+#include "platform/uhrwerk.h"
+#include "store/katalog.h"
+#include "store/projekt.h"
+#include "store/sitzung.h"
+
+namespace zav {
+
+class Pruefstand : public testing::Test {
+ protected:
+  Pruefstand() {
+    Projekt_reset();
+    projekt.Datei_version = "910";
+    sitzung = {};
+    einstellungen = {};
+    leitung = {};
+    Com_art_setzen();
+    Heute_setzen({2026, 5, 4});
+  }
+  ~Pruefstand() override {
+    EXPECT_EQ(d.maengel(), "");
+    Zeitraffer_setzen(1);
+    Projekt_reset();
+  }
+
+  static void kombination(int k, const std::string& standort, const std::string& raum, int layout = 16) {
+    projekt.Komb_typ[k] = 1;
+    projekt.Komb_text[k] = standort;
+    projekt.Komb_text2[k] = raum;
+    projekt.Komb_layout[k] = static_cast<i16>(layout);
+  }
+  // At place p of Kombination k; adresse -1 = none yet.
+  static void apparat(int k, int p, int typ, int adresse) {
+    projekt.App_typ[16 * k + p] = static_cast<i16>(typ);
+    projekt.App_text[16 * k + p] = adresse < 0 ? "" : std::to_string(adresse);
+    projekt.App_text2[16 * k + p] = std::to_string(Apparat_art(typ)->adressen);
+  }
+
+  Drehbuch d;
+};
+
+}  // namespace zav
