@@ -16,6 +16,7 @@
 
 #include "basis/text.h"
 #include "befehlszeile.h"
+#include "klartext.h"
 #include "platform/einstellungen.h"
 #include "platform/ports.h"
 #include "platform/uhrwerk.h"
@@ -91,6 +92,20 @@ class Zav_mit_master : public Zav {
 };
 
 // ---- use --------------------------------------------------------------------------------------------------
+
+TEST(Klartext, LetsNothingSteerTheTerminal) {
+  std::stringstream ziel;
+  Klartextpuffer puffer(*ziel.rdbuf());
+  std::ostream aus(&puffer);
+  aus << "Küche\tÄ € \r\n"
+      << "\x1b[2J" << '\a' << "\rx\x7f"
+      << "\xC2\x9B"
+         "31m\xC2\xA0"
+      << 7 << std::endl;
+  EXPECT_EQ(ziel.str(),
+            "Küche\tÄ € \r\n?[2J??x??31m\xC2\xA0"
+            "7\n");
+}
 
 TEST_F(Zav, WrongUseIsTwoWithAGermanReason) {
   struct Fall {

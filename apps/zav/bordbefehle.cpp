@@ -144,6 +144,7 @@ Ausfuehrung Befehl_update(CLI::App& app) {
     const Abbruchwache wache([] { laufendes_update->Abbruch = true; });
     const Updateergebnis ergebnis = update.Ausfuehren(a->host.empty() ? Updateweg::com : Updateweg::ethernet,
                                                       std::filesystem::absolute(a->datei).string());
+    laufendes_update = nullptr;
     return ergebnis == Updateergebnis::fertig;
   };
 }

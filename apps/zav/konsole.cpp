@@ -8,6 +8,7 @@
 
 #include "basis/text.h"
 #include "form/formular.h"
+#include "klartext.h"
 
 namespace zav {
 
@@ -90,7 +91,7 @@ void Konsole::Hinweis(const std::string& text) {
 
 void Konsole::Zeile(std::string_view text) {
   Fortschritt_ende();
-  geraet_.fehler << text << '\n' << std::flush;
+  geraet_.fehler << (geraet_.fehler_terminal ? Klartext(text) : std::string(text)) << '\n' << std::flush;
 }
 
 void Konsole::Protokoll(std::string_view zeile) {
@@ -110,7 +111,7 @@ void Konsole::Fortschritt_zeigen(double gesamt, std::string_view taetigkeit) {
 
 void Konsole::Fluechtige_zeile(std::string text) {
   if (text == fluechtig_) return;
-  geraet_.fehler << zeile_loeschen << text << std::flush;
+  geraet_.fehler << zeile_loeschen << Klartext(text) << std::flush;
   fluechtig_ = std::move(text);
 }
 
