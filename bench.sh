@@ -43,6 +43,7 @@ Laden_gegen_wc|verhaeltnis|<=|10
 Laden_gegen_wc|ms|<=|50
 Speichern_gegen_fsync|verhaeltnis|<=|3
 Uebersetzen_voll|mal_memcpy|<=|10
+Schaltzeiten_eines_jahres|Zeit|<=|10
 Transfer_tcp|mal_nackt|<=|1.3
 Transfer_pty|mal_nackt|<=|1.3
 Transfer_115200|boden_zu_gemessen|>=|0.98
@@ -54,4 +55,5 @@ Adressdialog_oeffnen|Zeit|<=|16
 Oeffnen_und_OK|Zeit|<=|150
 Suchen|Zeit|<=|150
 Editor_oeffnen_und_schliessen|Zeit|<=|150
+Deskriptor|build_ms|<=|50
 ZIELE
