@@ -7,6 +7,8 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QHelpEvent>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
 #include <QMessageBox>
@@ -14,8 +16,13 @@
 #include <QPushButton>
 #include <QTabBar>
 #include <QTest>
+#include <QTextDocument>
 #include <QTimer>
+#include <QToolTip>
 #include <QTreeWidget>
+#include <QTreeWidgetItemIterator>
+#include <algorithm>
+#include <cctype>
 #include <cstdlib>
 #include <deque>
 #include <filesystem>
@@ -28,6 +35,7 @@
 #include "platform/einstellungen.h"
 #include "service/init_flash.h"
 #include "simulator/simulator.h"
+#include "store/felder.h"
 #include "store/funktionen.h"
 #include "store/katalog.h"
 #include "store/projektdatei.h"
@@ -107,6 +115,49 @@ TEST_F(Alle_fenster, ZeigenJedesElementGenauEinmalUndPassenAufEinenKleinenSchirm
           << element->name() << " has no name to be read aloud";
     }
   }
+}
+
+// A project's texts must not become markup: a picture that it names would be opened as a file.
+TEST_F(Alle_fenster, ZeigenMarkierungenAlsText) {
+  const std::string name = projekt.Projekt_name;
+  Felder_besuchen(projekt, []<class T>(std::string_view, T& feld) {
+    if constexpr (requires { feld.alle(); }) {
+      for (auto& e : feld.alle()) {
+        if constexpr (std::is_same_v<std::remove_reference_t<decltype(e)>, str>) {
+          if (std::ranges::any_of(e, [](unsigned char c) { return std::isalpha(c); })) e = "<img src='/x'>";
+        }
+      }
+    }
+  });
+  projekt.Projekt_name = name;
+  int gesehen = 0;
+  const auto pruefen = [&gesehen](const QString& tipp) {
+    gesehen += tipp.contains("img");
+    QTextDocument bild;
+    bild.setHtml(tipp);
+    EXPECT_TRUE(!Qt::mightBeRichText(tipp) || bild.toPlainText().contains("<img")) << S(tipp);
+  };
+  for (const Schaustueck& stueck : Formenschau()) {
+    SCOPED_TRACE(stueck.name);
+    const auto form = stueck.bauen();
+    Formfenster fenster(*form, nullptr);
+    fenster.show();
+    laufen_lassen();
+    for (auto* const w : fenster.findChildren<QWidget*>()) {
+      pruefen(w->toolTip());
+      if (const auto* const schild = qobject_cast<const QLabel*>(w)) {
+        EXPECT_TRUE(schild->textFormat() == Qt::PlainText || !Qt::mightBeRichText(schild->text()));
+      }
+      QHelpEvent frage(QEvent::ToolTip, w->rect().center(), w->mapToGlobal(w->rect().center()));
+      QApplication::sendEvent(w, &frage);
+      pruefen(QToolTip::text());
+      if (const auto* const baum = qobject_cast<const QTreeWidget*>(w)) {
+        for (QTreeWidgetItemIterator z(const_cast<QTreeWidget*>(baum)); *z != nullptr; ++z)
+          pruefen((*z)->toolTip(0));
+      }
+    }
+  }
+  EXPECT_GT(gesehen, 5);
 }
 
 // What the widget shows of a control, as text; nothing for those that show no value.

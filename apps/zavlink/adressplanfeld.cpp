@@ -87,6 +87,7 @@ QWidget* Adressplanfeld_bauen(const Anordnung& a, Auffrischer& auf, QWidget* elt
   auto* const karte =
       new Adressplanfeld(dynamic_cast<const Dialog_Kombination&>(*zellen.formular()), zellen, w);
   auto* const zeile = new QLabel(QStringLiteral(" "), w);
+  zeile->setTextFormat(Qt::PlainText);
   spalte->addWidget(karte, 1);
   spalte->addWidget(zeile);
   QObject::connect(karte, &Kartenfeld::gezeigt, zeile, [karte, zeile](int i) {

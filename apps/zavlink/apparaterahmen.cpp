@@ -123,7 +123,7 @@ class Apparaterahmen final : public Zellenfeld {
     if (e->type() != QEvent::ToolTip) return QWidget::event(e);
     auto* const hilfe = static_cast<QHelpEvent*>(e);
     const int i = zelle_bei(hilfe->pos());
-    QToolTip::showText(hilfe->globalPos(), i < 0 ? QString() : titel(i), this);
+    QToolTip::showText(hilfe->globalPos(), i < 0 ? QString() : Tipp(titel(i)), this);
     return true;
   }
 

@@ -51,7 +51,7 @@ void Baumfeld::neu_fuellen() {
       else ast->insertChild(blaetter.at(eltern)++, zweig);
     }
     zweig->setText(0, Q(k.text));
-    zweig->setToolTip(0, Q(k.text));
+    zweig->setToolTip(0, Tipp(Q(k.text)));
     zweig->setData(0, Qt::UserRole, Q(k.schluessel));
     if (!k.bild.empty()) zweig->setIcon(0, Symbolbild(k.bild));
     zweige_.push_back(zweig);

@@ -59,6 +59,7 @@ QWidget* Bilderwahl_bauen(const Anordnung& a, Auffrischer& auf, QWidget* eltern,
   spalte->setSpacing(raster);
   auto* const karte = new Bilderwahl(bilder, std::move(typen), w);
   auto* const zeile = new QLabel(QStringLiteral(" "), w);
+  zeile->setTextFormat(Qt::PlainText);
   QFont schrift = zeile->font();
   schrift.setBold(true);
   zeile->setFont(schrift);

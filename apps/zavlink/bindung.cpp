@@ -77,7 +77,7 @@ void Handeln(Steuerelement& e, const std::function<void()>& tat) {
 void Gemeinsames(QWidget& w, const Steuerelement& e) {
   w.setEnabled(e.frei);
   if (w.isVisibleTo(w.parentWidget()) != *e.sichtbar || w.isHidden() == *e.sichtbar) w.setVisible(e.sichtbar);
-  w.setToolTip(Q(*e.hinweis));
+  w.setToolTip(Tipp(Q(*e.hinweis)));
   w.setObjectName(Q(e.name()));
   const QString titel = Ohne_kuerzel(Q(*e.titel));
   if (!titel.isEmpty()) {
@@ -263,7 +263,7 @@ QAction* Aktion_bauen(Steuerelement& e, Auffrischer& auf, QObject* eltern) {
   aktion->setObjectName(Q(e.name()));
   const auto gemeinsames = [&e, aktion] {
     aktion->setText(Q(*e.titel));
-    aktion->setToolTip(Q(*e.hinweis));
+    aktion->setToolTip(Tipp(Q(e.hinweis->empty() ? *e.titel : *e.hinweis)));
     aktion->setEnabled(e.frei);
     aktion->setVisible(e.sichtbar);
   };

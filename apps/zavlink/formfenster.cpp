@@ -86,6 +86,7 @@ void Formfenster::einpassen() {
 void Formfenster::hinweis_zeigen(const QString& text) {
   if (hinweis_ == nullptr) {
     hinweis_ = new QLabel(this);
+    hinweis_->setTextFormat(Qt::PlainText);
     hinweis_->setBackgroundRole(QPalette::ToolTipBase);
     hinweis_->setForegroundRole(QPalette::ToolTipText);
     hinweis_->setFrameShape(QFrame::Box);

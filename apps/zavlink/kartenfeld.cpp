@@ -167,7 +167,7 @@ bool Kartenfeld::event(QEvent* e) {
     auto* const hilfe = static_cast<QHelpEvent*>(e);
     const int i = zelle_bei(hilfe->pos());
     if (i >= 0) {
-      QToolTip::showText(hilfe->globalPos(), zelltext(i), this, zelle(i).toRect());
+      QToolTip::showText(hilfe->globalPos(), Tipp(zelltext(i)), this, zelle(i).toRect());
     } else {
       QToolTip::hideText();
     }

@@ -3,6 +3,7 @@
 
 #include <QRegularExpression>
 #include <QString>
+#include <QTextDocument>
 #include <string>
 #include <string_view>
 
@@ -14,6 +15,11 @@ inline QString Q(std::string_view text) {
 inline std::string S(const QString& text) {
   const QByteArray b = text.toUtf8();
   return {b.constData(), static_cast<std::size_t>(b.size())};
+}
+// A text for a tip. Qt takes what looks like markup for markup, and the pictures that it names for files to
+// open: texts of a project and of a master stay texts. Labels are told so by Qt::PlainText.
+inline QString Tipp(const QString& text) {
+  return Qt::mightBeRichText(text) ? Qt::convertFromPlainText(text) : text;
 }
 // A caption without its mnemonic mark.
 inline QString Ohne_kuerzel(QString text) {

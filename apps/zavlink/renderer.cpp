@@ -151,6 +151,7 @@ class Baumeister {
   // The caption beside a control: its mnemonic leads to the control, and it hides and dims with it.
   QLabel* Beschriftung(Steuerelement& e, QWidget* feld, QWidget* eltern) {
     auto* const schild = new QLabel(eltern);
+    schild->setTextFormat(Qt::PlainText);
     schild->setBuddy(feld);
     auf_.binden(e, [&e, schild] {
       schild->setText(Q(*e.titel));
@@ -271,6 +272,7 @@ class Baumeister {
     auto* const kopf = new QWidget(w);
     auto* const kopfzeile = Ohne_rand(new QHBoxLayout(kopf));
     auto* const titel = new QLabel(kopf);
+    titel->setTextFormat(Qt::PlainText);
     QFont schrift = titel->font();
     schrift.setBold(true);
     schrift.setPointSizeF(schrift.pointSizeF() * 0.92);

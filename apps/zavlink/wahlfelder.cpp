@@ -111,7 +111,7 @@ QWidget* Liste_bauen(Auswahl& a, Auffrischer& auf, QWidget* eltern) {
       auto* const zeile = w->item(i);
       const auto& e = a.eintrag(i);
       zeile->setText(Q(e.text));
-      zeile->setToolTip(Q(e.hinweis));
+      zeile->setToolTip(Tipp(Q(e.hinweis)));
       zeile->setFlags(e.frei ? Qt::ItemIsEnabled | Qt::ItemIsSelectable : Qt::NoItemFlags);
       zeile->setData(Qt::BackgroundRole, e.farbe == Farbe::normal ? QVariant() : Farbe_qt(e.farbe));
       zeile->setData(Qt::ForegroundRole, e.farbe == Farbe::normal ? QVariant() : Farbe_schrift());
@@ -147,7 +147,7 @@ QWidget* Optionen_bauen(Auswahl& a, Auffrischer& auf, QWidget* eltern) {
       const QSignalBlocker stumm(knopf);
       const auto& e = a.eintrag(i);
       knopf->setText(Q(e.text));
-      knopf->setToolTip(Q(e.hinweis));
+      knopf->setToolTip(Tipp(Q(e.hinweis)));
       knopf->setEnabled(a.frei && e.frei);
       knopf->setChecked(i == a.position());
       Einfaerben(*knopf, e.farbe);
@@ -214,7 +214,7 @@ QWidget* Leiste_bauen(Auswahl& a, Auffrischer& auf, QWidget* eltern) {
       const auto& e = a.eintrag(i);
       const bool belegt = e.farbe == Farbe::belegt;
       knopf->setText(Q(e.text) + (belegt ? QStringLiteral("•") : QString()));
-      knopf->setToolTip(Q(e.hinweis));
+      knopf->setToolTip(Tipp(Q(e.hinweis)));
       knopf->setEnabled(a.frei && e.frei);
       knopf->setChecked(i == a.position());
       Einfaerben(*knopf, e.farbe);
