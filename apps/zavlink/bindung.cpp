@@ -1,10 +1,12 @@
 #include "zavlink/bindung.h"
 
+#include <QApplication>
 #include <QCalendarWidget>
 #include <QCheckBox>
 #include <QLabel>
 #include <QMessageBox>
 #include <QMouseEvent>
+#include <QPainter>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QRegularExpression>
@@ -23,6 +25,7 @@
 #include "zavlink/symbole.h"
 #include "zavlink/textfelder.h"
 #include "zavlink/wahlfelder.h"
+#include "zavlink/zugang.h"
 
 namespace zav::fenster {
 
@@ -157,17 +160,39 @@ QWidget* Schieber_bauen(Schieber& s, Auffrischer& auf, QWidget* eltern) {
   return w;
 }
 
+// A text that may be clicked; then it takes the keyboard too, and shows that it has it.
 class Klickschild final : public QLabel {
  public:
-  Klickschild(Schild& s, QWidget* eltern) : QLabel(eltern), s_(s) {}
+  Klickschild(Schild& s, QWidget* eltern) : QLabel(eltern), s_(s) {
+    if (!s.wenn_angeklickt) return;
+    setCursor(Qt::PointingHandCursor);
+    setFocusPolicy(Qt::TabFocus);
+    Rolle_setzen(*this, QAccessible::Link);
+  }
 
  protected:
   void mouseReleaseEvent(QMouseEvent* e) override {
     QLabel::mouseReleaseEvent(e);
-    if (s_.wenn_angeklickt) Handeln([this] { s_.anklicken(); });
+    anklicken();
+  }
+  void keyPressEvent(QKeyEvent* e) override {
+    const bool taste = e->key() == Qt::Key_Return || e->key() == Qt::Key_Enter || e->key() == Qt::Key_Space;
+    if (!taste || !s_.wenn_angeklickt) return QLabel::keyPressEvent(e);
+    anklicken();
+  }
+  void paintEvent(QPaintEvent* e) override {
+    QLabel::paintEvent(e);
+    if (!hasFocus()) return;
+    QPainter p(this);
+    p.setRenderHint(QPainter::Antialiasing);
+    p.setPen(QPen(QApplication::palette().color(QPalette::Highlight), 1.6));
+    p.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), 4, 4);
   }
 
  private:
+  void anklicken() {
+    if (s_.wenn_angeklickt && s_.frei) Handeln([this] { s_.anklicken(); });
+  }
   Schild& s_;
 };
 
@@ -181,14 +206,19 @@ QWidget* Schild_bauen(Schild& s, Auffrischer& auf, QWidget* eltern) {
     schrift.setPointSizeF(schrift.pointSizeF() * 1.6);
     w->setFont(schrift);
   }
-  if (s.wenn_angeklickt) w->setCursor(Qt::PointingHandCursor);
   auf.binden(s, [&s, w] {
     Gemeinsames(*w, s);
     const QString text = Q(*s.titel);
+    if (!s.bild->empty()) {
+      const int groesse = (s.ueberschrift ? 6 : 3) * raster;
+      w->setPixmap(Symbolbild(s.bild).pixmap(groesse, groesse));
+      return;
+    }
     // Wrapping is settled before the text: it decides how the label is measured.
     w->setWordWrap(text.size() > satz);
     w->setMinimumWidth(text.size() > satz ? 40 * raster : 0);
-    w->setAlignment((zahl.match(text).hasMatch() ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
+    w->setAlignment((s.zahl || zahl.match(text).hasMatch() ? Qt::AlignRight : Qt::AlignLeft) |
+                    Qt::AlignVCenter);
     w->setText(text);
     Einfaerben(*w, s.farbe);
     w->setMargin(*s.farbe == Farbe::normal ? 0 : raster / 2);
@@ -196,8 +226,39 @@ QWidget* Schild_bauen(Schild& s, Auffrischer& auf, QWidget* eltern) {
   return w;
 }
 
+// A flat strip that fills in one calm colour; the percentage stands beside it.
+class Balkenfeld final : public QProgressBar {
+ public:
+  explicit Balkenfeld(QWidget* eltern) : QProgressBar(eltern) {
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+  }
+
+ protected:
+  void paintEvent(QPaintEvent*) override {
+    static constexpr double hoehe = 10, rundung = 3;
+    QPainter p(this);
+    p.setRenderHint(QPainter::Antialiasing);
+    const double schrift = isTextVisible() ? fontMetrics().horizontalAdvance("100 %") + raster : 0;
+    const QRectF rinne(0.5, (height() - hoehe) / 2, width() - 1 - schrift, hoehe);
+    p.setPen(QPen(palette().color(QPalette::Mid), 1));
+    p.setBrush(palette().color(QPalette::Base));
+    p.drawRoundedRect(rinne, rundung, rundung);
+    const double anteil = static_cast<double>(value() - minimum()) / std::max(1, maximum() - minimum());
+    if (anteil > 0) {
+      p.setPen(Qt::NoPen);
+      p.setBrush(palette().color(isEnabled() ? QPalette::Highlight : QPalette::Mid));
+      p.drawRoundedRect(QRectF(rinne.topLeft(), QSizeF(std::max(2 * rundung, rinne.width() * anteil), hoehe)),
+                        rundung, rundung);
+    }
+    p.setPen(palette().color(QPalette::WindowText));
+    if (isTextVisible())
+      p.drawText(rect(), Qt::AlignRight | Qt::AlignVCenter, QString("%1 %").arg(std::lround(anteil * 100)));
+  }
+};
+
 QWidget* Balken_bauen(Balken& b, Auffrischer& auf, QWidget* eltern) {
-  auto* const w = new QProgressBar(eltern);
+  auto* const w = new Balkenfeld(eltern);
+  w->setTextVisible(b.zeigt == Balken::Zeigt::fortschritt);
   w->setRange(0, 1000);
   w->setMinimumWidth(16 * raster);
   auf.binden(b, [&b, w] {

@@ -454,7 +454,9 @@ class Namensgeber {
       for (const Steuerelement* t : {davor, kopf}) {
         if (t != nullptr && !t->titel->empty()) teile << Ohne_kuerzel(Q(*t->titel));
       }
-      if (teile.isEmpty()) teile << (e.hinweis->empty() ? gruppe : Q(*e.hinweis));
+      // A key that is only a picture says what it does.
+      if (!e.hinweis->empty() && (e.art == Art::Taste || teile.isEmpty())) teile << Q(*e.hinweis);
+      if (teile.isEmpty()) teile << gruppe;
       feld->setAccessibleName(teile.join(", "));
     };
     auf_.binden(e, nennen);

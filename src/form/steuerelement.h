@@ -239,16 +239,20 @@ class Schieber final : public Steuerelement {
 class Schild final : public Steuerelement {
  public:
   explicit Schild(std::string titel = {}) : Steuerelement(Art::Schild, std::move(titel)) {}
-  std::function<void()> wenn_angeklickt;
-  bool ueberschrift = false;  // stands out above what it heads
+  std::function<void()> wenn_angeklickt;  // by the mouse, or by Enter or the space bar
+  bool ueberschrift = false;              // stands out above what it heads
+  bool zahl = false;                      // a number with its unit: stands at the right of its column
+  Eigenschaft<std::string> bild{*this};   // name of a symbol, shown in place of the text, which is read aloud
   void anklicken();
 };
 
 // A progress or value bar.
 class Balken final : public Steuerelement {
  public:
-  explicit Balken(double von = 0, double bis = 100)
-      : Steuerelement(Art::Balken), von(von), bis(bis), wert(*this, von) {}
+  enum class Zeigt { fortschritt, messwert };  // only progress has a percentage
+  explicit Balken(double von = 0, double bis = 100, Zeigt zeigt = Zeigt::fortschritt)
+      : Steuerelement(Art::Balken), zeigt(zeigt), von(von), bis(bis), wert(*this, von) {}
+  Zeigt zeigt;
   double von, bis;
   Eigenschaft<double> wert;
 };
