@@ -163,8 +163,15 @@ TEST_F(Astro, PictureOfASunRuleFollowsTheDay) {
   EXPECT_EQ(f.Label4.titel, "Winterzeit");
   EXPECT_EQ(f.bild()->marken[0].text, "06.20.26");
   EXPECT_EQ(f.Label10.titel, "Schaltzeit bei Limite");
+  EXPECT_EQ(f.Label11.titel, "Schaltzeit 07.00.00") << "06.40.26 to 06.55.26 is moved to the limit";
   f.Option4.waehlen(1);
   EXPECT_EQ(f.Label10.titel, "Schaltzeit unterdrückt");
+  EXPECT_EQ(f.Label11.titel, "An diesem Tag wird nicht geschaltet");
+  f.Text18.ausfuellen("00.00.00");
+  f.Text19.ausfuellen("00.30.00");
+  f.Command7.druecken();
+  EXPECT_EQ(f.Label11.titel,
+            "Schaltzeit 07.00.00 bis 07.20.26, ausserhalb der Limiten wird nicht geschaltet");
   f.Slider1.schieben(1);  // 08.21.43, band to 08.56.43
   EXPECT_EQ(f.Label2.titel, "Datum: Donnerstag 01.01.2026");
   EXPECT_EQ(f.Label10.titel, "Schaltzeit unterdrückt");

@@ -218,6 +218,8 @@ TEST_F(Zeit, SequencerSortsChecksAndCommitsOnOkOnly) {
     EXPECT_EQ(f.Text_dat[3].text(), "30.02.2026");
     EXPECT_EQ(f.fokus(), &f.Text_dat[3]);
   }
+  EXPECT_EQ(f.plan(2026)[334], (Sequenztag{.uhr = 2, .beginn = true}));
+  EXPECT_EQ(f.Combo1[0].farbe, Farbe::uhr2);
   f.Text_dat[3].ausfuellen("15.01.2027");
   f.SortButton.druecken();
   const std::array<const char*, 6> daten{"01.02.2026", "01.02.2026", "01.12.2026", "15.01.2027", "", ""};
@@ -257,6 +259,33 @@ TEST_F(Zeit, SequencerSortsChecksAndCommitsOnOkOnly) {
   verworfen.Check4.haken(false);
   verworfen.schliessen_wuenschen();
   EXPECT_TRUE(projekt == vorher);
+}
+
+// The days of a year on which the clock changes, as "day:clock".
+std::string Wechsel(const std::vector<Sequenztag>& plan) {
+  std::string text;
+  for (std::size_t i = 0; i < plan.size(); ++i) {
+    if (i > 0 && !plan[i].beginn && plan[i].uhr == plan[i - 1].uhr) continue;
+    text += std::to_string(i + 1) + (plan[i].beginn ? ":" : "-") + std::to_string(plan[i].uhr) + " ";
+  }
+  return text;
+}
+
+TEST(Sequenzplan, FollowsYearlyAndSingleSequencesOverTheTurnOfTheYear) {
+  const std::vector<Sequenz> ferien{{{2026, 7, 11}, 2, true}, {{2026, 8, 1}, 1, true}, {{2027, 12, 24}, 0}};
+  // Yearly ones hold in every year, also before the one they were written in.
+  EXPECT_EQ(Wechsel(Sequenzplan(ferien, 2025)), "1-1 192:2 213:1 ");
+  EXPECT_EQ(Wechsel(Sequenzplan(ferien, 2027)), "1-1 192:2 213:1 358:0 ");
+  EXPECT_EQ(Wechsel(Sequenzplan(ferien, 2028)), "1-0 193:2 214:1 ");
+
+  const std::vector<Sequenz> einmal{{{2026, 3, 1}, 1}, {{2026, 3, 1}, 2}};
+  EXPECT_EQ(Wechsel(Sequenzplan(einmal, 2025)), "1--1 ");
+  EXPECT_EQ(Wechsel(Sequenzplan(einmal, 2026)), "1--1 60:2 ") << "the last of one day holds";
+  EXPECT_EQ(Wechsel(Sequenzplan(einmal, 2099)), "1-2 ");
+  // Seven years without a 29 February, over 2100.
+  const std::vector<Sequenz> schalttag{{{2024, 2, 29}, 2, true}, {{2024, 3, 1}, 1}};
+  EXPECT_EQ(Wechsel(Sequenzplan(schalttag, 2103)), "1-2 ");
+  EXPECT_EQ(Sequenzplan(schalttag, 2104).size(), 366U);
 }
 
 // ---- Uhrseite ---------------------------------------------------------------------------------------------

@@ -8,139 +8,154 @@
 #include "zavlink/farben.h"
 #include "zavlink/qt_text.h"
 #include "zavlink/symbole.h"
+#include "zavlink/zugang.h"
 
 namespace zav::fenster {
 
 namespace {
 
+using Rolle = Tagesbild::Rolle;
+
+const Tagesbild::Marke* Finden(const Tagesbild& b, Rolle rolle) {
+  const auto m = std::ranges::find(b.marken, rolle, &Tagesbild::Marke::rolle);
+  return m == b.marken.end() ? nullptr : &*m;
+}
+
+const QColor sonnenfarbe(214, 150, 0);
+const QColor limitenfarbe(64, 150, 64);
+
+// From above: the hours, the day between sunrise and sunset, the sun's times, the limits, the switching time
+// with the band of its random shift.
 class Tagesskala final : public QWidget {
  public:
   Tagesskala(const Uhr_Astro& form, QWidget* eltern) : QWidget(eltern), form_(form) {
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     setAccessibleName("Schaltzeit auf der Skala eines Tages");
+    Rolle_setzen(*this, QAccessible::Chart);
   }
-  QSize sizeHint() const override { return {76 * raster, hoehe}; }
-  QSize minimumSizeHint() const override { return {50 * raster, hoehe}; }
+  QSize sizeHint() const override { return {90 * raster, hoehe()}; }
+  QSize minimumSizeHint() const override { return {50 * raster, hoehe()}; }
 
  protected:
   void paintEvent(QPaintEvent*) override {
     QPainter p(this);
     p.setRenderHint(QPainter::Antialiasing);
-    const QRectF flaeche = QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5);
     p.setPen(QPen(palette().color(QPalette::Mid), 1));
     p.setBrush(palette().color(QPalette::Base));
-    p.drawRoundedRect(flaeche, 6, 6);
-    if (form_.bild()) tag_malen(p, *form_.bild());
+    p.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), 6, 6);
     stunden_malen(p);
-    if (form_.bild()) {
-      for (const Tagesbild::Marke& m : form_.bild()->marken) marke_malen(p, m);
+    if (!form_.bild()) return;
+    const Tagesbild& bild = *form_.bild();
+    // The fine line runs behind the times that it passes.
+    p.setPen(QPen(palette().color(QPalette::Highlight), 1.4, bild.ergebnis ? Qt::SolidLine : Qt::DashLine));
+    const double berechnet = x(bild.marken.back().ort);
+    p.drawLine(QPointF(berechnet, achse()), QPointF(berechnet, schaltzeit_oben() + schrift() + 6));
+    if (mit_sonne()) {
+      sonne_malen(p, bild);
+      limiten_malen(p, bild);
     }
+    schaltzeit_malen(p, bild);
   }
 
  private:
-  static constexpr int hoehe = 128;
   static constexpr double rand = 28;
-  static constexpr double achse = 40;  // of the hours, from above
-  static constexpr double balken_oben = 72, balken_hoehe = 20;
+  static constexpr double leiste = 8;  // height of the day's strip
 
+  bool mit_sonne() const { return form_.bild() && Finden(*form_.bild(), Rolle::aufgang) != nullptr; }
+  double schrift() const { return fontMetrics().height(); }
+  double achse() const { return schrift() + 12; }
+  double sonne_oben() const { return achse() + leiste + 4; }
+  double limiten_oben() const { return sonne_oben() + schrift() + 10; }
+  double schaltzeit_oben() const { return mit_sonne() ? limiten_oben() + schrift() + 12 : sonne_oben() + 6; }
+  int hoehe() const { return static_cast<int>(schaltzeit_oben() + schrift() + 6 + 1.5 * raster); }
   double x(double ort) const {
     return rand + (ort - skala_anfang) / (skala_ende - skala_anfang) * (width() - 2 * rand);
   }
 
-  static const Tagesbild::Marke* finden(const Tagesbild& b, Tagesbild::Rolle rolle) {
-    const auto m = std::ranges::find(b.marken, rolle, &Tagesbild::Marke::rolle);
-    return m == b.marken.end() ? nullptr : &*m;
-  }
-
-  // Night and day as a soft strip above the axis, the band of the random shift below it.
-  void tag_malen(QPainter& p, const Tagesbild& b) const {
-    const auto* const auf = finden(b, Tagesbild::Rolle::aufgang);
-    const auto* const unter = finden(b, Tagesbild::Rolle::untergang);
-    if (auf != nullptr && unter != nullptr) {
-      p.setPen(Qt::NoPen);
-      p.setBrush(QColor(255, 214, 92, 110));
-      p.drawRect(QRectF(x(auf->ort), achse - 8, x(unter->ort) - x(auf->ort), 8));
-    }
-    const auto* const untere = finden(b, Tagesbild::Rolle::untere_limite);
-    const auto* const obere = finden(b, Tagesbild::Rolle::obere_limite);
-    if (untere != nullptr || obere != nullptr) {
-      const double von = untere != nullptr ? x(untere->ort) : x(skala_anfang);
-      const double bis = obere != nullptr ? x(obere->ort) : x(skala_ende);
-      p.setPen(Qt::NoPen);
-      p.setBrush(Farbe_qt(Farbe::frei));
-      p.setOpacity(0.55);
-      p.drawRect(QRectF(von, balken_oben, bis - von, balken_hoehe));
-      p.setOpacity(1);
-    }
-    if (b.band) {
-      QColor farbe = palette().color(QPalette::Highlight);
-      farbe.setAlpha(110);
-      p.setPen(Qt::NoPen);
-      p.setBrush(farbe);
-      p.drawRect(QRectF(x(b.band->von), balken_oben + 4, std::max(2.0, x(b.band->bis) - x(b.band->von)),
-                        balken_hoehe - 8));
-    }
-  }
-
   void stunden_malen(QPainter& p) const {
+    p.fillRect(QRectF(x(skala_anfang), achse(), x(skala_ende) - x(skala_anfang), leiste),
+               palette().color(QPalette::Midlight));
     p.setPen(QPen(palette().color(QPalette::Text), 1));
-    p.drawLine(QPointF(x(skala_anfang), achse), QPointF(x(skala_ende), achse));
     for (int h = 0; h <= 24; ++h) {
       const double ort = x(skala_anfang + h * skala_stunde);
-      p.drawLine(QPointF(ort, achse), QPointF(ort, achse + (h % 4 == 0 ? 8 : 4)));
-      if (h % 4 == 0) p.drawText(QRectF(ort - 20, achse + 9, 40, 16), Qt::AlignHCenter, QString::number(h));
+      p.drawLine(QPointF(ort, achse() - (h % 4 == 0 ? 6 : 3)), QPointF(ort, achse()));
+      if (h % 4 == 0) p.drawText(QRectF(ort - 20, 3, 40, schrift()), Qt::AlignCenter, QString::number(h));
     }
   }
 
-  void marke_malen(QPainter& p, const Tagesbild::Marke& m) const {
-    const double ort = x(m.ort);
-    const QColor schrift = palette().color(QPalette::Text);
-    const double halb = fontMetrics().horizontalAdvance(Q(m.text)) / 2.0 + 2;
-    const double mitte = std::clamp(ort, halb + 4, width() - halb - 4);
-    switch (m.rolle) {
-      case Tagesbild::Rolle::aufgang:
-      case Tagesbild::Rolle::untergang:
-        p.setPen(QPen(QColor(214, 150, 0), 2));
-        p.drawLine(QPointF(ort, achse - 14), QPointF(ort, achse + 4));
-        Symbol_malen(p, QRectF(mitte - halb - 9, 6, 16, 16), "sonne", schrift, QColor(214, 150, 0));
-        p.setPen(schrift);
-        p.drawText(QRectF(mitte - halb + 9, 6, 2 * halb, 16), Qt::AlignLeft | Qt::AlignVCenter, Q(m.text));
-        break;
-      case Tagesbild::Rolle::untere_limite:
-      case Tagesbild::Rolle::obere_limite: {
-        const bool links = m.rolle == Tagesbild::Rolle::untere_limite;
-        const double haken = links ? 6 : -6;
-        p.setPen(QPen(QColor(64, 150, 64), 2));
-        p.drawPolyline(QPolygonF({QPointF(ort + haken, balken_oben), QPointF(ort, balken_oben),
-                                  QPointF(ort, balken_oben + balken_hoehe),
-                                  QPointF(ort + haken, balken_oben + balken_hoehe)}));
-        p.setPen(schrift);
-        // Each limit's time stands outside, so that narrow limits stay readable.
-        const double aussen = std::clamp(links ? ort - 2 * halb + 4 : ort - 4, 4.0, width() - 2 * halb - 4);
-        p.drawText(QRectF(aussen, balken_oben + balken_hoehe + 4, 2 * halb, 16), Qt::AlignCenter, Q(m.text));
-        break;
-      }
-      case Tagesbild::Rolle::schaltzeit: {
-        const QColor farbe = palette().color(QPalette::Highlight);
-        p.setPen(QPen(farbe, 2.5));
-        p.drawLine(QPointF(ort, achse + 4), QPointF(ort, balken_oben + balken_hoehe + 2));
-        p.setBrush(farbe);
-        p.setPen(Qt::NoPen);
-        p.drawPolygon(
-            QPolygonF({QPointF(ort, achse), QPointF(ort - 5, achse - 8), QPointF(ort + 5, achse - 8)}));
-        QFont fett = font();
-        fett.setBold(true);
-        const double breite = QFontMetricsF(fett).horizontalAdvance(Q(m.text)) + 12;
-        const QRectF feld(std::clamp(ort + 5, 4.0, width() - breite - 4), balken_oben + 1, breite,
-                          balken_hoehe - 2);
-        p.drawRoundedRect(feld, 4, 4);
-        p.setPen(palette().color(QPalette::HighlightedText));
-        p.setFont(fett);
-        p.drawText(feld, Qt::AlignCenter, Q(m.text));
-        p.setFont(font());
-        break;
-      }
+  void sonne_malen(QPainter& p, const Tagesbild& b) const {
+    const double auf = x(Finden(b, Rolle::aufgang)->ort);
+    const double unter = x(Finden(b, Rolle::untergang)->ort);
+    p.fillRect(QRectF(auf, achse(), unter - auf, leiste), QColor(255, 214, 92));
+    for (const Rolle rolle : {Rolle::aufgang, Rolle::untergang}) {
+      const auto& m = *Finden(b, rolle);
+      p.setPen(QPen(sonnenfarbe, 2));
+      p.drawLine(QPointF(x(m.ort), achse() - 2), QPointF(x(m.ort), sonne_oben() + 2));
+      const double bild = schrift() + 2;
+      const QRectF text = neben(m, x(m.ort) + bild / 2, sonne_oben() + 2, Qt::AlignHCenter);
+      const QRectF zeichen(text.left() - bild, text.top() - 1, bild, bild);
+      p.fillRect(text.united(zeichen), palette().color(QPalette::Base));
+      Symbol_malen(p, zeichen, "sonne", palette().color(QPalette::Text), sonnenfarbe);
+      p.setPen(palette().color(QPalette::Text));
+      p.drawText(text, Qt::AlignCenter, Q(m.text));
     }
+  }
+
+  // Where a mark's time stands: centred at a place, or ending or beginning there; always within the picture.
+  QRectF neben(const Tagesbild::Marke& m, double ort, double oben, Qt::Alignment lage) const {
+    const double breite = fontMetrics().horizontalAdvance(Q(m.text)) + 8;
+    const double links = lage == Qt::AlignHCenter ? ort - breite / 2
+                         : lage == Qt::AlignRight ? ort - breite
+                                                  : ort;
+    return {std::clamp(links, 4.0 + schrift(), width() - breite - 4 - schrift()), oben, breite, schrift()};
+  }
+
+  // Each limit's time stands outside, so that narrow limits stay readable.
+  void limiten_malen(QPainter& p, const Tagesbild& b) const {
+    const auto* const untere = Finden(b, Rolle::untere_limite);
+    const auto* const obere = Finden(b, Rolle::obere_limite);
+    if (untere == nullptr && obere == nullptr) return;
+    const double oben = limiten_oben(), unten = oben + schrift() + 2;
+    const double von = untere != nullptr ? x(untere->ort) : x(skala_anfang);
+    const double bis = obere != nullptr ? x(obere->ort) : x(skala_ende);
+    QColor flaeche = limitenfarbe;
+    flaeche.setAlpha(56);
+    if (bis > von) p.fillRect(QRectF(von, oben, bis - von, unten - oben), flaeche);
+    const auto klammer = [&](const Tagesbild::Marke* m, double haken, Qt::Alignment lage) {
+      if (m == nullptr) return;
+      const double ort = x(m->ort);
+      p.setBrush(Qt::NoBrush);
+      p.setPen(QPen(limitenfarbe, 2));
+      p.drawPolyline(QPolygonF({QPointF(ort + haken, oben), QPointF(ort, oben), QPointF(ort, unten),
+                                QPointF(ort + haken, unten)}));
+      p.setPen(palette().color(QPalette::Text));
+      p.drawText(neben(*m, ort - haken / 2, oben + 1, lage), Qt::AlignCenter, Q(m->text));
+    };
+    klammer(untere, 6, Qt::AlignRight);
+    klammer(obere, -6, Qt::AlignLeft);
+  }
+
+  // The band that the shift can reach, and in full colour what the limits make of it.
+  void schaltzeit_malen(QPainter& p, const Tagesbild& b) const {
+    const double oben = schaltzeit_oben(), h = schrift() + 6;
+    const QColor farbe = palette().color(QPalette::Highlight);
+    QColor blass = farbe;
+    blass.setAlpha(80);
+    if (b.band) p.fillRect(QRectF(x(b.band->von), oben + 3, x(b.band->bis) - x(b.band->von), h - 6), blass);
+    if (!b.ergebnis) return;
+    const double von = x(b.ergebnis->von), bis = x(b.ergebnis->bis);
+    p.setPen(Qt::NoPen);
+    p.setBrush(farbe);
+    p.drawRoundedRect(QRectF(von - 2, oben + 1, bis - von + 4, h - 2), 2, 2);
+    QFont fett = font();
+    fett.setBold(true);
+    const bool spanne = b.ergebnis->text_von != b.ergebnis->text_bis;
+    const QString text = Q(b.ergebnis->text_von) + (spanne ? " bis " + Q(b.ergebnis->text_bis) : QString());
+    const double breite = QFontMetricsF(fett).horizontalAdvance(text) + 12;
+    const bool rechts = bis + breite + 12 < width();
+    p.setFont(fett);
+    p.setPen(palette().color(QPalette::Text));
+    p.drawText(QRectF(rechts ? bis + 4 : von - breite - 4, oben, breite, h), Qt::AlignCenter, text);
   }
 
   const Uhr_Astro& form_;
@@ -149,7 +164,7 @@ class Tagesskala final : public QWidget {
 }  // namespace
 
 QWidget* Tagesskala_bauen(const Anordnung& a, Auffrischer& auf, QWidget* eltern, Gebautes& ergebnis) {
-  Steuerelement& worte = *a.kinder.at(0).element;
+  Steuerelement& worte = *Platzierte(a).at(0);
   const auto& form = dynamic_cast<const Uhr_Astro&>(*worte.formular());
   auto* const w = new QWidget(eltern);
   auto* const spalte = new QVBoxLayout(w);
@@ -160,7 +175,8 @@ QWidget* Tagesskala_bauen(const Anordnung& a, Auffrischer& auf, QWidget* eltern,
   for (const Anordnung& k : a.kinder) spalte->addWidget(Teil_bauen(k, auf, w, ergebnis));
   spalte->addStretch(1);
   auf.binden(worte, [skala, &worte] {
-    skala->setAccessibleDescription(Q(*worte.titel));
+    Beschreiben(*skala, Q(*worte.titel));
+    skala->updateGeometry();
     skala->update();
   });
   return w;

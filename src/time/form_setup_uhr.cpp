@@ -115,7 +115,8 @@ void Form_Setup_uhr::Zeile_waehlen(std::size_t i) {
   Kalender.setzen(Datum_lesen(Text_dat[i].text()).value_or(Heute()));
 }
 
-// A date that can be read takes its long form; one that cannot is coloured and stays as it was typed.
+// A date that can be read takes its long form and gives its clock's colour to the list beside it; one that
+// cannot is coloured and stays as it was typed.
 void Form_Setup_uhr::Datum_ansehen(std::size_t i) {
   const Beschaeftigt still(*this);
   Textfeld& feld = Text_dat[i];
@@ -123,6 +124,8 @@ void Form_Setup_uhr::Datum_ansehen(std::size_t i) {
   if (datum) feld.setzen(Datum_text(*datum));
   const bool gut = datum || feld.text().empty();
   feld.farbe = !gut ? Farbe::belegt : i == zeile_ ? Farbe::aktuell : Farbe::normal;
+  constexpr std::array<Farbe, 3> uhrfarben{Farbe::normal, Farbe::uhr1, Farbe::uhr2};
+  Combo1[i].farbe = datum ? uhrfarben.at(static_cast<std::size_t>(Combo1[i].position())) : Farbe::normal;
 }
 
 bool Form_Setup_uhr::Daten_pruefen() {
@@ -183,12 +186,23 @@ void Form_Setup_uhr::Uebernehmen() {
   schliessen();
 }
 
+std::vector<Sequenztag> Form_Setup_uhr::plan(int jahr) const {
+  std::vector<Sequenz> sequenzen;
+  for (std::size_t i = 0; i < zeilen; ++i) {
+    if (const auto ab = Datum_lesen(Text_dat[i].text())) {
+      sequenzen.push_back({.ab = *ab, .uhr = Combo1[i].position(), .jedes_jahr = Check1[i].an()});
+    }
+  }
+  return Sequenzplan(sequenzen, jahr);
+}
+
 Anordnung Form_Setup_uhr::anordnung() {
   Anordnung raster =
       Raster(6, Alle(Label1), Leer(), Zeilenweise(Text_dat, Combo1, Check1, Check2, Check3, Command1));
-  return Spalte(Zeile(Spalte(std::move(raster), Zeile(SortButton, Feder())), Kalender), Check4,
-                Gruppe(Frame1, Option1), Gruppe(Frame2, Option2), Gruppe(Frame3, Alle(Check5)),
-                Knopfzeile(ok_button, cancel_button));
+  return Spalte(
+      Zeile(Spalte(std::move(raster), Zeile(SortButton, Feder())),
+            Spalte(Check4, Gruppe(Frame1, Option1), Gruppe(Frame2, Option2), Gruppe(Frame3, Alle(Check5)))),
+      Besonders("jahresplan", Kalender), Knopfzeile(ok_button, cancel_button));
 }
 
 }  // namespace zav

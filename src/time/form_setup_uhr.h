@@ -3,8 +3,10 @@
 #pragma once
 
 #include <array>
+#include <vector>
 
 #include "form/formular.h"
+#include "time/sequenzplan.h"
 
 namespace zav {
 
@@ -34,6 +36,8 @@ class Form_Setup_uhr final : public Formular {
   std::array<Kaestchen, 3> Check5;  // catch up relays, dimmers, timers
   Taste ok_button{"&OK"}, cancel_button{"&Abbrechen"};
 
+  // What the rows as they stand make of a year; a row without a good date counts for nothing.
+  std::vector<Sequenztag> plan(int jahr) const;
   Anordnung anordnung() override;
 
  private:

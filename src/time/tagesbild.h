@@ -26,7 +26,7 @@ struct Tagesbild {
     std::string text;  // "HH.MM.SS"
     bool operator==(const Marke&) const = default;
   };
-  struct Band {  // the times that the random shift can reach
+  struct Band {  // times from `von` to `bis`; equal for a single one
     double von;
     double bis;
     std::string text_von;
@@ -34,9 +34,11 @@ struct Tagesbild {
     bool operator==(const Band&) const = default;
   };
 
-  std::vector<Marke> marken;  // in the order of Rolle
-  std::optional<Band> band;
-  std::string status;  // "Schaltzeit ok", "... bei Limite", "... unterdrückt"; "" for a fixed time
+  std::vector<Marke> marken;     // in the order of Rolle
+  std::optional<Band> band;      // what the random shift can reach, before the limits
+  std::optional<Band> ergebnis;  // when the master switches; nothing on a day without switching
+  std::string worte;             // the result as a sentence
+  std::string status;            // "Schaltzeit ok", "... bei Limite", "... unterdrückt"; "" for a fixed time
 };
 
 // The picture of a rule on a date. `zeit` is the time of the fixed modes. Random shifts are not drawn: the

@@ -135,6 +135,15 @@ void Uhr::Auffrischen() {
       e->farbe = farbe;
     }
   }
+  for (int t = 0; t < tagesseiten; ++t) TabStrip1.faerben(t, Tag_belegt(t) ? Farbe::belegt : Farbe::normal);
+}
+
+bool Uhr::Tag_belegt(int tag) const {
+  for (int r = 0; r < zeilen_je_seite; ++r) {
+    const bool gezeigt = tag == tag_;
+    if (!(gezeigt ? Schaltzeit_txt[Stelle(r)].text() : zeit_[Uhrereignis(uhr_, tag, r)]).empty()) return true;
+  }
+  return false;
 }
 
 void Uhr::Uhr_gewaehlt() {

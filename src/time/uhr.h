@@ -52,6 +52,8 @@ class Uhr final : public Formular {
   void Seite_zeigen();
   void Seite_sichern();
   void Auffrischen();
+  // The page of a day has a switching time.
+  bool Tag_belegt(int tag) const;
 
   // Every row command raises the flag of the table of switching times.
   static void Tabelle_geaendert();

@@ -69,6 +69,7 @@ Uhr_Astro::Uhr_Astro(int ereignis, const std::string& bezeichnung, const std::st
       Option5(Auswahl::Form::Optionen,
               {"dann Funktion bei Zeitlimite ausführen", "dann Funktion nicht ausführen"}),
       ereignis_(ereignis) {
+  Text14.breite = 20;
   for (Textfeld* t : {&Text15, &Text16, &Text17, &Text18, &Text19}) t->breite = 18;  // room for a complaint
   Verdrahten();
   Laden(zeit);
@@ -261,8 +262,7 @@ void Uhr_Astro::Vorschau() {
   Label2.titel = "Datum: " + Datum_mit_wochentag(tag());
   Label4.titel = std::string(Zeit_wort(tag()));
   Label10.titel = bild_->status;
-  Label11.titel = "Schaltzeit " + (bild_->band ? bild_->band->text_von + " bis " + bild_->band->text_bis
-                                               : bild_->marken.back().text);
+  Label11.titel = bild_->worte;
   Label11.geaendert();
 }
 
