@@ -12,6 +12,8 @@ class Wetterdisplay final : public Formular {
  public:
   Wetterdisplay();
 
+  Schild Image5;                  // the weather in one picture
+  std::array<Schild, 9> Image1;   // symbol of each row
   std::array<Schild, 9> Label2;   // what stands in each row
   std::array<Schild, 9> Label24;  // the seven sensors, wind direction, precipitation
   Wetterbalken ProgressBar = Leere_wetterbalken();
@@ -25,6 +27,7 @@ class Wetterdisplay final : public Formular {
 
  private:
   void Abfragen();
+  void Wetterbild_zeigen(const Wetterwerte& w);
 };
 
 }  // namespace zav

@@ -1,5 +1,6 @@
 #include "weather/wetterlogik.h"
 
+#include <algorithm>
 #include <optional>
 #include <utility>
 #include <vector>
@@ -154,6 +155,7 @@ void Wetterlogik::Verdrahten() {
 
   TabStrip1.wenn_geaendert = [this] { Reiter_wechseln(); };
   for (std::size_t z = 0; z < zeilen; ++z) Label3[z].titel = bedingungen[z].name;
+  for (Schild& s : Text0) s.zahl = true;
   Command2.wenn_gedrueckt = [this] { Bedingungen_oeffnen(); };
   Label5.titel =
       "Diese Wetterfunktion nur ausführen, wenn folgender Ausgang (real oder virtuell) eines ZAVswitch "
@@ -169,6 +171,7 @@ void Wetterlogik::Verdrahten() {
   for (std::size_t n = 0; n < zeiten.size(); ++n) {
     Textfeld& feld = this->*zeiten[n].feld;
     feld.hinweis = "HH.MM.SS, höchstens 01.59.59";
+    feld.breite = 18;  // room for a word or a complaint
     feld.wenn_verlassen = [this, n] { Zeit_pruefen(n); };
     Taste& loeschen = this->*zeiten[n].loeschen;
     loeschen.titel = "Löschen";
@@ -210,10 +213,13 @@ void Wetterlogik::Zusammenfassung_zeigen() {
     const Bedingung& b = bedingungen[z];
     const int vergleich = (projekt.*b.vergleich)[funktion_];
     Einstellen(Combo1[z], vergleich);
+    if (z == und_oder) Label10.titel = Combo1[z].hinweis = Verknuepfung_in_worten(vergleich);
     Label4[z].titel = z == und_oder    ? Verknuepfung_in_worten(vergleich)
                       : vergleich == 0 ? "---"
                                        : Combo1[z].text();
     if (b.schwelle == nullptr) continue;
+    // What is not compared steps back.
+    Label3[z].frei = Label4[z].frei = Text0[z].frei = vergleich != 0;
     const str& schwelle = (projekt.*b.schwelle)[funktion_];
     Text0[z].titel = z < wettersensoren ? Mit_einheit(z, schwelle) : schwelle;
     if (z < wettersensoren) Slider1[z].setzen(Zahl_lesen(schwelle).value_or(0));
@@ -266,6 +272,9 @@ void Wetterlogik::Reiter_wechseln() {
 void Wetterlogik::Reiter_beschriften() {
   for (int f = 0; f < wetterfunktionen; ++f) {
     TabStrip1.beschriften(f, std::to_string(f) + ": " + projekt.Wetter_text[f]);
+    const bool prueft = std::any_of(bedingungen.begin(), bedingungen.begin() + und_oder,
+                                    [f](const Bedingung& b) { return (projekt.*b.vergleich)[f] != 0; });
+    TabStrip1.faerben(f, prueft ? Farbe::belegt : Farbe::normal);
   }
 }
 
@@ -275,17 +284,22 @@ void Wetterlogik::schliessen_wuenschen() { (Frame1.sichtbar ? Command4 : Command
 
 void Wetterlogik::Bedingungen_verdrahten() {
   anmelden("Frame1", Frame1);
+  anmelden("Label8", Label8);
   anmelden("Label7", Label7);
   anmelden("Combo1", Combo1);
   anmelden("Slider1", Slider1);
   anmelden("Text1", Text1);
   anmelden("Label25", Label25);
   anmelden("ProgressBar", ProgressBar);
+  anmelden("Label9", Label9);
+  anmelden("Label10", Label10);
   anmelden("Command10", Command10);
   anmelden("Command3", Command3);
   anmelden("Command4", Command4);
 
   const Beschaeftigt still(*this);
+  constexpr std::array<const char*, 6> spalten{"Messwert", "Vergleich", "Schwelle", "", "", "Wetterwerte"};
+  for (std::size_t s = 0; s < spalten.size(); ++s) Label8[s].titel = spalten[s];
   for (std::size_t z = 0; z < zeilen; ++z) {
     Label7[z].titel = bedingungen[z].name;
     Combo1[z].fuellen(*bedingungen[z].worte);
@@ -294,13 +308,15 @@ void Wetterlogik::Bedingungen_verdrahten() {
   Combo1[9].hinweis =
       "Soll bei Defekt des Wettersensors die Funktion für \"Prüfbedingung erfüllt\" sofort ausgelöst werden?";
   Combo1[und_oder].wenn_geaendert = [this] {
-    Combo1[und_oder].hinweis = Verknuepfung_in_worten(Combo1[und_oder].position());
+    Combo1[und_oder].hinweis = Label10.titel = Verknuepfung_in_worten(Combo1[und_oder].position());
   };
   for (std::size_t s = 0; s < wettersensoren; ++s) {
     Slider1[s].bereich(bedingungen[s].von, bedingungen[s].bis);
     Slider1[s].gross = bedingungen[s].gross;
     Slider1[s].wenn_geaendert = [this, s] { Schwelle_anzeigen(s); };
     Text1[s].nur_lesen = true;
+    Text1[s].breite = 4;
+    Label25[s].zahl = Label9[s].zahl = true;
   }
   Command10.wenn_gedrueckt = [this] { Wetterwerte_anzeigen(); };
   Command3.wenn_gedrueckt = [this] { Bedingungen_uebernehmen(); };
@@ -313,7 +329,7 @@ void Wetterlogik::Bedingungen_verdrahten() {
 
 // The conditions take the place of the function: nothing else can be left or closed until they are done.
 void Wetterlogik::Bedingungen_oeffnen() {
-  Wetterbalken_leeren(ProgressBar);
+  Wetterwerte_leeren();
   Frame1.sichtbar = true;
   Frame2.sichtbar = false;
   TabStrip1.frei = Command1.frei = Command2.frei = false;
@@ -333,6 +349,7 @@ void Wetterlogik::Bedingungen_uebernehmen() {
   }
   Bedingungen_schliessen();
   Zusammenfassung_zeigen();
+  Reiter_beschriften();
 }
 
 void Wetterlogik::Vergleich_anzeigen(std::size_t zeile) {
@@ -354,7 +371,7 @@ void Wetterlogik::Wetterwerte_anzeigen() {
   Command10.frei = Command3.frei = Command4.frei = false;
   const std::string antwort = Wetter_abfragen();
   Command10.frei = Command3.frei = Command4.frei = true;
-  Wetterbalken_leeren(ProgressBar);
+  Wetterwerte_leeren();
   if (antwort.empty()) return;
   const Wetterwerte w = Wetter_entschluesseln(antwort);
   if (w.stand != Wetterwerte::Stand::gut) {
@@ -362,6 +379,12 @@ void Wetterlogik::Wetterwerte_anzeigen() {
     return;
   }
   Wetterbalken_zeigen(ProgressBar, w);
+  for (std::size_t s = 0; s < wettersensoren; ++s) Label9[s].titel = Wetterwert_text(s, w.werte[s]);
+}
+
+void Wetterlogik::Wetterwerte_leeren() {
+  Wetterbalken_leeren(ProgressBar);
+  for (Schild& s : Label9) s.titel = "---";
 }
 
 }  // namespace zav

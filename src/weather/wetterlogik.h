@@ -54,13 +54,16 @@ class Wetterlogik final : public Formular {
   Taste Command6, Command7, Command8, Command9;  // each takes a time away
   std::array<Taste, 2> Command5;                 // functions of both sets
 
-  Rahmen Frame1;  // its conditions, in place of the function
+  Rahmen Frame1;                 // its conditions, in place of the function
+  std::array<Schild, 6> Label8;  // heads of the columns
   std::array<Schild, zeilen> Label7;
   std::array<Auswahl, zeilen> Combo1;
   std::array<Schieber, wettersensoren> Slider1;
   std::array<Textfeld, wettersensoren> Text1;
   std::array<Schild, wettersensoren> Label25;
   Wetterbalken ProgressBar = Leere_wetterbalken();
+  std::array<Schild, wettersensoren> Label9;  // the live values
+  Schild Label10;                             // and/or in words
   Taste Command10{"&Wetterwerte blau anzeigen"};
   Taste Command3{"Ü&bernehmen"}, Command4{"Abb&rechen"};
 
@@ -87,6 +90,7 @@ class Wetterlogik final : public Formular {
   void Vergleich_anzeigen(std::size_t zeile);
   void Schwelle_anzeigen(std::size_t sensor);
   void Wetterwerte_anzeigen();
+  void Wetterwerte_leeren();
 
   int adresse_;
   Funktionen_oeffnen funktionen_oeffnen_;

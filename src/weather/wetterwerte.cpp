@@ -18,6 +18,7 @@ constexpr int antwortlaenge = 27;  // 24 characters, checksum, CR
 // Where a value stands in the reply and how it becomes a measure; how its bar is drawn.
 struct Messung {
   std::string_view name;
+  std::string_view bild;
   std::string_view einheit;
   std::size_t von, stellen;
   int nullpunkt;  // subtracted from the number
@@ -26,13 +27,13 @@ struct Messung {
   double versatz;  // added for the bar
 };
 constexpr std::array<Messung, wettersensoren> messungen{{
-    {"Sonne Ost", " kLux", 15, 2, 0, 1, 95, 0},
-    {"Sonne Süd", " kLux", 11, 2, 0, 1, 95, 0},
-    {"Sonne West", " kLux", 13, 2, 0, 1, 95, 0},
-    {"Tageslicht", " Lux", 17, 2, 0, 1, 249, 0},
-    {"Aussentemperatur", " °C", 7, 4, 2730, 10, 71, 20},
-    {"Innentemperatur", " °C", 19, 2, 0, 1, 50, 0},
-    {"Windgeschwindigkeit", " m/s", 21, 4, 0, 10, 20, 0},
+    {"Sonne Ost", "sonne", " kLux", 15, 2, 0, 1, 95, 0},
+    {"Sonne Süd", "sonne", " kLux", 11, 2, 0, 1, 95, 0},
+    {"Sonne West", "sonne", " kLux", 13, 2, 0, 1, 95, 0},
+    {"Tageslicht", "tageslicht", " Lux", 17, 2, 0, 1, 249, 0},
+    {"Aussentemperatur", "temperatur", " °C", 7, 4, 2730, 10, 71, 20},
+    {"Innentemperatur", "temperatur", " °C", 19, 2, 0, 1, 50, 0},
+    {"Windgeschwindigkeit", "wind", " m/s", 21, 4, 0, 10, 20, 0},
 }};
 
 std::optional<double> Messwert(const Messung& m, std::string_view antwort) {
@@ -56,6 +57,7 @@ std::string Zehntel(double wert) {
 
 std::string_view Sensor_name(std::size_t sensor) { return messungen.at(sensor).name; }
 std::string_view Sensor_einheit(std::size_t sensor) { return messungen.at(sensor).einheit; }
+std::string_view Sensor_bild(std::size_t sensor) { return messungen.at(sensor).bild; }
 
 Wetterwerte Wetter_entschluesseln(std::string_view antwort) {
   using Stand = Wetterwerte::Stand;
@@ -87,6 +89,16 @@ std::string_view Wetterstand_text(Wetterwerte::Stand stand) {
     case Wetterwerte::Stand::gut: break;
   }
   return "";
+}
+
+Wetterbild Wetterbild_von(const Wetterwerte& w) {
+  constexpr double sonnenschein = 20;  // kLux
+  if (w.stand == Wetterwerte::Stand::gut) {
+    if (w.niederschlag) return {"regen", "Niederschlag"};
+    const double sonne = *std::max_element(w.werte.begin() + sonne_ost, w.werte.begin() + sonne_west + 1);
+    return sonne > sonnenschein ? Wetterbild{"sonne", "Sonnig"} : Wetterbild{"wolke", "Bedeckt"};
+  }
+  return {"wetter", "Keine Werte"};
 }
 
 std::string_view Niederschlag_text(const Wetterwerte& w) {
@@ -121,7 +133,9 @@ std::string Wetter_abfragen() {
 }
 
 Wetterbalken Leere_wetterbalken() {
-  const auto balken = [](std::size_t s) { return Balken(0, messungen[s].balken_bis); };
+  const auto balken = [](std::size_t s) {
+    return Balken(0, messungen[s].balken_bis, Balken::Zeigt::messwert);
+  };
   return {balken(sonne_ost),        balken(sonne_sued),      balken(sonne_west),         balken(tageslicht),
           balken(aussentemperatur), balken(innentemperatur), balken(windgeschwindigkeit)};
 }

@@ -37,6 +37,7 @@ enum Wettersensor : std::size_t {
 
 std::string_view Sensor_name(std::size_t sensor);     // "Sonne Ost"
 std::string_view Sensor_einheit(std::size_t sensor);  // " kLux", with its blank
+std::string_view Sensor_bild(std::size_t sensor);     // name of its symbol
 
 struct Wetterwerte {
   enum class Stand { gut, keine_station, keine_daten, defekt };
@@ -49,6 +50,13 @@ struct Wetterwerte {
 Wetterwerte Wetter_entschluesseln(std::string_view antwort);
 // The box that is due for a state, "" for good values.
 std::string_view Wetterstand_text(Wetterwerte::Stand stand);
+// The weather in one symbol, and what it says. Sun is shining where a side gets more than the light of a
+// bright sky.
+struct Wetterbild {
+  std::string_view bild;
+  std::string_view worte;
+};
+Wetterbild Wetterbild_von(const Wetterwerte& w);
 // "Niederschlag" or "Trocken".
 std::string_view Niederschlag_text(const Wetterwerte& w);
 // A measured value with at most one decimal place and its unit: "12.5 °C".
