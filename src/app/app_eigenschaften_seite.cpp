@@ -173,7 +173,7 @@ void App_eigenschaften_seite::App_seite_zeigen() {
   for (const Wahl& w : wahlen) Einstellen(this->*w.element, Zahl_lesen(s[w.feld]).value_or(-1));
   for (const Text& t : texte) (this->*t.element).setzen(s[t.feld]);
   Icons_fuellen(Combo1, s[App_icon_name], s[App_icon_bild]);
-  Image5.titel = Combo1.text();
+  Iconbild_zeigen();
   Sichtbarkeit_setzen();
 }
 
@@ -199,7 +199,12 @@ void App_eigenschaften_seite::Icon_anzeigen() {
   const int icon = Combo1.position();
   if (std::cmp_less(icon, App_icons().size())) satz()[App_icon_bild] = std::to_string(icon);
   satz()[App_icon_name] = Combo1.text();
+  Iconbild_zeigen();
+}
+
+void App_eigenschaften_seite::Iconbild_zeigen() {
   Image5.titel = Combo1.text();
+  Image5.bild = std::string(App_icon_symbol(Zahl_lesen(satz()[App_icon_bild]).value_or(0)));
 }
 
 void App_eigenschaften_seite::Automatisch_fuellen() {
@@ -228,8 +233,7 @@ Anordnung App_eigenschaften_seite::anordnung() {
       Zeile(Check6, Check7, Check8, Check9, Feder()),
       Zeile(Gruppe(Frame1, Zeile(Image5, Combo1)), Gruppe(Frame2, Combo4)),
       Gruppe(Frame3, Option1, Raster(4, Label25, Text15, Text16, Text17, Label26, Text18, Text19, Text22)),
-      Gruppe(Frame4, Zeile(Option2, Label27), Zeile(Command1, Command2, Feder())), Feder(),
-      Knopfzeile(OK, Cancel));
+      Gruppe(Frame4, Label27, Zeile(Option2, Command1, Feder(), Command2)), Feder(), Knopfzeile(OK, Cancel));
 }
 
 }  // namespace zav

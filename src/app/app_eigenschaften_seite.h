@@ -53,6 +53,7 @@ class App_eigenschaften_seite final : public Formular {
   void App_seite_zeigen();
   void Sichtbarkeit_setzen();
   void Icon_anzeigen();
+  void Iconbild_zeigen();
   void Automatisch_fuellen();
   void Uebernehmen();
   Satz& satz() { return saetze_.at(static_cast<std::size_t>(Tastenwahl.position())); }

@@ -35,6 +35,9 @@ enum Icon_nr : int {
 constexpr std::array<std::string_view, icon_anzahl> icons{
     "Taste", "Licht",     "Dimmer", "Store", "Szene",  "Steckdose", "Heizung", "Alarm", "Ventilator",
     "Musik", "Fernseher", "Tor",    "Türe",  "Garten", "Timer",     "Klingel", "Kamera"};
+constexpr std::array<std::string_view, icon_anzahl> symbole{
+    "taste", "lampe",     "dimmer", "store", "szene",  "steckdose", "heizung", "alarm", "ventilator",
+    "musik", "fernseher", "tor",    "tuere", "garten", "timer",     "glocke",  "kamera"};
 
 // What a text of an installer says of its key; the first word found decides.
 struct Stichwort {
@@ -63,6 +66,10 @@ bool Faehrt(i16 code) { return code == relais_store || code == relais_store_stop
 }  // namespace
 
 std::span<const std::string_view> App_icons() { return icons; }
+
+std::string_view App_icon_symbol(int nummer) {
+  return symbole.at(static_cast<std::size_t>(nummer > 0 && nummer < icon_anzahl ? nummer : int{taste}));
+}
 
 App_automatik::App_automatik(const Projekt& p) : p_(p) {
   for (const i16 ausgang : p.Dev_adr.alle()) {

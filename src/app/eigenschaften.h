@@ -12,6 +12,8 @@ namespace zav {
 
 // The icons of the app by name, position = index of the picture. Never renumber: files hold the index.
 std::span<const std::string_view> App_icons();
+// The front end's symbol for the icon of that number; that of a key for a number without an icon.
+std::string_view App_icon_symbol(int nummer);
 
 // Looks through a project once for the outputs that some key's LED shows; then fills records.
 class App_automatik {

@@ -48,6 +48,11 @@ constexpr std::array<Text, 9> texte{{{&K::Text1, titel},
                                      {&K::Text8, tastentext1},
                                      {&K::Text9, tastentext2}}};
 
+// The text of a key is "0" until somebody writes one: nothing to read, but kept.
+bool Ist_vorgabe(const Text& t, std::string_view text) {
+  return (t.feld == tastentext1 || t.feld == tastentext2) && text == "0";
+}
+
 // Bits of the use case in the order of Check2.
 constexpr std::array<const char*, 6> moeglichkeiten{"Video In", "Audio In", "Audio Out",
                                                     "Pan+Tilt", "Zoom",     "Presets"};
@@ -177,7 +182,7 @@ void IP_Kameras::Laden() {
 void IP_Kameras::Kamera_zeigen() {
   const Beschaeftigt still(*this);
   const auto& f = kamera().felder;
-  for (const Text& t : texte) (this->*t.element).setzen(f[t.feld]);
+  for (const Text& t : texte) (this->*t.element).setzen(Ist_vorgabe(t, f[t.feld]) ? str() : f[t.feld]);
   Check1.setzen(f[aktiv] == "1");
   const auto bits = static_cast<unsigned>(Zahl_lesen(f[usecase]).value_or(0));
   for (std::size_t i = 0; i < Check2.size(); ++i) Check2[i].setzen((bits >> i & 1U) != 0);
@@ -192,7 +197,10 @@ void IP_Kameras::Kamera_zeigen() {
 
 void IP_Kameras::Seite_lesen() {
   auto& f = kamera().felder;
-  for (const Text& t : texte) f[t.feld] = (this->*t.element).text();
+  for (const Text& t : texte) {
+    const std::string& text = (this->*t.element).text();
+    if (!text.empty() || !Ist_vorgabe(t, f[t.feld])) f[t.feld] = text;
+  }
   // A camera without any setting stays one that is not defined.
   const auto zahl = [](str& ziel, unsigned wert) {
     if (wert != 0 || !ziel.empty()) ziel = std::to_string(wert);
@@ -286,11 +294,11 @@ void IP_Kameras::Uebernehmen() {
 }
 
 Anordnung IP_Kameras::anordnung() {
-  return Spalte(TabStrip1, Zeile(Check1, Combo1, Feder()),
-                Raster(2, Text1, Text2, Text3, Text4, Text5, Text6, Text7, Zeile(Command5, Label1)),
-                Gruppe(Frame1, Raster(3, Alle(Check2))),
-                Gruppe(Frame2, Raster(2, Combo2, Text8, Combo3, Text9)), Zeile(Command3, Feder()), Feder(),
-                Knopfzeile(Command1, Command2));
+  return Spalte(
+      TabStrip1, Zeile(Check1, Combo1, Feder()),
+      Raster(3, Text1, Text2, Leer(), Text3, Text4, Command5, Text5, Text6, Leer(), Text7, Label1, Leer()),
+      Gruppe(Frame1, Raster(3, Alle(Check2))), Gruppe(Frame2, Raster(2, Combo2, Text8, Combo3, Text9)),
+      Zeile(Command3, Feder()), Feder(), Knopfzeile(Command1, Command2));
 }
 
 }  // namespace zav

@@ -69,8 +69,11 @@ void Enocean_Definition::Verdrahten() {
     Text2[r].hinweis = "Standort des Empfängers";
     Label3[r].hinweis = "ID mit Click übernehmen";
     Label3[r].wenn_angeklickt = [this, r] { Id_uebernehmen(r); };
-    Label3[r].titel = Label4[r].titel = Label5[r].titel = nichts;
+    Text2[r].breite = 20;
+    ProgressBar[r].zeigt = Balken::Zeigt::messwert;
+    Label4[r].zahl = true;
   }
+  Gehoertes_leeren();
   Command5.wenn_gedrueckt = [this] { Nachsehen(); };
   Check3.wenn_geaendert = [this] { Details_anzeigen(); };
   Command1.wenn_gedrueckt = [this] { Uebernehmen(); };
@@ -185,6 +188,14 @@ void Enocean_Definition::Uebernehmen() {
 }
 
 // ---- what the receivers have heard
+
+void Enocean_Definition::Gehoertes_leeren() {
+  for (std::size_t r = 0; r < Label3.size(); ++r) {
+    Label3[r].titel = Label4[r].titel = Label5[r].titel = nichts;
+    Label3[r].frei = false;  // nothing to take over
+    ProgressBar[r].wert = 0;
+  }
+}
 
 void Enocean_Definition::Id_uebernehmen(std::size_t r) {
   if (!Ist_sender_id(*Label3[r].titel)) return;

@@ -53,6 +53,7 @@ class Enocean_Definition final : public Formular {
   void Nachsehen();
   bool Alle_fragen();
   bool Telegramm_holen(int r, char buchstabe, std::string& antwort);
+  void Gehoertes_leeren();
   void Gehoertes_zeigen(std::size_t r, const std::string& antwort);
   void Id_uebernehmen(std::size_t r);
 

@@ -11,6 +11,7 @@ class Enocean_Send final : public Formular, private Enocean_anzeige {
   Enocean_Send();
 
   Kaestchen Check1{"&Alle eingebauten Empfänger aktualisieren, nicht nur geänderte"};
+  Schild Label2;  // the receivers that would be programmed
   Schild Label1;
   Balken ProgressBar1;
   Taste Command1{"&Daten zu den Funkempfängern senden"};
@@ -22,6 +23,7 @@ class Enocean_Send final : public Formular, private Enocean_anzeige {
 
  private:
   void Senden();
+  void Umfang_zeigen();
   void Meldung_zeigen(const std::string& text) override { Label1.titel = text; }
   void Fortschritt_zeigen(double prozent) override { ProgressBar1.wert = prozent; }
 };

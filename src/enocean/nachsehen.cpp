@@ -42,10 +42,7 @@ std::string Stuecke(const std::string& antwort) {
 }  // namespace
 
 void Enocean_Definition::Nachsehen() {
-  for (std::size_t r = 0; r < Label3.size(); ++r) {
-    Label3[r].titel = Label4[r].titel = Label5[r].titel = nichts;
-    ProgressBar[r].wert = 0;
-  }
+  Gehoertes_leeren();
   Command1.frei = Command2.frei = Command5.frei = false;
   {
     const Wartezeiger zeiger;
@@ -94,6 +91,7 @@ bool Enocean_Definition::Telegramm_holen(int r, char buchstabe, std::string& ant
 
 void Enocean_Definition::Gehoertes_zeigen(std::size_t r, const std::string& antwort) {
   Label3[r].titel = Mitte(antwort, 11, sender_id_laenge);
+  Label3[r].frei = Ist_sender_id(*Label3[r].titel);
   const auto wort = Hex_zahl(Mitte(antwort, 19, 4));
   const int pegel = wort ? static_cast<int>(Runden(static_cast<double>(*wort) / 5)) : kein_pegel;
   const bool gehoert = pegel < kein_pegel;

@@ -174,12 +174,16 @@ std::string Fehlernummer() {
 
 }  // namespace
 
+bool Enocean_zu_programmieren(const Projekt& p, int r, bool alle) {
+  return p.Enocean_empf_da[r] == 1 && (alle || p.Enocean_empf_geaendert[r] == 1);
+}
+
 Empfaengertabellen Enocean_tabellen(const Projekt& p, bool alle) {
   Empfaengertabellen ergebnis;
   std::array<int, empfaenger> stelle;  // of the receiver's table, -1 = none is asked for
   stelle.fill(-1);
   for (int r = 0; r < empfaenger; ++r) {
-    if (p.Enocean_empf_da[r] != 1 || (!alle && p.Enocean_empf_geaendert[r] != 1)) continue;
+    if (!Enocean_zu_programmieren(p, r, alle)) continue;
     stelle.at(static_cast<std::size_t>(r)) = static_cast<int>(ergebnis.tabellen.size());
     ergebnis.tabellen.push_back({.nummer = r});
     ergebnis.tabellen.back().text.reserve(tabellenziffern);

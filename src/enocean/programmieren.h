@@ -30,7 +30,10 @@ struct Empfaengertabellen {
   std::string mangel;  // German sentence why a table cannot be built, "" when all could
 };
 
-// Tables of the built-in receivers: of those that are flagged, or of all.
+// A receiver is built in, and flagged or asked for with all.
+bool Enocean_zu_programmieren(const Projekt& p, int r, bool alle);
+
+// Tables of the receivers that are to be programmed.
 Empfaengertabellen Enocean_tabellen(const Projekt& p, bool alle);
 
 // What a run reports on its way.
