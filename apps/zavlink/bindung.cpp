@@ -263,8 +263,9 @@ QWidget* Balken_bauen(Balken& b, Auffrischer& auf, QWidget* eltern) {
   w->setMinimumWidth(16 * raster);
   auf.binden(b, [&b, w] {
     Gemeinsames(*w, b);
-    const double anteil = b.bis > b.von ? (*b.wert - b.von) / (b.bis - b.von) : 0.0;
-    w->setValue(static_cast<int>(std::lround(std::clamp(anteil, 0.0, 1.0) * 1000.0)));
+    const double anteil = b.bis > b.von ? std::clamp((*b.wert - b.von) / (b.bis - b.von), 0.0, 1.0) : 0.0;
+    w->setValue(static_cast<int>(std::lround(anteil * 1000)));
+    w->setFormat(QString("%1 %").arg(std::lround(anteil * 100)));  // rounded: a transfer ends at 99.9
   });
   return w;
 }

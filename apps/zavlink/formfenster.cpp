@@ -70,6 +70,7 @@ void Formfenster::einpassen() {
   if (noetig.height() > platz.height() || noetig.width() > platz.width()) {
     auto* const rollen = new QScrollArea(this);
     rollen->setFrameShape(QFrame::NoFrame);
+    rollen->setFocusPolicy(Qt::NoFocus);
     rollen->setWidgetResizable(true);
     auto* const spalte = static_cast<QVBoxLayout*>(layout());
     delete spalte->replaceWidget(gebautes_.inhalt, rollen);

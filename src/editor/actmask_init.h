@@ -13,7 +13,7 @@ class Actmask_init final : public Formular {
  public:
   Actmask_init();
 
-  Auswahl TabStrip1{Auswahl::Form::Reiter, {"&Schalten", "&Dimmen"}};
+  Auswahl TabStrip1{Auswahl::Form::Reiter, {"S&chalten", "&Dimmen"}};
 
   Auswahl Baugruppe{Auswahl::Form::Leiste};
   Rahmen Frame1;

@@ -24,10 +24,10 @@ class Einmask8 final : public Formular {
   explicit Einmask8(Tueren tueren = {});
 
   // ---- tree
-  Textfeld Text_Suche{"&Suchen"};
+  Textfeld Text_Suche{"Suc&hen"};
   Baum TreeView1;
   Textfeld Text6{"Kombination"}, Text7{"Nächste freie"};
-  Taste Command9{"&Neue Kombination..."}, Command_Layout{"Kombination ä&ndern..."},
+  Taste Command9{"&Neue Kombination..."}, Command_Layout{"Kombination än&dern..."},
       Command13{"Kombination &löschen"};
   Schild Label1;
 

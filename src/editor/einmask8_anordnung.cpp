@@ -16,7 +16,7 @@ Anordnung Einmask8::anordnung() {
     zeilen.kinder.emplace_back(Command15.at(n));
   }
   return Spalte(
-      Menue("&Kombination", mnuImport, mnuSend),
+      Menue("Ko&mbination", mnuImport, mnuSend),
       Zeile(Spalte(Text_Suche, TreeView1, Zeile(Text6, Text7), Label1),
             Gruppe(Frame1, Besonders("apparaterahmen", Alle(Image3))),
             Gruppe(Frame2, Zeile(Label_Adresse, Command2), Zeile(Command_Wetter, Command_Enocean),

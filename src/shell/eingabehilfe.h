@@ -15,7 +15,7 @@ class Eingabehilfe final : public Formular {
       "'Licht 2' ..."};
   Auswahl Option1{Auswahl::Form::Optionen, {"&Relaisausgänge", "&Dimmerausgänge", "&Timer"}};
   Auswahl Combo1{Auswahl::Form::Klappliste, {}, "&Von"}, Combo2{Auswahl::Form::Klappliste, {}, "&Bis"};
-  Textfeld Text1{"T&ext, # ist die Nummer"}, Text2{"&Nummer des ersten"};
+  Textfeld Text1{"Te&xt, # ist die Nummer"}, Text2{"&Nummer des ersten"};
   Kaestchen Check1{"Bestehende Texte &ersetzen"};
   Schild Label2;  // what it would come to
   Taste OK{"&OK"}, Cancel{"&Abbrechen"};
