@@ -48,6 +48,13 @@ QMessageBox::Icon Symbol_qt(Symbol s) {
   return QMessageBox::NoIcon;
 }
 
+// The window that boxes and dialogs belong to: the topmost of ours, also while the user works in another
+// program.
+QWidget* Oben() {
+  QWidget* const modal = QApplication::activeModalWidget();
+  return modal != nullptr ? modal : QApplication::activeWindow();
+}
+
 void Einrichten(QFileDialog& d, const Dateifrage& f) {
   // Qt's own dialog: it can carry the write-protection box and looks the same everywhere.
   d.setOption(QFileDialog::DontUseNativeDialog);
@@ -77,7 +84,7 @@ std::optional<Dateiwahl> Fragen_qt(QFileDialog& d, QCheckBox* schutz) {
 
 Antwort Qt_oberflaeche::Melden(const Meldung& m) {
   QMessageBox kasten(Symbol_qt(m.symbol), m.titel.empty() ? "ZAVlink" : Q(m.titel), Q(m.text).remove('\r'),
-                     QMessageBox::NoButton, QApplication::activeWindow());
+                     QMessageBox::NoButton, Oben());
   kasten.setTextFormat(Qt::PlainText);
   kasten.setTextInteractionFlags(Qt::TextSelectableByMouse);
   const std::vector<Knopf> knoepfe = Knoepfe_von(m.knoepfe);
@@ -104,19 +111,18 @@ void Qt_oberflaeche::Zeiger_setzen(Zeiger z) {
 }
 
 void Qt_oberflaeche::Hinweis(const std::string& text) {
-  if (auto* const fenster = qobject_cast<Formfenster*>(QApplication::activeWindow()))
-    fenster->hinweis_zeigen(Q(text));
+  if (auto* const fenster = qobject_cast<Formfenster*>(Oben())) fenster->hinweis_zeigen(Q(text));
 }
 
 void Qt_oberflaeche::DoEvents() { QApplication::processEvents(); }
 
 void Qt_oberflaeche::Zeigen(Formular& f) {
-  Formfenster fenster(f, QApplication::activeWindow());
+  Formfenster fenster(f, Oben());
   fenster.laufen();
 }
 
 std::optional<Dateiwahl> Qt_oberflaeche::Datei_oeffnen(const Dateifrage& f) {
-  QFileDialog d(QApplication::activeWindow());
+  QFileDialog d(Oben());
   Einrichten(d, f);
   d.setAcceptMode(QFileDialog::AcceptOpen);
   d.setFileMode(QFileDialog::ExistingFile);
@@ -130,7 +136,7 @@ std::optional<Dateiwahl> Qt_oberflaeche::Datei_oeffnen(const Dateifrage& f) {
 }
 
 std::optional<Dateiwahl> Qt_oberflaeche::Datei_speichern(const Dateifrage& f) {
-  QFileDialog d(QApplication::activeWindow());
+  QFileDialog d(Oben());
   Einrichten(d, f);
   d.setAcceptMode(QFileDialog::AcceptSave);
   d.setOption(QFileDialog::DontConfirmOverwrite, !f.ueberschreiben_fragen);
@@ -139,7 +145,7 @@ std::optional<Dateiwahl> Qt_oberflaeche::Datei_speichern(const Dateifrage& f) {
 
 std::optional<std::string> Qt_oberflaeche::Ordner_waehlen(const std::string& beginn) {
   const QString ordner = QFileDialog::getExistingDirectory(
-      QApplication::activeWindow(), "Ordner wählen", QDir(Q(beginn)).exists() ? Q(beginn) : QDir::homePath());
+      Oben(), "Ordner wählen", QDir(Q(beginn)).exists() ? Q(beginn) : QDir::homePath());
   if (ordner.isEmpty()) return std::nullopt;
   return S(ordner);
 }
