@@ -5,18 +5,18 @@
 #include <QFile>
 #include <QHash>
 #include <QImage>
-#include <QPainter>
+#include <QTimer>
 #include <algorithm>
 #include <cstdio>
 #include <functional>
 
-#include "link/leitung.h"
-#include "simulierter_master.h"
 #include "store/projekt.h"
 #include "store/projektdatei.h"
 #include "zavlink/aussehen.h"
 #include "zavlink/formenschau.h"
 #include "zavlink/formfenster.h"
+#include "zavlink/musterhaus.h"
+#include "zavlink/qt_oberflaeche.h"
 #include "zavlink/qt_text.h"
 
 namespace {
@@ -37,17 +37,28 @@ QImage Wenige_farben(const QImage& bild) {
   return bild.convertToFormat(QImage::Format_Indexed8, farben, Qt::ThresholdDither | Qt::AvoidDither);
 }
 
-void Aufnehmen(const Schaustueck& stueck, const QDir& ordner) {
-  const std::unique_ptr<Formular> form = stueck.bauen();
-  Formfenster fenster(*form, nullptr);
-  fenster.show();
-  form->beim_oeffnen();
-  for (int runde = 0; runde < 4; ++runde) QApplication::processEvents();
-  // Few colours are enough for a window, and keep the repository small.
+// Few colours are enough for a window, and keep the repository small.
+void Ablegen(QWidget& fenster, const std::string& name, const QDir& ordner) {
   const QImage bild = Wenige_farben(fenster.grab().toImage().convertToFormat(QImage::Format_RGB32));
-  const QString datei = ordner.filePath(Q(stueck.name) + ".png");
+  const QString datei = ordner.filePath(Q(name) + ".png");
   if (!bild.save(datei, "PNG", 0)) std::fprintf(stderr, "%s: nicht geschrieben\n", qPrintable(datei));
-  std::printf("%-24s %4d x %4d\n", stueck.name.c_str(), bild.width(), bild.height());
+  std::printf("%-28s %4d x %4d\n", name.c_str(), bild.width(), bild.height());
+}
+
+// A real box, taken while it waits for its answer.
+void Meldung_aufnehmen(const QDir& ordner) {
+  Qt_oberflaeche boxen;
+  QTimer::singleShot(0, [&] {
+    QWidget* const kasten = QApplication::activeModalWidget();
+    QApplication::processEvents();
+    Ablegen(*kasten, "meldung", ordner);
+    kasten->close();
+  });
+  boxen.Melden({.text = "Der Apparat wird endgültig gelöscht. Wollen Sie das?",
+                .titel = "Warnung",
+                .knoepfe = Knoepfe::Ja_Nein,
+                .symbol = Symbol::Warnung,
+                .standard = 2});
 }
 
 }  // namespace
@@ -69,13 +80,14 @@ int main(int argc, char** argv) {
     std::fprintf(stderr, "%s: kein Projekt\n", qPrintable(datei.fileName()));
     return 1;
   }
-  // Windows that ask the master find a simulated one.
-  const Simulierter_master master;
-  Com_art_setzen();
+  const Musterhaus haus;
   const QDir ordner(argumente.at(1));
   ordner.mkpath(".");
   const QStringList namen = argumente.mid(2);
   for (const Schaustueck& s : Formenschau()) {
-    if (namen.isEmpty() || namen.contains(Q(s.name))) Aufnehmen(s, ordner);
+    if (!namen.isEmpty() && !namen.contains(Q(s.name))) continue;
+    const auto aufnehmen = [&](Formfenster& f) { Ablegen(f, s.name, ordner); };
+    if (!Vorfuehren(s, oberflaeche, aufnehmen)) std::fprintf(stderr, "%s: nichts zu sehen\n", s.name.c_str());
   }
+  if (namen.isEmpty() || namen.contains("meldung")) Meldung_aufnehmen(ordner);
 }

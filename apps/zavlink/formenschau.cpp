@@ -1,7 +1,11 @@
 #include "zavlink/formenschau.h"
 
+#include <QApplication>
 #include <algorithm>
 
+#include "app/app_eigenschaften_seite.h"
+#include "app/ip_kameras.h"
+#include "app/zavapp_form.h"
 #include "editor/actmask.h"
 #include "editor/actmask_init.h"
 #include "editor/actmask_timer.h"
@@ -37,6 +41,7 @@
 #include "time/uhrseite.h"
 #include "weather/wetterdisplay.h"
 #include "weather/wetterlogik.h"
+#include "zavlink/formfenster.h"
 
 namespace zav::fenster {
 
@@ -63,15 +68,6 @@ int Adresse_von(int d) {
   return lauf ? lauf->von : -1;
 }
 
-// The main menu as it looks while events are logged, without a master.
-void Protokoll_vorfuehren(Haupt& f) {
-  f.Frame_befehle.sichtbar = false;
-  f.Frame_glaszav.sichtbar = true;
-  f.Terminal_Fenster.setzen(
-      "14.02.07  ZAVin 0A06  Taste 01  gedrückt\r\n14.02.07  ZAVin 0A06  Taste 01  gelöst\r\n"
-      "14.02.31  ZAVin 0A10  Taste 03  gedrückt\r\n");
-}
-
 template <class F, class... A>
 std::function<std::unique_ptr<Formular>()> Stueck(A... argumente) {
   return [=] { return std::make_unique<F>(argumente...); };
@@ -87,20 +83,45 @@ std::function<std::unique_ptr<Formular>()> Stueck_nach(std::function<void(F&)> t
   };
 }
 
+// A form whose command is seen at work.
+template <class F>
+Vorgang Lauf(Taste F::*befehl, std::function<bool(const F&)> sehenswert, Taste F::*ende) {
+  return {.beginnen = [=](Formular& f) { (static_cast<F&>(f).*befehl).druecken(); },
+          .sehenswert = [=](const Formular& f) { return sehenswert(static_cast<const F&>(f)); },
+          .beenden =
+              [=](Formular& f) {
+                Taste& t = static_cast<F&>(f).*ende;
+                if (t.frei && t.sichtbar) t.druecken();
+              }};
+}
+
+constexpr std::ptrdiff_t ereigniszeilen = 8;  // of the log that fill a picture
+
+bool Protokoll_voll(const Haupt& f) {
+  const std::string& text = f.Terminal_Fenster.text();
+  const std::size_t anfang = text.find("F00");
+  return anfang != std::string::npos &&
+         std::count(text.begin() + static_cast<std::ptrdiff_t>(anfang), text.end(), '\n') > ereigniszeilen;
+}
+
 }  // namespace
 
 std::vector<Schaustueck> Formenschau() {
   const int ereignis = Erstes(projekt.Ein_leer, 1024);
+  const int uhr = Erstes(projekt.Uhr_leer, 256);
+  const int schritt = Erstes(projekt.Tev_leer, 64);
   const int uhr_sonne = Erstes(projekt.Uhr_astro, 256);
   const int wetter =
       std::max(0, Adresse_von(Apparat_finden([](int typ) { return typ == apparat_wetterstation; })));
   const int sender =
       std::max(0, Apparat_finden([](int typ) { return typ > 0 && Apparat_funkart(typ) != 0; }));
+  const int app = std::max(0, Apparat_finden([](int typ) { return typ > 0 && Apparat_funkart(typ) == 0; }));
   const auto seite = [](int n) { return [n](Actmask& f) { f.TabStrip1.waehlen(n); }; };
   return {
       {"gruss", Stueck<Gruss>()},
+      {"gruss-neuerungen", Stueck_nach<Gruss>([](Gruss& f) { f.Command2.druecken(); })},
       {"haupt", Stueck<Haupt>()},
-      {"terminal", Stueck_nach<Haupt>([](Haupt& f) { Protokoll_vorfuehren(f); })},
+      {"terminal", Stueck<Haupt>(), Lauf<Haupt>(&Haupt::protokoll, Protokoll_voll, &Haupt::Command7)},
       {"datei", Stueck<Datei>()},
       {"setup", Stueck<Setup>()},
       {"eingabehilfe", Stueck<Eingabehilfe>()},
@@ -122,6 +143,10 @@ std::vector<Schaustueck> Formenschau() {
        Stueck_nach<Actmask>(seite(1), ereignis, std::string("Erdgeschoss - Küche - Licht"))},
       {"funktionen-timer",
        Stueck_nach<Actmask>(seite(2), ereignis, std::string("Erdgeschoss - Küche - Licht"))},
+      {"funktionen-schaltuhr", Stueck<Actmask_uhr>(uhr, std::string("Aussenlicht - 19.30.00"))},
+      {"funktionen-schaltuhr-dimmen", Stueck_nach<Actmask_uhr>([](Actmask_uhr& f) { f.TabStrip1.waehlen(1); },
+                                                               uhr, std::string("Aussenlicht - 19.30.00"))},
+      {"funktionen-zeitschritt", Stueck<Actmask_timer>(schritt, std::string("Treppenhaus, Schritt 1"))},
       {"neustart", Stueck<Actmask_init>()},
       {"neustart-dimmen", Stueck_nach<Actmask_init>([](Actmask_init& f) { f.TabStrip1.waehlen(1); })},
       {"dimmermodus", Stueck<Dimmermode>()},
@@ -142,11 +167,50 @@ std::vector<Schaustueck> Formenschau() {
       {"wetterdisplay", Stueck<Wetterdisplay>()},
       {"enocean_definition", Stueck<Enocean_Definition>(sender)},
       {"enocean_send", Stueck<Enocean_Send>()},
+      {"enocean_send-laeuft", Stueck_nach<Enocean_Send>([](Enocean_Send& f) { f.Check1.haken(true); }),
+       Lauf<Enocean_Send>(
+           &Enocean_Send::Command1, [](const Enocean_Send& f) { return *f.ProgressBar1.wert > 40; },
+           &Enocean_Send::Command5)},
+      {"app-eigenschaften", Stueck<App_eigenschaften_seite>(app, 0)},
+      {"kameras", Stueck<IP_Kameras>()},
+      {"zavapp", Stueck<ZAVapp_Form>()},
       {"init_flash", Stueck<Init_flash>()},
+      {"init_flash-laeuft", Stueck<Init_flash>(),
+       Lauf<Init_flash>(
+           &Init_flash::Command3, [](const Init_flash& f) { return *f.ProgressBar1.wert > 50; },
+           &Init_flash::Command2)},
       {"info", Stueck<Infofenster>()},
       {"bootloader", Stueck<Bootloader>()},
       {"uhr-stellen", Stueck<Uhrseite>()},
   };
+}
+
+bool Vorfuehren(const Schaustueck& stueck, Stille_oberflaeche& oberflaeche,
+                const std::function<void(Formfenster&)>& betrachten) {
+  const std::unique_ptr<Formular> form = stueck.bauen();
+  Formfenster fenster(*form, nullptr);
+  fenster.show();
+  form->beim_oeffnen();
+  const auto zeigen = [&] {
+    fenster.nachholen();
+    for (int runde = 0; runde < 4; ++runde) QApplication::processEvents();
+    betrachten(fenster);
+  };
+  if (!stueck.vorgang.beginnen) {
+    zeigen();
+    return true;
+  }
+  bool gesehen = false;
+  oberflaeche.bei_doevents = [&] {
+    QApplication::processEvents();
+    if (gesehen || !stueck.vorgang.sehenswert(*form)) return;
+    gesehen = true;
+    zeigen();
+    stueck.vorgang.beenden(*form);
+  };
+  stueck.vorgang.beginnen(*form);
+  oberflaeche.bei_doevents = nullptr;
+  return gesehen;
 }
 
 }  // namespace zav::fenster
