@@ -86,13 +86,9 @@ TEST_F(EinstellungenTest, FirstRunHasDefaultsAndARunLaterAllValues) {
   einstellungen = {};
   einstellungen.Com_geraet = "/dev/pts/9";
   EXPECT_EQ(Einstellungen_lesen(), "");
-  EXPECT_EQ(einstellungen.Com_port, 8);
-  EXPECT_EQ(einstellungen.Com_art, 2);
-  EXPECT_EQ(einstellungen.Epson, -32768);
-  EXPECT_EQ(einstellungen.Host_ip, "haus.müller.ch");
-  EXPECT_EQ(einstellungen.Host_port, 65535);
-  EXPECT_EQ(einstellungen.Sowi_datum[19], "");
-  EXPECT_EQ(einstellungen.last_file[0], "/tmp/Haus");
+  EXPECT_TRUE(einstellungen.Com_port == 8 && einstellungen.Com_art == 2 && einstellungen.Epson == -32768);
+  EXPECT_EQ(einstellungen.Host_ip + ":" + std::to_string(einstellungen.Host_port), "haus.müller.ch:65535");
+  EXPECT_EQ(einstellungen.Sowi_datum[19] + einstellungen.last_file[0], "/tmp/Haus");
   EXPECT_EQ(Portgeraet(2), "/dev/ttyUSB7");
   EXPECT_EQ(Portgeraet(sio_direkt), "/dev/pts/9");
   EXPECT_EQ(Portgeraet(-1) + Portgeraet(99), "");
@@ -190,18 +186,12 @@ TEST(Csc, FailedConnectionNamesItsCause) {
 
 TEST(Csc, HostThatDoesNotAnswerLeavesTheFrontEndAliveAndEnds) {
   // A listener whose queue is full leaves further connections without an answer, as a switched-off host does.
-  const int lauscher = socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0);
-  sockaddr_in ort{};
-  ort.sin_family = AF_INET;
-  ort.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
-  ASSERT_EQ(bind(lauscher, reinterpret_cast<sockaddr*>(&ort), sizeof ort), 0);
-  ASSERT_EQ(listen(lauscher, 0), 0);
-  socklen_t laenge = sizeof ort;
-  getsockname(lauscher, reinterpret_cast<sockaddr*>(&ort), &laenge);
+  int port = 0;
+  const int lauscher = Lauscher(port, 0);
   Zaehlt_runden front;
   Zeitraffer_setzen(20);
   int ergebnis = 0;
-  for (int i = 0; i < 4 && ergebnis >= 0; ++i) ergebnis = cscClient("127.0.0.1", ntohs(ort.sin_port));
+  for (int i = 0; i < 4 && ergebnis >= 0; ++i) ergebnis = cscClient("127.0.0.1", port);
   Zeitraffer_setzen(1);
   EXPECT_EQ(ergebnis, -ETIMEDOUT);
   EXPECT_GE(front.runden, 3);

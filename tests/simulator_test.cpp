@@ -12,6 +12,8 @@
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
+#include <iterator>
+#include <sstream>
 
 #include "simulator/fd.h"
 
@@ -73,6 +75,10 @@ class Zavmaster : public ::testing::Test {
  protected:
   explicit Zavmaster(Optionen o = {.pty = true}) : sim(std::move(o)), draht((sim.start(), sim)) {}
   std::string operator()(std::string_view nachricht) { return draht.fragen(nachricht); }
+  // Messages with the code each is refused with.
+  void verweigert(std::initializer_list<std::pair<std::string_view, std::string_view>> faelle) {
+    for (const auto& [nachricht, code] : faelle) EXPECT_EQ(draht.fragen(nachricht), code) << nachricht;
+  }
 
   Simulator sim;
   Draht draht;
@@ -87,21 +93,16 @@ TEST_F(Zavmaster, AntwortetNurAufGanzeUndRichtigeMeldungen) {
   draht.roh("6\r");
   EXPECT_EQ(draht.bis("\r").size(), 13U);
 
-  struct {
-    std::string_view roh, antwort;
-  } falsch[] = {
+  const std::pair<std::string_view, std::string_view> falsch[] = {
       {"V57\r", "F07"},    {"V5g\r", "F05"}, {"V5a\r", "F05"}, {"K4B\r", "F01"},
       {"\r", "F01"},       {"L4C\r", "F01"}, {"V\r", "F01"},   {"\xFF\xFE\x01\n\r", "F01"},
       {"i69i69\r", "F07"},
   };
-  for (const auto& f : falsch) {
-    draht.roh(f.roh);
-    EXPECT_EQ(draht.bis("\r"), rahmen(f.antwort)) << f.roh;
+  for (const auto& [roh, antwort] : falsch) {
+    draht.roh(roh);
+    EXPECT_EQ(draht.bis("\r"), rahmen(antwort)) << roh;
   }
-  EXPECT_EQ(frage("LD0g"), "F05");
-  EXPECT_EQ(frage("LD0100"), "F01");
-  EXPECT_EQ(frage("LD02"), "F06");
-  EXPECT_EQ(frage("LS08"), "F06");
+  verweigert({{"LD0g", "F05"}, {"LD0100", "F01"}, {"LD02", "F06"}, {"LS08", "F06"}});
 
   draht.roh("halbe Mel%i69\r");
   EXPECT_EQ(draht.bis("\r"), rahmen("F00"));
@@ -113,20 +114,20 @@ TEST_F(Zavmaster, AntwortetNurAufGanzeUndRichtigeMeldungen) {
 
 TEST_F(Zavmaster, PrueftDasFensterUndHaeltDenSpeicher) {
   auto& frage = *this;
-  EXPECT_EQ(frage("R"), "F06");
-  EXPECT_EQ(frage("W00"), "F06");
-  struct {
-    std::string_view fenster, antwort;
-  } falsch[] = {
-      {"D400000400001", "F06"}, {"D000807000800", "F60"}, {"D000A10000A10", "F61"},  {"D000800000A10", "F62"},
-      {"D000800000C00", "F63"}, {"D00080000080", "F01"},  {"D0008000008070", "F01"}, {"D00080000080a", "F05"},
-  };
-  for (const auto& f : falsch) EXPECT_EQ(frage(f.fenster), f.antwort) << f.fenster;
+  verweigert({{"R", "F06"},
+              {"W00", "F06"},
+              {"D400000400001", "F06"},
+              {"D000807000800", "F60"},
+              {"D000A10000A10", "F61"},
+              {"D000800000A10", "F62"},
+              {"D000800000C00", "F63"},
+              {"D00080000080", "F01"},
+              {"D0008000008070", "F01"},
+              {"D00080000080a", "F05"}});
 
   EXPECT_EQ(frage("D000800000A0F"), "F00");  // a whole page
   EXPECT_EQ(frage("W" + std::string(1056, '5')), "F00");
-  EXPECT_EQ(frage("W" + std::string(1054, '5')), "F01");
-  EXPECT_EQ(frage("W" + std::string(1058, '5')), "F64");
+  verweigert({{"W" + std::string(1054, '5'), "F01"}, {"W" + std::string(1058, '5'), "F64"}});
   EXPECT_EQ(frage("D000802000803"), "F00");
   EXPECT_EQ(frage("WA1FF"), "F00");
   EXPECT_EQ(frage("D000800000807"), "F00");
@@ -210,13 +211,14 @@ TEST_F(Zavmaster, ZeigtEreignisseBisZumStern) {
   EXPECT_TRUE(draht.stumm());
   EXPECT_EQ(frage("i"), "F99");
 
-  struct {
-    std::string_view nachricht, antwort;
-  } falsch[] = {
-      {"Y040201", "F68"},   {"Y0402010100", "F68"}, {"Y04030101", "F80"}, {"Y06000101", "F80"},
-      {"Y04020301", "F06"}, {"Y04020100", "F06"},   {"Y04020105", "F06"}, {"Yabcd0101", "F05"},
-  };
-  for (const auto& f : falsch) EXPECT_EQ(frage(f.nachricht), f.antwort) << f.nachricht;
+  verweigert({{"Y040201", "F68"},
+              {"Y0402010100", "F68"},
+              {"Y04030101", "F80"},
+              {"Y06000101", "F80"},
+              {"Y04020301", "F06"},
+              {"Y04020100", "F06"},
+              {"Y04020105", "F06"},
+              {"Yabcd0101", "F05"}});
 
   // The display ends with its user, on both lines.
   Draht tcp(sim);
@@ -285,15 +287,12 @@ TEST_F(Zavmaster, ProgrammiertEinenFunkempfaenger) {
   x("02", "4156");
   EXPECT_EQ(frage("x").substr(10, 6), "01040F");  // eight senders a page, less the one that did not hold
 
-  struct {
-    std::string_view nachricht, antwort;
-  } falsch[] = {{"X0101024157", "F66"},
-                {"X010102415700000000000000", "F68"},
-                {"X0800024157000000000000", "F80"},
-                {"X0000024157000000000000", "F80"},
-                {"X0101094157000000000000", "F81"},
-                {"X01010241x7000000000000", "F05"}};
-  for (const auto& f : falsch) EXPECT_EQ(frage(f.nachricht), f.antwort) << f.nachricht;
+  verweigert({{"X0101024157", "F66"},
+              {"X010102415700000000000000", "F68"},
+              {"X0800024157000000000000", "F80"},
+              {"X0000024157000000000000", "F80"},
+              {"X0101094157000000000000", "F81"},
+              {"X01010241x7000000000000", "F05"}});
   EXPECT_EQ(sim.telegramme().back(), (Telegramm{0x11F, 2, {'A', 'V'}}));
 }
 
@@ -433,29 +432,24 @@ TEST(Geschwindigkeit, HaeltBeideRichtungenBeiderLeitungen) {
 }
 
 TEST(Aufruf, SagtWasFalschIst) {
-  const auto lesen = [](std::vector<std::string> a) { return Aufruf_lesen(a); };
-  const auto gut = lesen({"--pty", "--baud", "115200", "--fehler", "F07@W3", "stumm@20", "--tcp", "4001",
-                          "--version", "REV 08.01"});
+  const auto lesen = [](const std::string& aufruf) {
+    std::istringstream worte(aufruf);
+    return Aufruf_lesen({std::istream_iterator<std::string>(worte), {}});
+  };
+  const auto gut = lesen("--pty --baud 115200 --fehler F07@W3 stumm@20 --tcp 4001 --version REV_08.01");
   ASSERT_TRUE(gut.optionen);
   EXPECT_EQ(gut.optionen->tcp, 4001);
   EXPECT_EQ(gut.optionen->fehler.size(), 2U);
-  EXPECT_FALSE(lesen({"--pty"}).optionen->tcp);
-  EXPECT_EQ(lesen({"--hilfe"}).status, 0);
-  EXPECT_FALSE(lesen({"--hilfe"}).optionen);
-  for (const std::vector<std::string>& falsch :
-       std::vector<std::vector<std::string>>{{"--tcp"},
-                                             {"--tcp", "65536"},
-                                             {"--tcp", "1x"},
-                                             {"--baud", "0"},
-                                             {"--laut"},
-                                             {"zuviel"},
-                                             {"--speicher", ""},
-                                             {"--version", "12345678901"},
-                                             {"--fehler", "F07@K"},
-                                             {"--fehler"}}) {
+  EXPECT_FALSE(lesen("--pty").optionen->tcp);
+  EXPECT_EQ(lesen("--hilfe").status, 0);
+  EXPECT_FALSE(lesen("--hilfe").optionen);
+  EXPECT_EQ(Aufruf_lesen({"--speicher", ""}).status, 2);
+  for (const std::string falsch : {"--tcp", "--tcp 65536", "--tcp 1x", "--baud 0", "--laut", "zuviel",
+                                   "--version 12345678901", "--fehler F07@K", "--fehler"}) {
     const auto a = lesen(falsch);
-    EXPECT_EQ(a.status, 2) << falsch[0];
-    EXPECT_NE(a.text.find(falsch[0] == "--fehler" ? "" : falsch[0]), std::string::npos);
+    const std::string wort = falsch.substr(0, falsch.find(' '));
+    EXPECT_EQ(a.status, 2) << falsch;
+    EXPECT_NE(a.text.find(wort == "--fehler" ? "" : wort), std::string::npos);
   }
 }
 
