@@ -560,7 +560,9 @@ TEST_F(Shell_am_master, RunningTransferCanBeStoppedAnEraseCannot) {
   Initialisieren(f);
   EXPECT_TRUE(f.offen());
   d.bei_doevents = [&] {
-    if (f.Command2.frei && f.ProgressBar1.wert > 0.0) f.schliessen_wuenschen();
+    f.schliessen_wuenschen();  // a stray Escape
+    EXPECT_TRUE(f.offen());
+    if (f.Command2.frei && f.ProgressBar1.wert > 0.0) f.Command2.druecken();
   };
   d.erwarte({.text = "F97: Sie haben die Übertragung zum ZAVmaster abgebrochen. Die Daten im ZAVmaster sind "
                      "jetzt ungültig und es kann zu undefinierten Schaltzuständen kommen.\r\n\r\nDrücken Sie "

@@ -16,6 +16,11 @@ namespace {
 
 constexpr int hoehe_ziel = 28;  // of buttons, fields and lists
 constexpr double rundung = 4;
+constexpr int balkenhoehe = 8;
+
+bool Hat_tastatur(const QStyleOption& o) {
+  return o.state.testFlag(QStyle::State_HasFocus) && o.state.testFlag(QStyle::State_KeyboardFocusChange);
+}
 
 // A flat key: face, line around it, and a ring in the highlight's colour when it has the keyboard.
 void Flaeche_malen(QPainter& p, const QStyleOption& o, bool vorgabe) {
@@ -27,9 +32,7 @@ void Flaeche_malen(QPainter& p, const QStyleOption& o, bool vorgabe) {
   else if (frei && z.testFlag(QStyle::State_MouseOver))
     flaeche = flaeche.lightness() < 128 ? flaeche.lighter(115) : flaeche.darker(104);
   const bool gedrueckt = z.testFlag(QStyle::State_On);
-  const bool ring =
-      frei && (vorgabe || gedrueckt ||
-               (z.testFlag(QStyle::State_HasFocus) && z.testFlag(QStyle::State_KeyboardFocusChange)));
+  const bool ring = frei && (vorgabe || gedrueckt || Hat_tastatur(o));
   p.save();
   p.setRenderHint(QPainter::Antialiasing);
   p.setBrush(flaeche);
@@ -112,6 +115,25 @@ void Punkt_malen(QPainter& p, const QStyleOption& o) {
   p.restore();
 }
 
+// A flat bar with its figure behind it.
+void Balken_malen(QPainter& p, const QStyleOptionProgressBar& o) {
+  const int zahl = o.fontMetrics.horizontalAdvance("100 %") + raster;
+  const double anteil = (o.progress - o.minimum) / std::max(1.0, double(o.maximum) - o.minimum);
+  const QRectF rinne(o.rect.left(), o.rect.center().y() - balkenhoehe / 2.0 + 0.5, o.rect.width() - zahl,
+                     balkenhoehe);
+  p.save();
+  p.setRenderHint(QPainter::Antialiasing);
+  p.setPen(Qt::NoPen);
+  for (const auto& [rolle, teil] : {std::pair{QPalette::Midlight, 1.0}, {QPalette::Highlight, anteil}}) {
+    p.setBrush(o.palette.color(rolle));
+    const QRectF r(rinne.topLeft(), QSizeF(rinne.width() * teil, rinne.height()));
+    if (r.width() >= 1) p.drawRoundedRect(r, balkenhoehe / 2.0, balkenhoehe / 2.0);
+  }
+  p.restore();
+  QApplication::style()->drawItemText(&p, o.rect, Qt::AlignRight | Qt::AlignVCenter, o.palette, true, o.text,
+                                      QPalette::WindowText);
+}
+
 }  // namespace
 
 Stil::Stil() : QProxyStyle("Fusion") {}
@@ -139,7 +161,11 @@ QSize Stil::sizeFromContents(ContentsType t, const QStyleOption* o, const QSize&
   QSize g = QProxyStyle::sizeFromContents(t, o, s, w);
   switch (t) {
     case CT_PushButton:
-      if (w != nullptr && w->property("links").toBool()) g.setWidth(g.width() + 2 * raster);
+      // Keys of one or two letters stand in dense grids.
+      if (const auto* const k = qstyleoption_cast<const QStyleOptionButton*>(o);
+          k != nullptr && k->text.size() > 3) {
+        g.setWidth(g.width() + 2 * raster);
+      }
       g.setHeight(std::max(g.height(), hoehe_ziel));
       break;
     case CT_LineEdit:
@@ -155,8 +181,10 @@ QSize Stil::sizeFromContents(ContentsType t, const QStyleOption* o, const QSize&
 void Stil::drawControl(ControlElement e, const QStyleOption* o, QPainter* p, const QWidget* w) const {
   if (e == CE_PushButtonBevel) {
     const auto* const knopf = qstyleoption_cast<const QStyleOptionButton*>(o);
-    if (w != nullptr && w->property("flach").toBool() &&
-        !(o->state & (State_MouseOver | State_Sunken | State_HasFocus)))
+    const bool vorgabe = knopf != nullptr && knopf->features.testFlag(QStyleOptionButton::DefaultButton);
+    const bool bedient = (o->state & (State_MouseOver | State_Sunken)) || Hat_tastatur(*o);
+    if (w != nullptr && w->property("flach").toBool() && !vorgabe &&
+        !(bedient && o->state.testFlag(State_Enabled)))
       return;
     if (knopf != nullptr && !knopf->features.testFlag(QStyleOptionButton::HasMenu)) {
       Flaeche_malen(*p, *o, knopf->features.testFlag(QStyleOptionButton::DefaultButton));
@@ -167,12 +195,14 @@ void Stil::drawControl(ControlElement e, const QStyleOption* o, QPainter* p, con
     // A picture with its name: in a column they stand in line.
     const auto& knopf = *qstyleoption_cast<const QStyleOptionButton*>(o);
     QRect platz = o->rect.adjusted(raster, 0, -raster, 0);
-    knopf.icon.paint(p, QRect(platz.topLeft(), QSize(knopf.iconSize.width(), platz.height())));
+    knopf.icon.paint(p, QRect(platz.topLeft(), QSize(knopf.iconSize.width(), platz.height())),
+                     Qt::AlignCenter, o->state.testFlag(State_Enabled) ? QIcon::Normal : QIcon::Disabled);
     platz.setLeft(platz.left() + knopf.iconSize.width() + raster);
     drawItemText(p, platz, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextShowMnemonic, o->palette,
                  o->state.testFlag(State_Enabled), knopf.text, QPalette::ButtonText);
     return;
   }
+  if (e == CE_ProgressBar) return Balken_malen(*p, *qstyleoption_cast<const QStyleOptionProgressBar*>(o));
   if (e == CE_TabBarTabShape) {
     // The chosen page is underlined; the strip itself is one line.
     const bool gewaehlt = o->state.testFlag(State_Selected);

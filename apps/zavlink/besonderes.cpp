@@ -5,6 +5,7 @@
 #include "zavlink/apparaterahmen.h"
 #include "zavlink/apparatseitenfeld.h"
 #include "zavlink/bilderwahl.h"
+#include "zavlink/hauptansicht.h"
 #include "zavlink/jahresplan.h"
 #include "zavlink/renderer.h"
 #include "zavlink/tagesskala.h"
@@ -19,6 +20,7 @@ Besonderer_bau Besonderer_bau_von(const std::string& name) {
   static constexpr std::array tabelle{
       Eintrag{"adressplan", Adressplanfeld_bauen},     Eintrag{"apparatebilder", Bilderwahl_bauen},
       Eintrag{"apparaterahmen", Apparaterahmen_bauen}, Eintrag{"apparatseite", Apparatseitenfeld_bauen},
+      Eintrag{"hauptansicht", Hauptansicht_bauen},     Eintrag{"tafel", Tafel_bauen},
       Eintrag{"tasterbilder", Bilderwahl_bauen},       Eintrag{"Tagesskala", Tagesskala_bauen},
       Eintrag{"jahresplan", Jahresplan_bauen},
   };

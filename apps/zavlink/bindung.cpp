@@ -65,10 +65,13 @@ void Handeln(const std::function<void()>& tat) {
   try {
     tat();
   } catch (const std::exception& fehler) {
-    QMessageBox::critical(
-        nullptr, "Fehler im Programm",
+    QMessageBox kasten(
+        QMessageBox::Critical, "Fehler im Programm",
         QString("Der Befehl wurde abgebrochen. Bitte speichern Sie das Projekt unter anderem Namen.\n\n%1")
-            .arg(fehler.what()));
+            .arg(fehler.what()),
+        QMessageBox::Ok, QApplication::activeWindow());
+    kasten.setTextFormat(Qt::PlainText);
+    kasten.exec();
   }
 }
 
@@ -80,7 +83,8 @@ void Handeln(Steuerelement& e, const std::function<void()>& tat) {
 void Gemeinsames(QWidget& w, const Steuerelement& e) {
   w.setEnabled(e.frei);
   if (w.isVisibleTo(w.parentWidget()) != *e.sichtbar || w.isHidden() == *e.sichtbar) w.setVisible(e.sichtbar);
-  w.setToolTip(Tipp(Q(*e.hinweis)));
+  w.setToolTip(Tipp(Q(e.tipp())));
+  w.setAccessibleDescription(Q(e.tipp()));
   w.setObjectName(Q(e.name()));
   const QString titel = Ohne_kuerzel(Q(*e.titel));
   if (!titel.isEmpty()) {
@@ -251,8 +255,7 @@ class Balkenfeld final : public QProgressBar {
                         rundung, rundung);
     }
     p.setPen(palette().color(QPalette::WindowText));
-    if (isTextVisible())
-      p.drawText(rect(), Qt::AlignRight | Qt::AlignVCenter, QString("%1 %").arg(std::lround(anteil * 100)));
+    if (isTextVisible()) p.drawText(rect(), Qt::AlignRight | Qt::AlignVCenter, text());
   }
 };
 
@@ -325,7 +328,7 @@ QAction* Aktion_bauen(Steuerelement& e, Auffrischer& auf, QObject* eltern) {
   aktion->setObjectName(Q(e.name()));
   const auto gemeinsames = [&e, aktion] {
     aktion->setText(Q(*e.titel));
-    aktion->setToolTip(Tipp(Q(e.hinweis->empty() ? *e.titel : *e.hinweis)));
+    aktion->setToolTip(Tipp(Q(e.tipp())));
     aktion->setEnabled(e.frei);
     aktion->setVisible(e.sichtbar);
   };

@@ -1,13 +1,19 @@
 #include "zavlink/formfenster.h"
 
+#include <QAction>
+#include <QButtonGroup>
 #include <QCloseEvent>
 #include <QGuiApplication>
+#include <QKeyEvent>
+#include <QLineEdit>
 #include <QMenuBar>
+#include <QPointer>
+#include <QPushButton>
+#include <QRadioButton>
 #include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QSettings>
-#include <QShortcut>
 #include <QTimer>
 #include <QVBoxLayout>
 #include <algorithm>
@@ -38,19 +44,13 @@ Formfenster::Formfenster(Formular& f, QWidget* eltern)
   if (eltern == nullptr) setWindowFlags(Qt::Window);
   setWindowFlag(Qt::WindowMaximizeButtonHint);
   auto* const spalte = new QVBoxLayout(this);
-  spalte->setContentsMargins(gruppenabstand, gruppenabstand - raster / 2, gruppenabstand, gruppenabstand);
   spalte->setSpacing(gruppenabstand);
   Aufbauen(f.anordnung(), *auffrischer_, this, gebautes_, Q(f.titel()));
-  if (!gebautes_.menues.empty()) {
-    auto* const leiste = new QMenuBar(this);
-    for (QMenu* m : gebautes_.menues) leiste->addMenu(m);
-    spalte->setMenuBar(leiste);
-  }
+  const int rand = gebautes_.randlos ? 0 : gruppenabstand;
+  spalte->setContentsMargins(rand, rand, rand, rand);
+  menue_aufsetzen();
   spalte->addWidget(gebautes_.inhalt, 1);
   if (gebautes_.knopfzeile != nullptr) spalte->addWidget(gebautes_.knopfzeile);
-  connect(new QShortcut(QKeySequence::HelpContents, this), &QShortcut::activated, this, [this] {
-    if (handbuch_oeffnen) handbuch_oeffnen(form_.name());
-  });
   form_.beobachter = [this] { nachfuehren(); };
   nachfuehren();
   einpassen();
@@ -62,9 +62,28 @@ Formfenster::~Formfenster() {
   groessen.setValue(objectName(), saveGeometry());
 }
 
+// F1 opens the manual in every window; where there is a menu, its last one, the help, offers it.
+void Formfenster::menue_aufsetzen() {
+  auto* const handbuch = new QAction("&Handbuch", this);
+  handbuch->setShortcut(QKeySequence::HelpContents);
+  connect(handbuch, &QAction::triggered, this, [this] {
+    if (handbuch_oeffnen) handbuch_oeffnen(form_.name());
+  });
+  addAction(handbuch);
+  if (gebautes_.menues.empty()) return;
+  auto* const leiste = new QMenuBar(this);
+  for (QMenu* m : gebautes_.menues) leiste->addMenu(m);
+  layout()->setMenuBar(leiste);
+  QMenu& hilfe = *gebautes_.menues.back();
+  hilfe.insertAction(hilfe.actions().value(0), handbuch);
+}
+
 // What does not fit a small screen scrolls; the buttons below stay in sight.
 void Formfenster::einpassen() {
-  const QSize platz = kleiner_schirm - schirmrand;
+  // At 200 % an ordinary screen is a small one. The screen of the platform without screens is no measure.
+  const bool ohne_schirm = QGuiApplication::platformName() == "offscreen";
+  const QSize platz =
+      (ohne_schirm ? kleiner_schirm : kleiner_schirm.boundedTo(screen()->availableSize())) - schirmrand;
   layout()->activate();
   const QSize noetig = minimumSizeHint();
   if (noetig.height() > platz.height() || noetig.width() > platz.width()) {
@@ -93,12 +112,18 @@ void Formfenster::hinweis_zeigen(const QString& text) {
     hinweis_->setFrameShape(QFrame::Box);
     hinweis_->setAutoFillBackground(true);
     hinweis_->setMargin(raster);
+    hinweis_->setWordWrap(true);
   }
   hinweis_->setVisible(!text.isEmpty());
   if (text.isEmpty()) return;
   hinweis_->setText(text);
-  hinweis_->adjustSize();
-  hinweis_->move(gruppenabstand, height() - hinweis_->height() - gruppenabstand);
+  const int breite =
+      std::min(hinweis_->fontMetrics().horizontalAdvance(text) + 3 * raster, width() - 2 * gruppenabstand);
+  hinweis_->resize(breite, hinweis_->heightForWidth(breite));
+  // Above the buttons, or above the status line.
+  const int unten =
+      gebautes_.knopfzeile != nullptr ? gebautes_.knopfzeile->y() : height() - 2 * gruppenabstand;
+  hinweis_->move(gruppenabstand, unten - hinweis_->height() - raster);
   hinweis_->raise();
   hinweis_->repaint();
 }
@@ -113,7 +138,9 @@ void Formfenster::laufen() {
 }
 
 void Formfenster::nachfuehren() {
-  setWindowTitle(Q(form_.titel()));
+  // Qt puts its mark of unsaved changes in the place of "[*]".
+  setWindowTitle(Q(form_.titel()).replace("[*]", "[*][*]") + "[*]");
+  setWindowModified(form_.ungespeichert());
   if (form_.fokuswunsch() != fokuswunsch_) {
     fokuswunsch_ = form_.fokuswunsch();
     const auto w = gebautes_.widgets.find(form_.fokus());
@@ -128,7 +155,12 @@ void Formfenster::showEvent(QShowEvent* e) {
   QDialog::showEvent(e);
   if (e->spontaneous()) return;
   // Fields that only show are no place to begin.
-  if (form_.fokus() == nullptr && gebautes_.inhalt != nullptr) focusNextChild();
+  if (fokuswunsch_ != 0) return;
+  focusNextChild();
+  const auto* const wahl = qobject_cast<QRadioButton*>(focusWidget());
+  if (wahl != nullptr && wahl->group() != nullptr && wahl->group()->checkedButton() != nullptr) {
+    wahl->group()->checkedButton()->setFocus();
+  }
 }
 
 void Formfenster::closeEvent(QCloseEvent* e) {
@@ -137,7 +169,44 @@ void Formfenster::closeEvent(QCloseEvent* e) {
 }
 
 void Formfenster::reject() {
-  Handeln([this] { form_.schliessen_wuenschen(); });
+  Handeln([this] { form_.abbrechen_wuenschen(); });
+}
+
+bool Formfenster::event(QEvent* e) {
+  if (e->type() == QEvent::WindowBlocked) ++unterbrechungen_;
+  return QDialog::event(e);
+}
+
+void Formfenster::keyPressEvent(QKeyEvent* e) {
+  QWidget* const hier = focusWidget();
+  const bool enter = (e->key() == Qt::Key_Return || e->key() == Qt::Key_Enter) && hier != nullptr;
+  if (auto* const knopf = qobject_cast<QPushButton*>(hier); enter && knopf != nullptr) {
+    knopf->click();  // the button that has the keyboard, whatever the default is
+  } else if (enter && qobject_cast<QLineEdit*>(hier) != nullptr) {
+    enter_im_feld(*hier, *e);
+  } else {
+    QDialog::keyPressEvent(e);
+  }
+}
+
+// The field that is being edited finishes before the default button is pressed. Where that brings a
+// complaint, the button is not pressed.
+void Formfenster::enter_im_feld(QWidget& feld, QKeyEvent& e) {
+  const auto knoepfe = findChildren<QPushButton*>();
+  const auto vorgabe = std::ranges::find_if(
+      knoepfe, [](const QPushButton* k) { return k->isDefault() && k->isVisible() && k->isEnabled(); });
+  const unsigned wuensche = form_.fokuswunsch();
+  const int unterbrechungen = unterbrechungen_;
+  const QPointer<QWidget> lebt(&feld);
+  if (vorgabe != knoepfe.end()) (*vorgabe)->setFocus();
+  else feld.clearFocus();
+  if (form_.fokuswunsch() != wuensche) return;
+  if (unterbrechungen_ == unterbrechungen && vorgabe != knoepfe.end()) {
+    auffrischer_->nachholen();
+    QDialog::keyPressEvent(&e);
+  }
+  // A form that stays open keeps the cursor in its field.
+  if (lebt && form_.offen() && form_.fokuswunsch() == wuensche) feld.setFocus();
 }
 
 }  // namespace zav::fenster

@@ -28,15 +28,20 @@ class Formfenster : public QDialog {
   void closeEvent(QCloseEvent* e) override;
   void reject() override;
   void showEvent(QShowEvent* e) override;
+  void keyPressEvent(QKeyEvent* e) override;
+  bool event(QEvent* e) override;
 
  private:
   void nachfuehren();
   void einpassen();
+  void menue_aufsetzen();
+  void enter_im_feld(QWidget& feld, QKeyEvent& e);
 
   Formular& form_;
   Auffrischer* auffrischer_;
   Gebautes gebautes_;
   unsigned fokuswunsch_ = 0;
+  int unterbrechungen_ = 0;  // boxes and windows that have opened over this one
   QLabel* hinweis_ = nullptr;
   QEventLoop schleife_;
 };

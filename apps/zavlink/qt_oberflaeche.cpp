@@ -8,6 +8,7 @@
 #include <QGridLayout>
 #include <QMessageBox>
 #include <QPushButton>
+#include <algorithm>
 
 #include "zavlink/formfenster.h"
 #include "zavlink/qt_text.h"
@@ -48,13 +49,6 @@ QMessageBox::Icon Symbol_qt(Symbol s) {
   return QMessageBox::NoIcon;
 }
 
-// The window that boxes and dialogs belong to: the topmost of ours, also while the user works in another
-// program.
-QWidget* Oben() {
-  QWidget* const modal = QApplication::activeModalWidget();
-  return modal != nullptr ? modal : QApplication::activeWindow();
-}
-
 void Einrichten(QFileDialog& d, const Dateifrage& f) {
   // Qt's own dialog: it can carry the write-protection box and looks the same everywhere.
   d.setOption(QFileDialog::DontUseNativeDialog);
@@ -72,7 +66,33 @@ void Einrichten(QFileDialog& d, const Dateifrage& f) {
   if (!f.titel.empty()) d.setWindowTitle(Q(f.titel));
 }
 
-std::optional<Dateiwahl> Fragen_qt(QFileDialog& d, QCheckBox* schutz) {
+// A window with a bar tells by itself how far its work has come.
+bool Hat_balken(const Formular& f) {
+  return std::ranges::any_of(f.elemente(),
+                             [](const Steuerelement* e) { return e->art == Art::Balken && e->sichtbar; });
+}
+
+// A box or a file dialog over a command that shows the busy pointer has the ordinary one.
+class Freier_zeiger {
+ public:
+  Freier_zeiger() : wartet_(QApplication::overrideCursor() != nullptr) {
+    if (wartet_) QApplication::changeOverrideCursor(Qt::ArrowCursor);
+  }
+  ~Freier_zeiger() {
+    if (wartet_ && QApplication::overrideCursor() != nullptr)
+      QApplication::changeOverrideCursor(Qt::WaitCursor);
+  }
+  Freier_zeiger(const Freier_zeiger&) = delete;
+  Freier_zeiger& operator=(const Freier_zeiger&) = delete;
+
+ private:
+  bool wartet_;
+};
+
+}  // namespace
+
+std::optional<Dateiwahl> Qt_oberflaeche::Fragen(QFileDialog& d, const QCheckBox* schutz) {
+  const Freier_zeiger zeiger;
   if (d.exec() != QDialog::Accepted || d.selectedFiles().isEmpty()) return std::nullopt;
   return Dateiwahl{
       .pfad = S(d.selectedFiles().first()),
@@ -80,11 +100,13 @@ std::optional<Dateiwahl> Fragen_qt(QFileDialog& d, QCheckBox* schutz) {
       .schreibgeschuetzt = schutz != nullptr && schutz->isChecked()};
 }
 
-}  // namespace
+QWidget* Qt_oberflaeche::vorne() const {
+  return offene_.empty() ? QApplication::activeWindow() : offene_.back();
+}
 
 Antwort Qt_oberflaeche::Melden(const Meldung& m) {
   QMessageBox kasten(Symbol_qt(m.symbol), m.titel.empty() ? "ZAVlink" : Q(m.titel), Q(m.text).remove('\r'),
-                     QMessageBox::NoButton, Oben());
+                     QMessageBox::NoButton, vorne());
   kasten.setTextFormat(Qt::PlainText);
   kasten.setTextInteractionFlags(Qt::TextSelectableByMouse);
   const std::vector<Knopf> knoepfe = Knoepfe_von(m.knoepfe);
@@ -95,6 +117,7 @@ Antwort Qt_oberflaeche::Melden(const Meldung& m) {
     if (++nummer == m.standard) kasten.setDefaultButton(knopf);
     if (k.antwort == Vorsichtige_antwort(m.knoepfe)) kasten.setEscapeButton(knopf);
   }
+  const Freier_zeiger zeiger;
   const int gedrueckt = kasten.exec();
   for (const Knopf& k : knoepfe) {
     if (k.qt == gedrueckt) return k.antwort;
@@ -105,24 +128,45 @@ Antwort Qt_oberflaeche::Melden(const Meldung& m) {
 void Qt_oberflaeche::Piep() { QApplication::beep(); }
 
 void Qt_oberflaeche::Zeiger_setzen(Zeiger z) {
-  const bool wartet = QApplication::overrideCursor() != nullptr;
-  if (z == Zeiger::warten && !wartet) QApplication::setOverrideCursor(Qt::WaitCursor);
-  if (z == Zeiger::normal && wartet) QApplication::restoreOverrideCursor();
+  if ((z == Zeiger::warten) == wartezeit_.isValid()) return;
+  if (z == Zeiger::warten) {
+    wartezeit_.start();
+    QApplication::setOverrideCursor(Qt::WaitCursor);
+  } else {
+    wartezeit_.invalidate();
+    QApplication::restoreOverrideCursor();
+    if (!hinweis_da_) Hinweis_zeigen("");
+  }
 }
 
 void Qt_oberflaeche::Hinweis(const std::string& text) {
-  if (auto* const fenster = qobject_cast<Formfenster*>(Oben())) fenster->hinweis_zeigen(Q(text));
+  hinweis_da_ = !text.empty();
+  Hinweis_zeigen(text);
 }
 
-void Qt_oberflaeche::DoEvents() { QApplication::processEvents(); }
+void Qt_oberflaeche::Hinweis_zeigen(const std::string& text) {
+  if (!offene_.empty()) offene_.back()->hinweis_zeigen(Q(text));
+}
+
+void Qt_oberflaeche::DoEvents() {
+  // What has no words of its own gets some when it takes long.
+  static constexpr qint64 stille_ms = 1000;
+  if (wartezeit_.isValid() && wartezeit_.elapsed() > stille_ms && !hinweis_da_ && !offene_.empty() &&
+      !Hat_balken(offene_.back()->formular())) {
+    Hinweis_zeigen("Einen Moment bitte, der ZAVmaster wird gefragt...");
+  }
+  QApplication::processEvents();
+}
 
 void Qt_oberflaeche::Zeigen(Formular& f) {
-  Formfenster fenster(f, Oben());
+  Formfenster fenster(f, vorne());
+  offene_.push_back(&fenster);
   fenster.laufen();
+  offene_.pop_back();
 }
 
 std::optional<Dateiwahl> Qt_oberflaeche::Datei_oeffnen(const Dateifrage& f) {
-  QFileDialog d(Oben());
+  QFileDialog d(vorne());
   Einrichten(d, f);
   d.setAcceptMode(QFileDialog::AcceptOpen);
   d.setFileMode(QFileDialog::ExistingFile);
@@ -132,20 +176,20 @@ std::optional<Dateiwahl> Qt_oberflaeche::Datei_oeffnen(const Dateifrage& f) {
     if (auto* const gitter = qobject_cast<QGridLayout*>(d.layout()))
       gitter->addWidget(schutz, gitter->rowCount(), 0, 1, -1);
   }
-  return Fragen_qt(d, schutz);
+  return Fragen(d, schutz);
 }
 
 std::optional<Dateiwahl> Qt_oberflaeche::Datei_speichern(const Dateifrage& f) {
-  QFileDialog d(Oben());
+  QFileDialog d(vorne());
   Einrichten(d, f);
   d.setAcceptMode(QFileDialog::AcceptSave);
   d.setOption(QFileDialog::DontConfirmOverwrite, !f.ueberschreiben_fragen);
-  return Fragen_qt(d, nullptr);
+  return Fragen(d, nullptr);
 }
 
 std::optional<std::string> Qt_oberflaeche::Ordner_waehlen(const std::string& beginn) {
   const QString ordner = QFileDialog::getExistingDirectory(
-      Oben(), "Ordner wählen", QDir(Q(beginn)).exists() ? Q(beginn) : QDir::homePath());
+      vorne(), "Ordner wählen", QDir(Q(beginn)).exists() ? Q(beginn) : QDir::homePath());
   if (ordner.isEmpty()) return std::nullopt;
   return S(ordner);
 }

@@ -1,11 +1,18 @@
 // The port of the forms, as windows.
 #pragma once
 
+#include <QElapsedTimer>
+#include <vector>
+
 #include "form/oberflaeche.h"
 
+class QCheckBox;
+class QFileDialog;
 class QWidget;
 
 namespace zav::fenster {
+
+class Formfenster;
 
 class Qt_oberflaeche final : public Oberflaeche {
  public:
@@ -20,6 +27,15 @@ class Qt_oberflaeche final : public Oberflaeche {
   std::optional<std::string> Ordner_waehlen(const std::string& beginn) override;
   Umschalttasten Tasten() override;
   void Zwischenablage(const std::string& text) override;
+
+ private:
+  // The window in front: what opens next stands over it, also while another program has the keyboard.
+  QWidget* vorne() const;
+  void Hinweis_zeigen(const std::string& text);
+  std::optional<Dateiwahl> Fragen(QFileDialog& d, const QCheckBox* schutz);
+  std::vector<Formfenster*> offene_;
+  QElapsedTimer wartezeit_;  // valid while the pointer is busy
+  bool hinweis_da_ = false;
 };
 
 }  // namespace zav::fenster

@@ -7,6 +7,7 @@
 #include <QVBoxLayout>
 #include <algorithm>
 #include <span>
+#include <utility>
 
 #include "zavlink/farben.h"
 #include "zavlink/qt_text.h"
@@ -45,7 +46,8 @@ bool Element_waechst(const Steuerelement& e, Richtung r) {
     }
     case Art::Auswahl: {
       const auto& a = static_cast<const Auswahl&>(e);
-      if (a.form == Auswahl::Form::Raster || a.form == Auswahl::Form::Liste) return true;
+      if (a.form == Auswahl::Form::Raster || (a.form == Auswahl::Form::Liste && r == Richtung::senkrecht))
+        return true;
       return r == Richtung::waagrecht && ((a.form == Auswahl::Form::Leiste && a.anzahl() >= leiste_breit) ||
                                           a.form == Auswahl::Form::Reiter);
     }
@@ -81,6 +83,11 @@ bool Ist_hoch(const Anordnung& a) {
   if (a.art == A::Zeile) return std::ranges::any_of(a.kinder, Ist_hoch);
   return a.art == A::Spalte || a.art == A::Gruppe || a.art == A::Raster || a.art == A::Reiter ||
          a.art == A::Besonders;
+}
+
+bool Ist_gruppe(const Anordnung& a) {
+  return a.art == Anordnung::Art::Gruppe ||
+         (a.art == Anordnung::Art::Zeile && std::ranges::any_of(a.kinder, Ist_gruppe));
 }
 
 // A column of commands with their signs: shown as a flat list.
@@ -169,6 +176,7 @@ class Baumeister {
   }
 
   QHBoxLayout* Zeile_bauen(const Anordnung& a, QWidget* eltern) {
+    const Eigene_linie fuer_sich(*this);
     auto* const zeile = Ohne_rand(new QHBoxLayout);
     const bool hoch = std::ranges::any_of(a.kinder, Ist_hoch);
     if (hoch) zeile->setSpacing(gruppenabstand);
@@ -198,6 +206,10 @@ class Baumeister {
   QVBoxLayout* Spalte_bauen(const std::vector<Anordnung>& kinder, QWidget* eltern) {
     auto* const spalte = Ohne_rand(new QVBoxLayout);
     const bool befehle = Ist_befehlsliste(kinder);
+    if (befehle) spalte->setSpacing(2);
+    const bool eigene_linie = linie_ == nullptr;
+    std::vector<QGridLayout*> linie;
+    if (eigene_linie) linie_ = &linie;
     QGridLayout* felder = nullptr;  // captions of neighbouring fields stand in line
     bool gefuellt = false;
     for (const Anordnung& k : kinder) {
@@ -219,6 +231,7 @@ class Baumeister {
         spalte->addSpacing(raster);
       }
       gefuellt = gefuellt || waechst;
+      if (Ist_gruppe(k) && spalte->count() > 0) spalte->addSpacing(gruppenabstand - spalte->spacing());
       if (Hat_beschriftung(k) && waechst) {
         // A large field has its caption above it.
         QWidget* const feld = Element(*k.element, eltern);
@@ -233,6 +246,7 @@ class Baumeister {
           felder->setVerticalSpacing(raster / 2);
           felder->setColumnStretch(1, 1);
           spalte->addLayout(felder);
+          linie_->push_back(felder);
         }
         const int zeile = felder->rowCount();
         QWidget* const feld = Element(*k.element, eltern);
@@ -250,7 +264,23 @@ class Baumeister {
       Einsetzen(*spalte, t, waechst ? 1 : 0, knopf ? Qt::AlignLeft : Qt::Alignment{});
     }
     if (!gefuellt) spalte->addStretch(1);
+    if (eigene_linie) {
+      In_linie(linie);
+      linie_ = nullptr;
+    }
     return spalte;
+  }
+
+  // The fields of groups that stand below each other begin at the same place.
+  static void In_linie(const std::vector<QGridLayout*>& gitter) {
+    int breite = 0;
+    for (const QGridLayout* g : gitter) {
+      for (int z = 0; z < g->rowCount(); ++z) {
+        if (const QLayoutItem* const schild = g->itemAtPosition(z, 0))
+          breite = std::max(breite, schild->sizeHint().width());
+      }
+    }
+    for (QGridLayout* g : gitter) g->setColumnMinimumWidth(0, breite);
   }
 
   QHBoxLayout* Knopfzeile_bauen(const Anordnung& a, QWidget* eltern) {
@@ -267,7 +297,6 @@ class Baumeister {
   QWidget* Gruppe_bauen(const Anordnung& a, QWidget* eltern) {
     auto* const w = new QWidget(eltern);
     auto* const spalte = Ohne_rand(new QVBoxLayout(w));
-    spalte->setContentsMargins(0, raster / 2, 0, 0);
     spalte->setSpacing(raster / 2 + 2);
     auto* const kopf = new QWidget(w);
     auto* const kopfzeile = Ohne_rand(new QHBoxLayout(kopf));
@@ -317,6 +346,7 @@ class Baumeister {
   }
 
   QGridLayout* Raster_bauen(const Anordnung& a, QWidget* eltern) {
+    const Eigene_linie fuer_sich(*this);
     auto* const gitter = Ohne_rand(new QGridLayout);
     gitter->setVerticalSpacing(static_cast<int>(a.kinder.size()) >= 16 * a.spalten ? 2 : raster / 2);
     // Columns with captions take two columns of the grid.
@@ -401,8 +431,22 @@ class Baumeister {
     return menue;
   }
 
+  // What stands side by side has its own lines of captions.
+  class Eigene_linie {
+   public:
+    explicit Eigene_linie(Baumeister& b) : b_(b), vorher_(std::exchange(b.linie_, nullptr)) {}
+    ~Eigene_linie() { b_.linie_ = vorher_; }
+    Eigene_linie(const Eigene_linie&) = delete;
+    Eigene_linie& operator=(const Eigene_linie&) = delete;
+
+   private:
+    Baumeister& b_;
+    std::vector<QGridLayout*>* vorher_;
+  };
+
   Auffrischer& auf_;
   Gebautes& ergebnis_;
+  std::vector<QGridLayout*>* linie_ = nullptr;  // grids of captions in the column that is being built
 };
 
 // Names to be read aloud for controls without a caption: the label or captioned control before them in their

@@ -18,6 +18,7 @@ namespace zav::fenster {
 // What came of a layout tree.
 struct Gebautes {
   QWidget* inhalt = nullptr;
+  bool randlos = false;                              // the content reaches to the window's edges
   QWidget* knopfzeile = nullptr;                     // the dialog's own buttons, when they end the tree
   std::vector<QMenu*> menues;                        // top-level menus, in order
   std::map<std::string, QMenu*> kontextmenues;       // by title

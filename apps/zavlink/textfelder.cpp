@@ -44,6 +44,12 @@ QLineEdit* Nachbar(const QLineEdit& feld, int schritt) {
   return nullptr;
 }
 
+// A popup or another window is no change of field; nor is a control that went away meanwhile.
+bool Feldwechsel(const QFocusEvent& e, const Textfeld& t) {
+  return e.reason() != Qt::PopupFocusReason && e.reason() != Qt::ActiveWindowFocusReason && t.frei &&
+         t.sichtbar;
+}
+
 // A one-line field that tells when the focus comes and goes. Cursor up and down lead to its neighbours.
 class Zeilenfeld final : public QLineEdit {
  public:
@@ -63,11 +69,11 @@ class Zeilenfeld final : public QLineEdit {
   void focusInEvent(QFocusEvent* e) override {
     QLineEdit::focusInEvent(e);
     if (!t_.maske.empty() && t_.text() == t_.maske) QTimer::singleShot(0, this, &QLineEdit::selectAll);
-    if (wechsel(e)) Handeln([this] { t_.betreten(); });
+    if (Feldwechsel(*e, t_)) Handeln([this] { t_.betreten(); });
   }
   void focusOutEvent(QFocusEvent* e) override {
     QLineEdit::focusOutEvent(e);
-    if (wechsel(e)) Handeln([this] { t_.verlassen(); });
+    if (Feldwechsel(*e, t_)) Handeln([this] { t_.verlassen(); });
   }
   void keyPressEvent(QKeyEvent* e) override {
     const bool eingabe = e->key() == Qt::Key_Return || e->key() == Qt::Key_Enter;
@@ -80,11 +86,6 @@ class Zeilenfeld final : public QLineEdit {
   }
 
  private:
-  // A popup or another window is no change of field; nor is a control that went away meanwhile.
-  bool wechsel(const QFocusEvent* e) const {
-    return e->reason() != Qt::PopupFocusReason && e->reason() != Qt::ActiveWindowFocusReason && t_.frei &&
-           t_.sichtbar;
-  }
   int hint_zeichen() const {
     const std::size_t zeichen = Zeichen(t_);
     return zeichen == 0 ? laenge_unbegrenzt : std::min(static_cast<int>(zeichen), laenge_wachsend);
@@ -97,14 +98,14 @@ class Zeilenfeld final : public QLineEdit {
   Textfeld& t_;
 };
 
-// A field that only shows lies in the window, not above it; a mask is pale.
+// A line that only shows lies in the window, not above it; a mask is pale.
 void Lesefarbe(QWidget& w, const Textfeld& t) {
   Einfaerben(w, t.farbe);
   if (*t.farbe != Farbe::normal) return;
   QPalette p;
   if (!t.maske.empty() && t.text() == t.maske)
     p.setColor(QPalette::Text, QApplication::palette().color(QPalette::PlaceholderText));
-  if (t.nur_lesen) p.setColor(QPalette::Base, w.palette().color(QPalette::Window));
+  if (t.nur_lesen && !t.mehrzeilig) p.setColor(QPalette::Base, w.palette().color(QPalette::Window));
   w.setPalette(p);
 }
 
@@ -142,17 +143,53 @@ class Absatzfeld final : public QPlainTextEdit {
   }
   QSize minimumSizeHint() const override { return {20 * raster, 8 * raster}; }
 
+  // Brings the text to the control's. What a log has got since the last time is added, whatever its length,
+  // and who has scrolled up to read is left there.
+  void auffrischen() {
+    const std::string& text = t_.text();
+    if (t_.nur_lesen && t_.fassung() == fassung_) {
+      if (text.size() > gezeigt_) anfuegen(Ohne_ruecklauf(std::string_view(text).substr(gezeigt_)));
+    } else if (const QString neu = Ohne_ruecklauf(text); neu != toPlainText()) {
+      ersetzen(neu);
+    }
+    fassung_ = t_.fassung();
+    gezeigt_ = text.size();
+  }
+
  protected:
+  void focusInEvent(QFocusEvent* e) override {
+    QPlainTextEdit::focusInEvent(e);
+    if (Feldwechsel(*e, t_)) Handeln([this] { t_.betreten(); });
+  }
   void focusOutEvent(QFocusEvent* e) override {
     QPlainTextEdit::focusOutEvent(e);
-    if (e->reason() != Qt::PopupFocusReason && e->reason() != Qt::ActiveWindowFocusReason && t_.frei &&
-        t_.sichtbar) {
-      Handeln([this] { t_.verlassen(); });
-    }
+    if (Feldwechsel(*e, t_)) Handeln([this] { t_.verlassen(); });
   }
 
  private:
+  // The store keeps CR LF, the widget LF.
+  static QString Ohne_ruecklauf(std::string_view text) { return Q(text).remove('\r'); }
+
+  void anfuegen(const QString& stueck) {
+    QScrollBar& balken = *verticalScrollBar();
+    const bool am_ende = balken.value() == balken.maximum();
+    QTextCursor ende(document());
+    ende.movePosition(QTextCursor::End);
+    ende.insertText(stueck);
+    if (am_ende) balken.setValue(balken.maximum());
+  }
+  void ersetzen(const QString& neu) {
+    const int stelle = textCursor().position();
+    setPlainText(neu);
+    if (!hasFocus()) return;
+    QTextCursor zeiger = textCursor();
+    zeiger.setPosition(std::min(stelle, static_cast<int>(neu.size())));
+    setTextCursor(zeiger);
+  }
+
   Textfeld& t_;
+  unsigned fassung_ = 0;
+  std::size_t gezeigt_ = 0;  // bytes of the control's text that stand here
 };
 
 QWidget* Absatz_bauen(Textfeld& t, Auffrischer& auf, QWidget* eltern) {
@@ -161,7 +198,6 @@ QWidget* Absatz_bauen(Textfeld& t, Auffrischer& auf, QWidget* eltern) {
     w->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
     w->setLineWrapMode(QPlainTextEdit::NoWrap);
   }
-  // The store keeps CR LF, the widget LF.
   QObject::connect(w, &QPlainTextEdit::textChanged, w, [&t, w] {
     if (!t.nur_lesen) Handeln(t, [&] { t.eingeben(S(w->toPlainText().replace("\n", "\r\n"))); });
   });
@@ -170,24 +206,8 @@ QWidget* Absatz_bauen(Textfeld& t, Auffrischer& auf, QWidget* eltern) {
     Gemeinsames(*w, t);
     w->setReadOnly(t.nur_lesen);
     Lesefarbe(*w, t);
-    QString text = Q(t.text());
-    text.replace("\r\n", "\n").remove('\r');
-    const QString alt = w->toPlainText();
-    if (alt == text) return;
-    const bool am_ende = w->verticalScrollBar()->value() == w->verticalScrollBar()->maximum();
-    if (!alt.isEmpty() && text.startsWith(alt)) {  // a log that grows
-      QTextCursor stelle(w->document());
-      stelle.movePosition(QTextCursor::End);
-      stelle.insertText(text.mid(alt.size()));
-      if (am_ende) w->verticalScrollBar()->setValue(w->verticalScrollBar()->maximum());
-    } else {
-      const int stelle = w->textCursor().position();
-      w->setPlainText(text);
-      if (!w->hasFocus()) return;
-      QTextCursor zeiger = w->textCursor();
-      zeiger.setPosition(std::min(stelle, static_cast<int>(text.size())));
-      w->setTextCursor(zeiger);
-    }
+    w->setUndoRedoEnabled(!t.nur_lesen);
+    w->auffrischen();
   });
   return w;
 }

@@ -91,10 +91,24 @@ QWidget* Klappliste_bauen(Auswahl& a, Auffrischer& auf, QWidget* eltern) {
   return w;
 }
 
+// A list as wide as its lines.
+class Listenfeld final : public QListWidget {
+ public:
+  Listenfeld(const Auswahl& a, QWidget* eltern) : QListWidget(eltern), a_(a) {
+    setUniformItemSizes(true);
+    setMinimumHeight(10 * raster);
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Expanding);
+  }
+  QSize sizeHint() const override {
+    return {Breite(*this, a_) + 4 * raster, QListWidget::sizeHint().height()};
+  }
+
+ private:
+  const Auswahl& a_;
+};
+
 QWidget* Liste_bauen(Auswahl& a, Auffrischer& auf, QWidget* eltern) {
-  auto* const w = new QListWidget(eltern);
-  w->setUniformItemSizes(true);
-  w->setMinimumHeight(10 * raster);
+  auto* const w = new Listenfeld(a, eltern);
   QObject::connect(w, &QListWidget::currentRowChanged, w, [&a](int i) {
     if (i >= 0) Handeln(a, [&a, i] { a.waehlen(i); });
   });
@@ -173,7 +187,7 @@ QWidget* Reiter_bauen(Auswahl& a, Auffrischer& auf, QWidget* eltern) {
     for (int i = 0; i < a.anzahl(); ++i) {
       const auto& e = a.eintrag(i);
       w->setTabText(i, Q(e.text));
-      w->setTabToolTip(i, Q(e.hinweis));
+      w->setTabToolTip(i, Tipp(Q(e.hinweis)));
       w->setTabEnabled(i, e.frei);
       w->setTabIcon(
           i, e.farbe == Farbe::normal ? QIcon() : Symbolbild(e.farbe == Farbe::belegt ? "belegt" : "punkt"));

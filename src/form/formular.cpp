@@ -11,6 +11,12 @@ void Formular::titel_setzen(std::string titel) {
   geaendert();
 }
 
+void Formular::ungespeichert_setzen(bool ungespeichert) {
+  if (ungespeichert == ungespeichert_) return;
+  ungespeichert_ = ungespeichert;
+  geaendert();
+}
+
 void Formular::schliessen_wuenschen() {
   for (Steuerelement* e : elemente_) {
     auto* const t = dynamic_cast<Taste*>(e);

@@ -34,6 +34,9 @@ class Formular {
   const std::string& name() const { return name_; }
   const std::string& titel() const { return titel_; }
   void titel_setzen(std::string titel);
+  // True while what the window shows stands in no file: the front end marks its title.
+  bool ungespeichert() const { return ungespeichert_; }
+  void ungespeichert_setzen(bool ungespeichert);
 
   // Where the controls sit. Every control of the form stands in it exactly once.
   virtual Anordnung anordnung() = 0;
@@ -43,6 +46,8 @@ class Formular {
   // The user wants the window gone by its own means (Escape, the title bar). Presses the control with
   // `abbruch`, if there is one that can be pressed; else closes.
   virtual void schliessen_wuenschen();
+  // Escape: the same, but where it would end the program.
+  virtual void abbrechen_wuenschen() { schliessen_wuenschen(); }
 
   bool offen() const { return offen_; }
   void schliessen();
@@ -84,6 +89,7 @@ class Formular {
   unsigned fokuswunsch_ = 0;
   int beschaeftigt_ = 0;
   bool offen_ = true;
+  bool ungespeichert_ = false;
 };
 
 // Silences the handlers of a form while it fills its fields.

@@ -104,6 +104,7 @@ void Einstellen(Auswahl& liste, int wert) { liste.setzen(wert >= 0 && wert < lis
 void Textfeld::setzen(std::string text) {
   if (text == text_) return;
   text_ = std::move(text);
+  ++fassung_;
   geaendert();
   ausfuehren(wenn_geaendert);
 }

@@ -63,6 +63,8 @@ class Steuerelement {
   Eigenschaft<std::string> titel;           // caption, "&" before the mnemonic
   Eigenschaft<std::string> hinweis{*this};  // tool tip
   Eigenschaft<bool> frei{*this, true};      // enabled
+  Eigenschaft<std::string> sperrgrund{
+      *this};  // why it is disabled, in the tool tip's place then; "" = nothing to say
   Eigenschaft<bool> sichtbar{*this, true};
   Eigenschaft<Farbe> farbe{*this, Farbe::normal};
 
@@ -72,6 +74,14 @@ class Steuerelement {
 
   // The front end's ear: called after every change of the control. One at a time.
   std::function<void()> beobachter;
+
+  // Disables or enables, with what the user is told of a control that is disabled.
+  void sperren(bool gesperrt, const std::string& grund) {
+    frei = !gesperrt;
+    sperrgrund = gesperrt ? grund : std::string{};
+  }
+  // What hovering shows now.
+  const std::string& tipp() const { return frei || sperrgrund->empty() ? *hinweis : *sperrgrund; }
 
   // Tells the front end that something visible has changed.
   void geaendert() {
@@ -207,9 +217,13 @@ class Textfeld final : public Steuerelement {
   // Adds text at the end (a log); no handler. Of a log that reaches laengstes_protokoll bytes its older half goes.
   static constexpr std::size_t laengstes_protokoll = std::size_t{4} << 20;
   void anhaengen(std::string_view text);
+  // Another number after each change but anhaengen(): with the same number, what was shown still stands and
+  // only the rest is new.
+  unsigned fassung() const { return fassung_; }
 
  private:
   std::string text_;
+  unsigned fassung_ = 0;
 };
 
 class Schieber final : public Steuerelement {

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <ctime>
 #include <new>
 #include <system_error>
 
@@ -193,6 +194,14 @@ Dateiergebnis Datei_schreiben(const std::string& pfad, std::string_view bytes, u
   }
   const int o = Ordner_festschreiben(Ordner_von(ziel));
   return o < 0 ? Abgebrochen(o) : Dateiergebnis{};
+}
+
+std::optional<Dateistand> Datei_geschrieben(const std::string& pfad) {
+  struct stat stand {};
+  std::tm ort{};
+  if (stat(pfad.c_str(), &stand) != 0 || localtime_r(&stand.st_mtime, &ort) == nullptr) return std::nullopt;
+  return Dateistand{.tag = {ort.tm_year + 1900, ort.tm_mon + 1, ort.tm_mday},
+                    .sekunden = (ort.tm_hour * 60 + ort.tm_min) * 60 + ort.tm_sec};
 }
 
 std::string Systemfehler_text(int fehler) {

@@ -2,8 +2,11 @@
 #pragma once
 
 #include <cstddef>
+#include <optional>
 #include <string>
 #include <string_view>
+
+#include "basis/datum.h"
 
 namespace zav {
 
@@ -37,6 +40,13 @@ Dateiergebnis Datei_lesen(const std::string& pfad, std::string& bytes);
 //   is put back.
 // `rechte` are those of a file that did not exist before, less the process's mask.
 Dateiergebnis Datei_schreiben(const std::string& pfad, std::string_view bytes, unsigned rechte = 0666);
+
+// When a file was last written, in local time; nothing where there is no such file.
+struct Dateistand {
+  Datum tag;
+  int sekunden = 0;  // since midnight
+};
+std::optional<Dateistand> Datei_geschrieben(const std::string& pfad);
 
 // German description of an error number of the operating system, without a full stop.
 std::string Systemfehler_text(int fehler);

@@ -17,8 +17,7 @@ Bootloader::Bootloader() : Formular("Bootloader", "Update-Assistent") {
 
   Beschriften();
   Option1.setzen(1);
-  Frame1.frei = false;
-  Frame1.hinweis = "Der ZAVmaster braucht genau diese Verzögerung";
+  Frame1.sperren(true, "Der ZAVmaster braucht genau diese Verzögerung");
   Text1.nur_lesen = true;
   Text1.mehrzeilig = true;
   Command9.wenn_gedrueckt = [this] { Starten(Updateweg::com); };
@@ -45,11 +44,11 @@ void Bootloader::Starten(Updateweg weg) {
     Melden("Ungültige Update-Datei");
     return;
   }
-  for (Taste* t : {&Command8, &Command9, &Command10}) t->frei = false;
+  for (Taste* t : {&Command8, &Command9, &Command10}) t->sperren(true, "Das Update läuft");
   laeuft_ = true;
   const Updateergebnis ergebnis = update_.Ausfuehren(weg, Update_datei_);
   laeuft_ = false;
-  for (Taste* t : {&Command8, &Command9, &Command10}) t->frei = true;
+  for (Taste* t : {&Command8, &Command9, &Command10}) t->sperren(false, "");
   if (ergebnis == Updateergebnis::abgebrochen) schliessen();
 }
 
@@ -62,7 +61,9 @@ void Bootloader::Fortschritt_zeigen(double wert, double bis) {
   ProgressBar1.wert = wert;
 }
 
-void Bootloader::Abbruch_freigeben(bool frei) { Command8.frei = frei; }
+void Bootloader::Abbruch_freigeben(bool frei) {
+  Command8.sperren(!frei, "Jetzt darf das Update nicht abgebrochen werden");
+}
 
 // While the run waits for the master it can be left; once the erase has begun, not without a word.
 void Bootloader::Schliessen() {
@@ -85,7 +86,7 @@ void Bootloader::schliessen_wuenschen() {
 }
 
 Anordnung Bootloader::anordnung() {
-  return Spalte(Command9, Command10, Zeile(Spalte(Alle(Label1)), Gruppe(Frame1, Option1)), Text1,
+  return Spalte(Command9, Command10, Gruppe("Schritte", Alle(Label1)), Gruppe(Frame1, Option1), Text1,
                 ProgressBar1, Knopfzeile(Command8));
 }
 

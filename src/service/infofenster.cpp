@@ -27,9 +27,9 @@ Infofenster::Infofenster() : Formular("Infofenster", "Info") {
 }
 
 void Infofenster::Info_holen() {
-  for (Taste* t : {&Command5, &OK}) t->frei = false;
+  for (Taste* t : {&Command5, &OK}) t->sperren(true, "Der ZAVmaster wird gefragt");
   Masterinfo_holen(Text2, Text6);
-  for (Taste* t : {&Command5, &OK}) t->frei = true;
+  for (Taste* t : {&Command5, &OK}) t->sperren(false, "");
 }
 
 Anordnung Infofenster::anordnung() {

@@ -8,6 +8,12 @@
 
 namespace zav {
 
+namespace {
+
+constexpr const char* keine_uebertragung = "Es läuft keine Übertragung, die abgebrochen werden kann";
+
+}  // namespace
+
 Init_flash::Init_flash() : Formular("Init_flash", "Daten ---> ZAVmaster senden") {
   anmelden("Frame1", Frame1);
   anmelden("Text2", Text2);
@@ -31,12 +37,13 @@ Init_flash::Init_flash() : Formular("Init_flash", "Daten ---> ZAVmaster senden")
   Text2.setzen("---");
   Text6.setzen("---");
   Text3.setzen("0");
+  Text3.breite = 6;
   Text3.hinweis = "Übertragungsfehler, die durch Wiederholen behoben wurden";
   Command1.hinweis =
       "Löscht alle Daten im ZAVmaster. Notwendig, wenn PC und ZAVmaster nicht synchrone Daten aufweisen. Der "
       "Vorgang kann nicht abgebrochen werden!";
   Command5.hinweis = "Nur Version des ZAVmasters abfragen";
-  Command2.frei = false;
+  Command2.sperren(true, keine_uebertragung);
 
   Check1.setzen(einstellungen.Event_sperre == 1);
   Check1.wenn_geaendert = [this] { einstellungen.Event_sperre = Check1.an() ? 1 : 0; };
@@ -61,16 +68,24 @@ void Init_flash::Fortschritt_zeigen(const Fortschritt& f) {
 
 // The one command of a run is to stop it, and an erase has none.
 void Init_flash::Befehle_freigeben(bool frei) {
-  for (Taste* t : {&Command1, &Command3, &Command5, &Command6, &Cancel}) t->frei = frei;
-  Check1.frei = frei;
-  Command2.frei = !frei && sendet_;
+  const char* const grund =
+      sendet_ ? "Während der Übertragung nicht möglich" : "Der ZAVmaster ist beschäftigt";
+  for (Steuerelement* e :
+       std::initializer_list<Steuerelement*>{&Command1, &Command3, &Command5, &Command6, &Cancel, &Check1}) {
+    e->sperren(!frei, grund);
+  }
+  Command2.sperren(frei || !sendet_, keine_uebertragung);
+  if (frei) melder().Hinweis("");
 }
 
+// A transfer cut short leaves the master without valid data: its own key ends it, never a stray Escape.
 void Init_flash::schliessen_wuenschen() {
-  if (Command2.frei) {
-    Command2.druecken();
-  } else if (Cancel.frei) {
+  if (Cancel.frei) {
     Cancel.druecken();
+  } else {
+    melder().Hinweis(Command2.frei
+                         ? "Die Übertragung läuft noch. Mit 'Übertragung abbrechen' lässt sie sich beenden."
+                         : "Der ZAVmaster ist beschäftigt. Bitte warten Sie, bis der Vorgang beendet ist.");
   }
 }
 
@@ -107,8 +122,8 @@ void Init_flash::Info_holen() {
 
 Anordnung Init_flash::anordnung() {
   return Spalte(Gruppe(Frame1, Zeile(Text2, Text6, Command5)), Check1, Text1,
-                Raster(2, Label1, ProgressBar1, Label2, ProgressBar2), Zeile(Text3, Feder()),
-                Zeile(Command1, Command6, Feder()), Knopfzeile(Command3, Command2, Cancel));
+                Raster(2, Label1, ProgressBar1, Label2, ProgressBar2), Text3,
+                Knopfzeile(Command1, Command6, Feder(), Command3, Command2, Cancel));
 }
 
 }  // namespace zav

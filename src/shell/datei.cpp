@@ -45,6 +45,11 @@ Datei::Datei() : Formular("Datei", "Datei") {
   Command4.wenn_gedrueckt = [this] { App_oeffnen(); };
   Drucken.wenn_gedrueckt = [this] { Bericht_schreiben(); };
   Cancel.wenn_gedrueckt = [this] { schliessen(); };
+  New.bild = "neu";
+  Command2.bild = "oeffnen";
+  Command3.bild = Command1.bild = "speichern";
+  Command4.bild = "telefon";
+  Drucken.bild = "drucken";
   Command3.standard = true;
   Cancel.abbruch = true;
 }
@@ -131,7 +136,7 @@ void Datei::Bericht_schreiben() {
 }
 
 Anordnung Datei::anordnung() {
-  return Spalte(Gruppe(Frame1, Label1, New, Command2, Command3, Command1, Command4, Drucken), Feder(),
+  return Spalte(Gruppe(Frame1, Label1, Spalte(New, Command2, Command3, Command1, Command4, Drucken)), Feder(),
                 Knopfzeile(Cancel));
 }
 

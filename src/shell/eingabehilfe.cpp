@@ -77,7 +77,7 @@ void Eingabehilfe::Vorschau() {
   Label2.titel = bis < von ? "'Bis' liegt vor 'Von'."
                            : std::to_string(geaendert) + " von " + std::to_string(bis - von + 1) +
                                  " Texten werden geändert";
-  OK.frei = geaendert > 0;
+  OK.sperren(geaendert == 0, "So würde kein Text geändert");
   OK.hinweis = geaendert > 0 ? "" : "Kein Text ändert sich";
 }
 
@@ -89,7 +89,7 @@ void Eingabehilfe::Uebernehmen() {
 }
 
 Anordnung Eingabehilfe::anordnung() {
-  return Spalte(Label1, Option1, Zeile(Combo1, Combo2, Feder()), Zeile(Text1, Text2), Check1, Label2, Feder(),
+  return Spalte(Label1, Option1, Combo1, Combo2, Text1, Text2, Check1, Label2, Feder(),
                 Knopfzeile(OK, Cancel));
 }
 

@@ -75,12 +75,12 @@ void Fotos::Zeigen() {
   const int n = List1.position();
   sitzung.Foto_nr = static_cast<u8>(n + 1);
   Text1.setzen(schemas.at(static_cast<std::size_t>(n)).bild);
-  Command1.frei = n > 0;
-  Command2.frei = n + 1 < List1.anzahl();
+  Command1.sperren(n <= 0, "Dies ist das erste Schema");
+  Command2.sperren(n + 1 >= List1.anzahl(), "Dies ist das letzte Schema");
 }
 
 Anordnung Fotos::anordnung() {
-  return Spalte(List1, Text1, Zeile(Command1, Command2, Feder()), Knopfzeile(OK));
+  return Spalte(Zeile(List1, Text1), Knopfzeile(Command1, Command2, Feder(), OK));
 }
 
 }  // namespace zav

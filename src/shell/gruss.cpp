@@ -3,6 +3,7 @@
 #include "basis/text.h"
 #include "form/oberflaeche.h"
 #include "platform/einstellungen.h"
+#include "shell/datei.h"
 #include "store/projektdatei.h"
 
 namespace zav {
@@ -21,9 +22,12 @@ constexpr const char* haftung =
 }  // namespace
 
 Gruss::Gruss() : Formular("Gruss", "Willkommen bei TESSARO") {
+  anmelden("Label_name", Label_name);
+  anmelden("Label_zweck", Label_zweck);
   anmelden("Frame1", Frame1);
   anmelden("Command1", Command1);
   anmelden("OK", OK);
+  anmelden("Oeffnen", Oeffnen);
   anmelden("Command2", Command2);
   anmelden("Command4", Command4);
   anmelden("Command3", Command3);
@@ -35,11 +39,17 @@ Gruss::Gruss() : Formular("Gruss", "Willkommen bei TESSARO") {
     const str& eintrag = einstellungen.last_file[n];
     const bool da = eintrag != leer && !eintrag.empty();
     Command1[n].titel = da ? Ersetzen(eintrag.substr(eintrag.rfind('/') + 1), "&", "&&") : leer;
-    Command1[n].hinweis = da ? eintrag + ".zav" : "Noch kein Projekt";
-    Command1[n].frei = da;
+    Command1[n].hinweis = eintrag + ".zav";
+    Command1[n].sperren(!da, "Hier stehen die Projekte, die Sie zuletzt geöffnet oder gespeichert haben");
+    Command1[n].bild = "projekt";
     Command1[n].wenn_gedrueckt = [this, n] { Laden(n); };
   }
+  Label_name.ueberschrift = true;
   OK.hinweis = "Mit einem leeren Projekt beginnen";
+  OK.bild = "neu";
+  Oeffnen.hinweis = "Ein bestehendes Projekt öffnen";
+  Oeffnen.bild = "oeffnen";
+  Oeffnen.wenn_gedrueckt = [this] { Anderes_laden(); };
   OK.wenn_gedrueckt = [this] {
     Projekt_reset();
     projekt.Projekt_name = "Namenlos";
@@ -77,9 +87,16 @@ void Gruss::Laden(std::size_t n) {
   schliessen();
 }
 
+// The file dialog's own command; cancelled, the greeting stays.
+void Gruss::Anderes_laden() {
+  Datei datei;
+  datei.Command2.druecken();
+  if (projekt.Projekt_name != "Namenlos") schliessen();
+}
+
 Anordnung Gruss::anordnung() {
-  return Spalte(Gruppe(Frame1, Alle(Command1)), OK, Label1, Zeile(Command2, Command4, Command3, Feder()),
-                Text1, Knopfzeile(Command5));
+  return Spalte(Label_name, Label_zweck, Gruppe(Frame1, Alle(Command1)), Gruppe("Projekt", OK, Oeffnen),
+                Label1, Zeile(Command2, Command4, Command3, Feder()), Text1, Knopfzeile(Command5));
 }
 
 }  // namespace zav

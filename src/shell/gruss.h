@@ -14,9 +14,10 @@ class Gruss final : public Formular {
 
   static constexpr std::size_t dateien = 4;
 
+  Schild Label_name{"ZAVlink"}, Label_zweck{"Konfiguration und Service des ZAVnet-Bussystems"};
   Rahmen Frame1{"Zuletzt bearbeitet"};
   std::array<Taste, dateien> Command1;
-  Taste OK{"&Neues Projekt"};
+  Taste OK{"&Neues Projekt"}, Oeffnen{"Projekt ö&ffnen..."};
   Taste Command2{"Neue&rungen"}, Command4{"&Haftung"}, Command3{"&Verbergen"};
   Textfeld Text1;
   Schild Label1;  // progress of the reader
@@ -28,6 +29,7 @@ class Gruss final : public Formular {
   Anordnung anordnung() override;
 
  private:
+  void Anderes_laden();
   void Text_zeigen(const char* text);
   void Laden(std::size_t n);
 

@@ -1,5 +1,6 @@
 #include "shell/haupt.h"
 
+#include <cstdlib>
 #include <filesystem>
 #include <system_error>
 
@@ -19,6 +20,8 @@
 #include "enocean/sender.h"
 #include "form/oberflaeche.h"
 #include "link/leitung.h"
+#include "platform/datei.h"
+#include "platform/uhrwerk.h"
 #include "service/bootloader.h"
 #include "service/infofenster.h"
 #include "service/init_flash.h"
@@ -45,6 +48,8 @@ namespace zav {
 namespace {
 
 constexpr const char* leer = "---";
+constexpr const char* namenlos = "Namenlos";
+constexpr const char* luecke = "   ";  // between figures in a line
 
 // Looks for serial ports where the link needs one.
 void Ports_suchen() {
@@ -60,6 +65,29 @@ std::string Anzahl(int n, const char* eines, const char* mehrere) {
 }
 
 std::string Dateiname(const std::string& pfad) { return pfad.substr(pfad.rfind('/') + 1); }
+
+// Names of files that stand side by side.
+std::string Gekuerzt(const std::string& name) {
+  constexpr std::size_t laengste = 24;
+  return Zeichen_anzahl(name) <= laengste ? name : Links(name, laengste - 1) + "…";
+}
+
+// The path as people write it: "~" for the home folder.
+std::string Mit_tilde(const std::string& pfad) {
+  const char* const heim = std::getenv("HOME");
+  const std::string vorne = heim == nullptr ? "" : std::string(heim) + "/";
+  return vorne.size() > 1 && pfad.starts_with(vorne) ? "~/" + pfad.substr(vorne.size()) : pfad;
+}
+
+// What the next transfer would send: "12 Ereignisse   Schaltzeiten   3 LED-Gruppen   ca. 41 s".
+std::string Vorschau_text(const Sendevorschau& v) {
+  std::string text;
+  if (v.ereignisse > 0) text += Anzahl(v.ereignisse, "Ereignis", "Ereignisse") + luecke;
+  if (v.schaltzeiten) text += std::string("Schaltzeiten") + luecke;
+  if (v.led_gruppen > 0) text += Anzahl(v.led_gruppen, "LED-Gruppe", "LED-Gruppen") + luecke;
+  if (text.empty()) text = std::string("Nur Parameter, sonst ist nichts geändert") + luecke;
+  return text + "ca. " + std::to_string(v.sekunden) + " s";
+}
 
 }  // namespace
 
@@ -120,6 +148,11 @@ void Haupt::Befehle_verdrahten() {
        [this] { Oeffnen<Dimmermode>(); }},
       {Image1, "Wetterinfos anzeigen", [this] { Oeffnen<Wetterdisplay>(); }},
       {Image2, "Touchpanel Adressen-Referenz anzeigen", [this] { Oeffnen<Touchpanel_Referenz>(); }},
+      {Master_senden,
+       "Verknüpfungen zum ZAVmaster senden. Währenddessen werden keine Aktionen am Bus ausgeführt",
+       [this] { Senden(); }},
+      {Master_ereignisse, "Zeigt jedes Ereignis von Eingängen, sobald es eintritt",
+       [this] { Terminal_lauf(Terminalmodus::protokoll); }},
       {backref_command, "", [this] { Oeffnen<Backref>(); }},
       {neustartlist, "", [this] { Terminal_lauf(Terminalmodus::liste); }},
       {protokoll, "", [this] { Terminal_lauf(Terminalmodus::protokoll); }},
@@ -142,8 +175,6 @@ void Haupt::Befehle_verdrahten() {
     b.taste.hinweis = b.hinweis;
     b.taste.wenn_gedrueckt = b.handlung;
   }
-  Image1.bild = "wetter";
-  Image2.bild = "touchpanel";
   for (std::size_t n = 0; n < Zuletzt.size(); ++n)
     Zuletzt[n].wenn_gedrueckt = [this, n] { Zuletzt_oeffnen(n); };
 }
@@ -163,27 +194,34 @@ void Haupt::Auffrischen() {
   }
   Label_projekt.titel = Ersetzen(Dateiname(projekt.Projekt_name), "&", "&&");
   Label_pfad.titel =
-      projekt.Projekt_name == "Namenlos" ? "noch nicht gespeichert" : projekt.Projekt_name + ".zav";
-  Label_stand.titel =
-      "Generation " + projekt.Datei_version + (sitzung.Projekt_geaendert == 1 ? ", geändert" : "");
+      projekt.Projekt_name == namenlos ? "Noch keine Datei" : Mit_tilde(projekt.Projekt_name + ".zav");
+  Label_stand.titel = "Generation " + projekt.Datei_version;
+  Gespeichert_zeigen();
   const Kennzahlen k = Kennzahlen_von(projekt);
   Label_kennzahlen.titel = Anzahl(k.kombinationen, "Kombination", "Kombinationen") + "   " +
                            Anzahl(k.apparate, "Apparat", "Apparate") + "   " +
                            Anzahl(k.eingangsereignisse, "Taste", "Tasten") + " mit Funktion";
-  const Sendevorschau v = Sendevorschau_von(projekt);
-  Label_senden.titel =
-      Anzahl(v.ereignisse, "Ereignis", "Ereignisse") + (v.schaltzeiten ? "   Schaltzeiten" : "") + "   " +
-      Anzahl(v.led_gruppen, "LED-Gruppe", "LED-Gruppen") + "   ca. " + std::to_string(v.sekunden) + " s";
+  Label_senden.titel = Vorschau_text(Sendevorschau_von(projekt));
   Label_schnittstelle.titel = Schnittstelle_text();
   Label_master.titel = "ZAVmaster " + sitzung.Master_version;
   Zuletzt_zeigen();
+}
+
+void Haupt::Gespeichert_zeigen() {
+  const bool geaendert = sitzung.Projekt_geaendert == 1;
+  ungespeichert_setzen(geaendert);
+  const auto stand = geaendert ? std::nullopt : Datei_geschrieben(projekt.Projekt_name + ".zav");
+  Label_gespeichert.titel =
+      geaendert ? "geändert, noch nicht gespeichert"
+      : stand ? "gespeichert " + (stand->tag == Heute() ? Zeit_text(stand->sekunden) : Datum_text(stand->tag))
+              : std::string{};
 }
 
 void Haupt::Zuletzt_zeigen() {
   for (std::size_t n = 0; n < Zuletzt.size(); ++n) {
     const str& eintrag = einstellungen.last_file[n];
     const bool da = eintrag != leer && !eintrag.empty() && eintrag != projekt.Projekt_name;
-    Zuletzt[n].titel = Ersetzen(Dateiname(eintrag), "&", "&&");
+    Zuletzt[n].titel = Ersetzen(Gekuerzt(Dateiname(eintrag)), "&", "&&");
     Zuletzt[n].hinweis = eintrag + ".zav öffnen";
     Zuletzt[n].sichtbar = da;
   }
@@ -192,6 +230,7 @@ void Haupt::Zuletzt_zeigen() {
 void Haupt::Notizen_geaendert() {
   projekt.Notizen = Notizen.text();
   sitzung.Projekt_geaendert = 1;
+  Gespeichert_zeigen();
 }
 
 // ---- commands ---------------------------------------------------------------------------------------------
@@ -259,6 +298,10 @@ void Haupt::Senden() {
 void Haupt::Optionen() {
   Ports_neu_suchen();
   Oeffnen<Setup>();
+}
+
+void Haupt::abbrechen_wuenschen() {
+  if (Frame_glaszav.sichtbar) Command7.druecken();
 }
 
 void Haupt::schliessen_wuenschen() {

@@ -21,7 +21,7 @@ class Haupt final : public Formular, private Terminalanzeige {
   ~Haupt() override;
 
   // ---- what stands in the store
-  Schild Label_projekt, Label_pfad, Label_stand, Label_kennzahlen;
+  Schild Label_projekt, Label_pfad, Label_stand, Label_gespeichert, Label_kennzahlen;
   Rahmen Frame_senden{"Nächstes Senden"};
   Schild Label_senden;
   Textfeld Notizen{"N&otizen"};
@@ -37,7 +37,9 @@ class Haupt final : public Formular, private Terminalanzeige {
   Taste Command1{"Daten senden..."}, Command5{"U&hr stellen..."};
   Taste Timer_button{"&Timer Manager..."}, Command6{"&Zustand bei Neustart..."},
       Dimmer{"Di&mmer (An- und Abschnitt)..."};
-  Taste Image1, Image2;
+  Taste Image1{"Wetter&infos..."}, Image2{"Touch&panel..."};
+  Taste Master_senden{"&Senden..."},
+      Master_ereignisse{"Ereig&nisse..."};  // Command1 and `protokoll` in the list
 
   // ---- menu
   Taste mnuNeu{"&Neu"}, mnuOeffnen{"Ö&ffnen..."}, mnuSpeichern{"&Speichern"},
@@ -55,11 +57,13 @@ class Haupt final : public Formular, private Terminalanzeige {
   std::array<Textfeld, Terminal::filter_anzahl> Filter;
   Kaestchen Check1{"&Zeit ergänzen"}, Check2{"&Datum ergänzen"};
   Textfeld Terminal_Fenster;
-  Taste Command9{"&Anzeige löschen"}, Command7{"GlasZAV &verlassen"};
+  Taste Command9{"Anzeige &löschen"}, Command7{"GlasZAV &verlassen"};
 
   Anordnung anordnung() override;
   // Ends the program, after its questions.
   void schliessen_wuenschen() override;
+  // Leaves the terminal.
+  void abbrechen_wuenschen() override;
 
   // Title, notes and figures as the store has them now.
   void Auffrischen();
@@ -72,6 +76,7 @@ class Haupt final : public Formular, private Terminalanzeige {
   void Menue_verdrahten();
   void Terminal_verdrahten();
   void Titel_setzen();
+  void Gespeichert_zeigen();
   void Zuletzt_zeigen();
   void Notizen_geaendert();
 
@@ -87,8 +92,8 @@ class Haupt final : public Formular, private Terminalanzeige {
   void Zuletzt_oeffnen(std::size_t n);
 
   // Terminalanzeige
-  void Text_zeigen(const std::string& text) override { Terminal_Fenster.anhaengen(text); }
-  void Zeile_zeigen(const std::string& zeile) override { Terminal_Fenster.anhaengen(zeile + "\r\n"); }
+  void Text_zeigen(const std::string& text) override;
+  void Zeile_zeigen(const std::string& zeile) override { Text_zeigen(zeile + "\r\n"); }
   void Betriebsart_setzen(bool terminal);
 
   Terminal terminal_{*this};

@@ -7,6 +7,7 @@ void Haupt::Elemente_anmelden() {
   anmelden("Label_projekt", Label_projekt);
   anmelden("Label_pfad", Label_pfad);
   anmelden("Label_stand", Label_stand);
+  anmelden("Label_gespeichert", Label_gespeichert);
   anmelden("Label_kennzahlen", Label_kennzahlen);
   anmelden("Frame_senden", Frame_senden);
   anmelden("Label_senden", Label_senden);
@@ -29,6 +30,8 @@ void Haupt::Elemente_anmelden() {
   anmelden("Dimmer", Dimmer);
   anmelden("Image1", Image1);
   anmelden("Image2", Image2);
+  anmelden("Master_senden", Master_senden);
+  anmelden("Master_ereignisse", Master_ereignisse);
 
   anmelden("mnuNeu", mnuNeu);
   anmelden("mnuOeffnen", mnuOeffnen);
@@ -66,17 +69,20 @@ Anordnung Haupt::anordnung() {
       Menue("&Werkzeuge", Sonderfunktionen, start_storentimer, Sonnenrechner, Touchpanel_Mnu, IP_Kameras_Mnu,
             Update, System_Optionen),
       Menue("Hil&fe", mnu_Zeige_Fotos, InfoZAVlink),
-      Gruppe(Frame_befehle,
-             Zeile(Spalte(Gruppe("Projekt", Dateien),
-                          Gruppe("Installation", Eingaenge, Timer_button, Command6, Dimmer),
-                          Gruppe("Zeit", Uhr_button, Setup_uhr, Command5),
-                          Gruppe("Wetter und Touchpanel", Zeile(Image1, Image2)), Feder(), Closen),
-                   Spalte(Zeile(Label_projekt, Feder(), Label_stand), Label_pfad, Label_kennzahlen,
-                          Gruppe(Frame_senden, Zeile(Label_senden, Feder(), Command1)), Notizen,
-                          Zeile(Label_zuletzt, Alle(Zuletzt), Feder())))),
-      Gruppe(Frame_glaszav, Gruppe(Frame_filter, Raster(4, Alle(Filter))),
-             Zeile(Check1, Check2, Feder(), Command9), Terminal_Fenster, Knopfzeile(Command7)),
-      Zeile(Label_schnittstelle, Feder(), Label_master));
+      Besonders(
+          "hauptansicht",
+          Gruppe(Frame_befehle,
+                 Spalte(Gruppe("Projekt", Dateien),
+                        Gruppe("Installation", Eingaenge, Timer_button, Command6, Dimmer, Image2),
+                        Gruppe("Zeit", Uhr_button, Setup_uhr, Command5), Gruppe("Wetter", Image1),
+                        Gruppe("Master", Master_senden, Master_ereignisse), Feder(), Spalte(Closen)),
+                 Spalte(Zeile(Label_projekt, Feder(), Label_stand),
+                        Zeile(Label_pfad, Feder(), Label_gespeichert), Label_kennzahlen,
+                        Besonders("tafel", Gruppe(Frame_senden, Label_senden, Zeile(Feder(), Command1))),
+                        Notizen, Zeile(Label_zuletzt, Alle(Zuletzt), Feder()))),
+          Gruppe(Frame_glaszav, Gruppe(Frame_filter, Raster(4, Alle(Filter))),
+                 Zeile(Check1, Check2, Feder(), Command9), Terminal_Fenster, Knopfzeile(Command7)),
+          Zeile(Label_schnittstelle, Feder(), Label_master)));
 }
 
 }  // namespace zav

@@ -1,8 +1,18 @@
 // The main window in terminal mode.
+#include <algorithm>
+
 #include "shell/haupt.h"
 #include "store/sitzung.h"
 
 namespace zav {
+
+namespace {
+
+// Bytes of log that are kept; the older half goes when they are full: a session of days must not fill the
+// memory.
+constexpr std::size_t protokoll_grenze = std::size_t{4} << 20;
+
+}  // namespace
 
 void Haupt::Terminal_verdrahten() {
   for (std::size_t n = 0; n < Filter.size(); ++n) {
@@ -28,7 +38,7 @@ void Haupt::Betriebsart_setzen(bool terminal) {
   for (Taste* t : {&backref_command, &neustartlist, &protokoll, &Sonderfunktionen, &start_storentimer,
                    &System_Optionen, &mnu_ResetMaster, &mnu_Zeige_Fotos, &Update, &Sonnenrechner,
                    &Touchpanel_Mnu, &IP_Kameras_Mnu, &InfoZAVlink}) {
-    t->frei = !terminal;
+    t->sperren(terminal, "Zuerst GlasZAV verlassen: die Leitung zum ZAVmaster ist belegt");
   }
 }
 
@@ -40,6 +50,15 @@ void Haupt::Terminal_lauf(Terminalmodus modus) {
   Betriebsart_setzen(true);
   terminal_.Terminal_lauf(modus);
   Betriebsart_setzen(false);
+}
+
+void Haupt::Text_zeigen(const std::string& text) {
+  Terminal_Fenster.anhaengen(text);
+  const std::string& alles = Terminal_Fenster.text();
+  if (alles.size() <= protokoll_grenze) return;
+  const std::size_t zeile = alles.find("\r\n", alles.size() / 2);
+  Terminal_Fenster.setzen("---> Ältere Zeilen sind entfernt\r\n" +
+                          alles.substr(std::min(zeile, alles.size() - 2) + 2));
 }
 
 }  // namespace zav

@@ -72,8 +72,8 @@ void Setup::Verdrahten() {
 void Setup::Art_gewaehlt() {
   const bool netz = Option1.position() != 0;
   leitung.Eth_modus = netz ? 1 : 0;
-  Frame2.frei = !netz;
-  Frame3.frei = netz;
+  Frame2.sperren(netz, "Gilt für eine serielle Verbindung");
+  Frame3.sperren(!netz, "Gilt für Ethernet und WLAN");
 }
 
 // The boxes are one choice: ticking one takes the tick from the others, and the ticked one stays.

@@ -11,6 +11,8 @@ namespace zav {
 
 namespace {
 
+constexpr const char* nur_automatisch = "Nur bei automatischer Zeitumstellung";
+
 // What is wrong with a time typed as HH.MM.SS, "" when nothing is.
 std::string Uhrzeit_fehler(std::string_view text) {
   const std::string formfehler = "HH.MM.SS";
@@ -156,9 +158,11 @@ void Uhrseite::Modus_gewaehlt() {
   einstellungen.Richt_modus = static_cast<i16>(Option1.position());
   const bool nach_daten = einstellungen.Richt_modus == 1;
   for (Schild& l : Label1) l.frei = nach_daten;
-  for (std::size_t n = 1; n < felder; ++n) Dat[n].frei = Wotag[n].frei = nach_daten;
-  Command8.frei = nach_daten;
-  Command8.hinweis = nach_daten ? "" : "Nur bei automatischer Zeitumstellung";
+  for (std::size_t n = 1; n < felder; ++n) {
+    Dat[n].sperren(!nach_daten, nur_automatisch);
+    Wotag[n].frei = nach_daten;
+  }
+  Command8.sperren(!nach_daten, nur_automatisch);
   if (!nach_daten && feld_ > 0) MonthView1.sichtbar = false;
 }
 
@@ -196,9 +200,9 @@ Anordnung Uhrseite::anordnung() {
     daten.kinder.emplace_back(Dat[n]);
     daten.kinder.emplace_back(Wotag[n]);
   }
-  return Spalte(Zeile(Spalte(Gruppe(Frame1, Zeile(Akt_zeit, Dat[0], Wotag[0], Command2, Feder())),
-                             Gruppe(Frame2, Option1, std::move(daten), Zeile(Command8, Feder()))),
-                      Spalte(MonthView1, Feder())),
+  return Spalte(Zeile(Gruppe(Frame1, Raster(2, Akt_zeit, Leer(), Dat[0], Wotag[0]), Zeile(Command2, Feder()),
+                             MonthView1),
+                      Gruppe(Frame2, Option1, std::move(daten), Zeile(Command8, Feder()))),
                 Knopfzeile(Command3, Command4));
 }
 
