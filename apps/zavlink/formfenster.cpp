@@ -67,7 +67,10 @@ void Formfenster::menue_aufsetzen() {
   auto* const handbuch = new QAction("&Handbuch", this);
   handbuch->setShortcut(QKeySequence::HelpContents);
   connect(handbuch, &QAction::triggered, this, [this] {
-    if (handbuch_oeffnen) handbuch_oeffnen(form_.name());
+    if (!handbuch_oeffnen) return;
+    const QWidget* w = focusWidget();
+    while (w != nullptr && !w->property(handbuchstelle).isValid()) w = w->parentWidget();
+    handbuch_oeffnen(w == nullptr ? form_.name() : S(w->property(handbuchstelle).toString()));
   });
   addAction(handbuch);
   if (gebautes_.menues.empty()) return;

@@ -76,6 +76,7 @@ QWidget* Hauptansicht_bauen(const Anordnung& a, Auffrischer& auf, QWidget* elter
   auf.binden(*befehle.element, [ansicht, rahmen = befehle.element] { Gemeinsames(*ansicht, *rahmen); });
 
   auto* const terminal = new QWidget(w);
+  terminal->setProperty(handbuchstelle, "Terminal");
   Fuellen(*terminal, Teil_bauen(a.kinder.at(1), auf, terminal, g), blattrand, seitenrand);
   auf.binden(*a.kinder.at(1).element,
              [terminal, rahmen = a.kinder.at(1).element] { terminal->setVisible(rahmen->sichtbar); });

@@ -89,18 +89,26 @@ std::optional<Aufruf> Lesen(const QStringList& argumente) {
   return a;
 }
 
-// The manual lies beside the program when installed, in the build tree while it is being developed. A
+// The manual lies beside the program when installed, in the build tree once its target has been built. A
 // window's place in it is a file of its own, since many desktops drop the "#" behind the name of a file that
 // they open.
 void Handbuch_zeigen(const std::string& form) {
   const QDir programm(QApplication::applicationDirPath());
+  QString gefunden;
   for (const char* ort : {"../share/zavlink/handbuch/", "../../handbuch/"}) {
     for (const QString& seite : {"f1/" + Q(form) + ".html", QString("index.html")}) {
       const QFileInfo datei(programm.filePath(ort + seite));
-      if (datei.exists() && QDesktopServices::openUrl(QUrl::fromLocalFile(datei.canonicalFilePath()))) return;
+      if (!datei.exists()) continue;
+      gefunden = datei.canonicalFilePath();
+      if (QDesktopServices::openUrl(QUrl::fromLocalFile(gefunden))) return;
     }
   }
-  Melden("Das Handbuch ist auf diesem Computer nicht vorhanden.", "Handbuch", Symbol::Information);
+  Melden(gefunden.isEmpty()
+             ? "Das Handbuch ist auf diesem Computer nicht vorhanden. Es gehört zum Paket zavlink; im Quellbaum "
+               "entsteht es mit 'cmake --build build/dev --target handbuch', sein Text steht in docs/handbuch."
+             : "Das Handbuch lässt sich nicht anzeigen, weil kein Webbrowser eingerichtet ist. Es liegt in " +
+                   S(gefunden) + ".",
+         "Handbuch", Symbol::Information);
 }
 
 // A trial keeps its settings to itself: the simulated interface must not become the user's.
@@ -117,7 +125,6 @@ int Programm(int argc, char** argv) {
   if (Ohne_fenster({argv + 1, argv + argc})) return 0;
   QApplication programm(argc, argv);
   QApplication::setApplicationName("zavlink");
-  QApplication::setApplicationDisplayName("ZAVlink");
   QApplication::setApplicationVersion(Q(version));
   QGuiApplication::setDesktopFileName("net.zavnet.zavlink");
   QApplication::setQuitOnLastWindowClosed(false);  // the greeting closes before the main window opens

@@ -15,6 +15,9 @@
 
 namespace zav::fenster {
 
+// Property of a widget that has a place of its own in the manual.
+inline constexpr const char* handbuchstelle = "handbuchstelle";
+
 // What came of a layout tree.
 struct Gebautes {
   QWidget* inhalt = nullptr;
