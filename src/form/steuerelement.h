@@ -214,7 +214,8 @@ class Textfeld final : public Steuerelement {
   void eingabe();
   // eingeben() and verlassen().
   void ausfuellen(std::string text);
-  // Adds text at the end (a log); no handler. Of a log that reaches laengstes_protokoll bytes its older half goes.
+  // Adds text at the end (a log); no handler. Of a log that reaches laengstes_protokoll bytes its older half
+  // goes.
   static constexpr std::size_t laengstes_protokoll = std::size_t{4} << 20;
   void anhaengen(std::string_view text);
   // Another number after each change but anhaengen(): with the same number, what was shown still stands and
