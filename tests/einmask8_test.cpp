@@ -63,6 +63,10 @@ TEST_F(Installation, SearchShowsWhatItFindsAndChoosesThePlace) {
   EXPECT_EQ(m.platz(), 1);
   m.Text_Suche.eingabe();
   EXPECT_EQ(m.kombination(), 1) << "round and round";
+  m.Text_Suche.eingeben("i30");
+  EXPECT_EQ(m.platz(), 1);
+  m.Text_Suche.eingeben("I25");
+  EXPECT_EQ(m.kombination(), 1) << "the last address of a run of six";
   m.Text_Suche.eingeben("RADIOS");
   EXPECT_EQ(m.kombination(), 1);
   EXPECT_EQ(m.Label1.titel, "Nichts gefunden");

@@ -58,8 +58,9 @@ class Adressplanfeld final : public Kartenfeld {
   // Around all cells that the device would take: from one row on to the next where it must.
   void ringe_malen(QPainter& p) override {
     const int von = ueber() >= 0 ? ueber() : zeiger();
-    const QColor farbe = form_.Passt_ab(von) || ist_gegenwaertige(von) ? palette().color(QPalette::Highlight)
-                                                                       : QColor(176, 32, 32);
+    // Dark in a dark theme too: the cells are light in both.
+    static const QColor passt(16, 82, 144), passt_nicht(176, 32, 32);
+    const QColor farbe = form_.Passt_ab(von) || ist_gegenwaertige(von) ? passt : passt_nicht;
     const int bis = std::min(von + std::max(1, form_.anzahl()), zellenzahl());
     for (int a = von; a < bis;) {
       const int ende = std::min(bis, (a / breite_karte + 1) * breite_karte);

@@ -47,7 +47,6 @@ constexpr Aussehen aussehen[] = {
     {76, 77, Gestalt::klemmen},
     {78, 78, Gestalt::thermostat},
     {79, 79, Gestalt::symbol, "touchpanel"},
-    {80, 80, Gestalt::blende},
     {81, 86, Gestalt::tasten},
     {87, 87, Gestalt::sender},
     {88, 88, Gestalt::symbol, "funk"},
@@ -270,10 +269,15 @@ void Apparat_malen(QPainter& p, const QRectF& r, const Apparatbild& bild) {
   const Apparatart* const art = Apparat_art(bild.typ);
   p.save();
   p.setRenderHint(QPainter::Antialiasing);
-  if (art == nullptr) {
-    p.setPen(QPen(plattenrand, 1, Qt::DashLine));
-    p.setBrush(Qt::NoBrush);
+  if (art == nullptr || bild.typ == apparat_leer) {
+    p.setPen(QPen(plattenrand, 1.2, Qt::DashLine));
+    p.setBrush(QColor(255, 255, 255, 90));
     p.drawRoundedRect(r, 5, 5);
+    // Room for something.
+    const double arm = std::clamp(r.width() * 0.08, 4.0, 9.0);
+    p.setPen(QPen(plattenrand, 2));
+    p.drawLine(r.center() - QPointF(arm, 0), r.center() + QPointF(arm, 0));
+    p.drawLine(r.center() - QPointF(0, arm), r.center() + QPointF(0, arm));
     p.restore();
     return;
   }

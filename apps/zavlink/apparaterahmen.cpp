@@ -139,7 +139,7 @@ class Apparaterahmen final : public Zellenfeld {
   // The next step at the chosen place: a device, its address, its first text.
   void weiter() {
     const int d = apparat(form_.platz());
-    if (Apparat_art(typ(form_.platz())) == nullptr) return Handeln([this] { druecken(form_.mnuChoose); });
+    if (leer(form_.platz())) return Handeln([this] { druecken(form_.mnuChoose); });
     const str& anzahl = projekt.App_text2[d];
     if (projekt.App_text[d].empty() && !anzahl.empty() && anzahl != "0")
       return Handeln([this] { druecken(form_.Command2); });
@@ -154,10 +154,10 @@ class Apparaterahmen final : public Zellenfeld {
   bool da(int i) const { return form_.Image3.at(static_cast<std::size_t>(i)).sichtbar; }
   int apparat(int i) const { return plaetze * form_.kombination() + i; }
   int typ(int i) const { return projekt.App_typ[apparat(i)]; }
+  bool leer(int i) const { return typ(i) == apparat_leer || Apparat_art(typ(i)) == nullptr; }
   QString titel(int i) const {
-    const Taste& t = form_.Image3.at(static_cast<std::size_t>(i));
-    return t.titel->empty() ? QStringLiteral("Leerer Platz: Doppelklick oder Enter wählt einen Apparat")
-                            : Q(*t.titel);
+    return leer(i) ? QStringLiteral("Leerer Platz: Doppelklick oder Enter wählt einen Apparat")
+                   : Q(*form_.Image3.at(static_cast<std::size_t>(i)).titel);
   }
 
   QRectF ort(int i) const {

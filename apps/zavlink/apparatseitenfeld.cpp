@@ -4,6 +4,7 @@
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QTimer>
+#include <algorithm>
 #include <vector>
 
 #include "editor/einmask8.h"
@@ -34,9 +35,10 @@ class Apparatseitenfeld final : public QScrollArea {
   }
 
   QSize sizeHint() const override { return {72 * raster, 46 * raster}; }
+  // Wide enough for most devices, so that the frame beside it does not move from one to the next.
   QSize minimumSizeHint() const override {
     return {
-        std::max(56 * raster, widget()->minimumSizeHint().width() + verticalScrollBar()->sizeHint().width()),
+        std::max(68 * raster, widget()->minimumSizeHint().width() + verticalScrollBar()->sizeHint().width()),
         24 * raster};
   }
 
@@ -49,6 +51,7 @@ class Apparatseitenfeld final : public QScrollArea {
       neu.insert(neu.end(), z.ereignisse.begin(), z.ereignisse.end());
       neu.push_back(nullptr);
     }
+    std::ranges::for_each(zeilen, [this](const auto& z) { beschreiben(z); });
     if (neu == gezeigt_) return;
     gezeigt_ = std::move(neu);
     leeren();
@@ -64,7 +67,6 @@ class Apparatseitenfeld final : public QScrollArea {
       }
       int spalte = spalte_ereignis;
       for (const Taste* t : z.ereignisse) gitter_->addWidget(von(t), reihe, spalte++);
-      beschreiben(z);
       for (const Steuerelement* e : std::vector<const Steuerelement*>{z.text, z.led}) tabulator(vorher, e);
       for (const Taste* t : z.ereignisse) tabulator(vorher, t);
       ++reihe;
@@ -89,9 +91,12 @@ class Apparatseitenfeld final : public QScrollArea {
   }
   // Which key a list or a button belongs to, for those who hear the page.
   void beschreiben(const Einmask8::Tastenzeile& z) {
-    const QString taste = z.name == nullptr ? QString() : Q(*z.name->titel);
-    if (z.led != nullptr) von(z.led)->setAccessibleDescription(taste);
-    for (const Taste* t : z.ereignisse) von(t)->setAccessibleDescription(taste);
+    const auto nennen = [&](const Steuerelement& e) {
+      const QString taste = z.name == nullptr ? QString() : Q(*z.name->titel) + ". ";
+      von(&e)->setAccessibleDescription(taste + Q(*e.hinweis));
+    };
+    if (z.led != nullptr) nennen(*z.led);
+    for (const Taste* t : z.ereignisse) nennen(*t);
   }
   void leeren() {
     gitter_->setRowStretch(letzte_reihe_, 0);

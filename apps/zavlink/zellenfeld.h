@@ -24,6 +24,9 @@ class Zellenfeld : public QWidget {
   int zelle_bei(QPointF p) const;  // -1: none
   // Says where the keyboard has come to: after every step, and when the focus comes.
   void zeiger_melden();
+
+ private:
+  void in_sicht_bringen(const QRect& r);
 };
 
 }  // namespace zav::fenster

@@ -14,12 +14,17 @@ Einmask8::Einmask8(Tueren tueren)
   Elemente_anmelden();
   Handler_setzen();
 
-  Text_Suche.hinweis = "Sucht in Standort, Bezeichnung und Tastentexten. Enter springt zum nächsten Fund.";
+  Text_Suche.hinweis =
+      "Standort, Bezeichnung, Tastentext oder Adresse, z.B. i12. Enter springt zum nächsten Fund.";
   for (Textfeld* t : {&Text6, &Text7}) {
     t->nur_lesen = true;
     t->breite = 3;
   }
   Cancel.abbruch = true;
+  for (auto [befehl, kuerzel] :
+       {std::pair{&mnuCut, "Ctrl+X"}, {&mnuCopy, "Ctrl+C"}, {&mnuPaste, "Ctrl+V"}, {&mnuDelete, "Del"}}) {
+    befehl->kuerzel = kuerzel;
+  }
   for (Auswahl& liste : Combo_LED) liste.hinweis = "Tasten-LED mit einem Ausgang in dieser Liste verknüpfen";
   Command2.hinweis = "Adresse des Apparats vergeben oder ändern";
 

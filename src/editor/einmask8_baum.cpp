@@ -27,16 +27,21 @@ constexpr std::string_view kennung_kombination = "key1547852";
 std::string Schluessel(int k) { return std::to_string(k) + std::string(kennung_kombination); }
 
 // Place of the Kombination where the text stands: 0 for its storey or room, else the device that has it as a
-// key text. Nothing when it stands nowhere; capitals do not matter.
+// key text or, "i12", as an address. Nothing when it stands nowhere; capitals do not matter.
 std::optional<int> Fundort(int k, const std::string& klein) {
   const auto in = [&](const std::string& text) { return Klein(text).find(klein) != std::string::npos; };
   if (in(projekt.Komb_text[k]) || in(projekt.Komb_text2[k])) return 0;
+  const auto adresse = klein.starts_with('i') ? Zahl_lesen(klein.substr(1), 0, adressen - 1) : std::nullopt;
   for (int p = 0; p < plaetze; ++p) {
+    const int d = plaetze * k + p;
+    const auto lauf = adresse ? Apparat_adressen(projekt, d) : std::nullopt;
+    if (lauf && *adresse >= lauf->von && *adresse < lauf->von + lauf->anzahl) return p;
     for (int n = 0; n < tastenplaetze; ++n) {
-      if (!in(projekt.Dev_text[(plaetze * k + p) * tastenplaetze + n])) continue;
+      if (!in(projekt.Dev_text[d * tastenplaetze + n])) continue;
       // A device with a list of keys keeps their texts on the places behind its own, too.
-      while (p > 0 && projekt.App_typ[plaetze * k + p] == apparat_leer) --p;
-      return p;
+      int ort = p;
+      while (ort > 0 && projekt.App_typ[plaetze * k + ort] == apparat_leer) --ort;
+      return ort;
     }
   }
   return std::nullopt;
@@ -88,6 +93,7 @@ void Einmask8::Knoten_gewaehlt() {
 void Einmask8::Kombination_zeigen(int k) {
   komb_ = k;
   sitzung.Komb_aktuell = static_cast<i16>(k);
+  if (TreeView1.finden(Schluessel(k)) < 0) Baum_zeigen();
   {
     const Beschaeftigt b(*this);
     TreeView1.setzen(Schluessel(k));
@@ -115,8 +121,14 @@ void Einmask8::Kombination_bearbeiten(int k) {
   Layoutwahl wahl(k);
   oberflaeche().Zeigen(wahl);
   if (!wahl.uebernommen()) return;
+  {
+    const Beschaeftigt b(*this);
+    Text_Suche.setzen("");
+  }
+  Text_Suche.farbe = Farbe::normal;
   Baum_zeigen();
   Kombination_zeigen(k);
+  fokussieren(Image3.front());  // devices come next
 }
 
 void Einmask8::Neue_kombination() {
