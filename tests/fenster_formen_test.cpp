@@ -333,23 +333,21 @@ TEST_F(Alle_fenster, ZeigenMarkierungenAlsText) {
   };
   for (const Schaustueck& stueck : Formenschau()) {
     SCOPED_TRACE(stueck.name);
-    const auto form = stueck.bauen();
-    Formfenster fenster(*form, nullptr);
-    fenster.show();
-    laufen_lassen();
-    for (auto* const w : fenster.findChildren<QWidget*>()) {
-      pruefen(w->toolTip());
-      if (const auto* const schild = qobject_cast<const QLabel*>(w)) {
-        EXPECT_TRUE(schild->textFormat() == Qt::PlainText || !Qt::mightBeRichText(schild->text()));
+    Vorfuehren(stueck, still, [&](Formfenster& f) {
+      for (auto* const w : f.findChildren<QWidget*>()) {
+        pruefen(w->toolTip());
+        if (const auto* const schild = qobject_cast<const QLabel*>(w)) {
+          EXPECT_TRUE(schild->textFormat() == Qt::PlainText || !Qt::mightBeRichText(schild->text()));
+        }
+        QHelpEvent frage(QEvent::ToolTip, w->rect().center(), w->mapToGlobal(w->rect().center()));
+        QApplication::sendEvent(w, &frage);
+        pruefen(QToolTip::text());
+        if (const auto* const baum = qobject_cast<const QTreeWidget*>(w)) {
+          for (QTreeWidgetItemIterator z(const_cast<QTreeWidget*>(baum)); *z != nullptr; ++z)
+            pruefen((*z)->toolTip(0));
+        }
       }
-      QHelpEvent frage(QEvent::ToolTip, w->rect().center(), w->mapToGlobal(w->rect().center()));
-      QApplication::sendEvent(w, &frage);
-      pruefen(QToolTip::text());
-      if (const auto* const baum = qobject_cast<const QTreeWidget*>(w)) {
-        for (QTreeWidgetItemIterator z(const_cast<QTreeWidget*>(baum)); *z != nullptr; ++z)
-          pruefen((*z)->toolTip(0));
-      }
-    }
+    });
   }
   EXPECT_GT(gesehen, 5);
 }
