@@ -80,6 +80,7 @@ std::vector<std::unique_ptr<Formular>> Alle_formulare() {
   Hinzu<Storentimer>(f);
   Hinzu<Form_Setup_uhr>(f);
   Hinzu<Uhr>(f);
+  Hinzu<Uhr_Astro>(f, 0, "", "");
   Hinzu<Uhr_Astro_Rechner>(f);
   Hinzu<Uhrseite>(f);
   return f;

@@ -3,10 +3,8 @@
 // says otherwise.
 #include <gtest/gtest.h>
 
-#include "form/drehbuch.h"
-#include "platform/uhrwerk.h"
-#include "store/projekt.h"
-#include "store/sitzung.h"
+#include "projektvergleich.h"
+#include "pruefstand.h"
 #include "time/sonneninfo.h"
 #include "time/uhr_astro.h"
 #include "time/uhr_astro_rechner.h"
@@ -25,18 +23,13 @@ constexpr int untergang = 19 * 3600 + 58 * 60 + 34;
 
 double Ort(int sekunden) { return sekunden / 9.0 + 500; }
 
-class Astro : public ::testing::Test {
+class Astro : public Pruefstand {
  protected:
-  Astro() {
-    Projekt_reset();
-    sitzung = {};
-    Heute_setzen(tag);
-  }
-  ~Astro() override { EXPECT_EQ(d.maengel(), ""); }
-  Drehbuch d;
+  Astro() { Heute_setzen(tag); }
 };
 
 TEST_F(Astro, FixedTimeWithRandomShiftGoesIntoTheProjectOnlyWithOk) {
+  const Projekt vorher = projekt;
   Uhr_Astro f(e, "Licht", "");
   EXPECT_EQ(f.Label3.titel, "<--- Bitte Zeit eingeben, Format HH.MM.SS");
   f.beim_oeffnen();
@@ -55,13 +48,10 @@ TEST_F(Astro, FixedTimeWithRandomShiftGoesIntoTheProjectOnlyWithOk) {
   ASSERT_TRUE(f.bild());
   EXPECT_EQ(f.bild()->marken, (std::vector<Marke>{{Rolle::schaltzeit, 5300, "12.00.00"}}));
   EXPECT_EQ(f.bild()->band, (Band{5300, 5500, "12.00.00", "12.30.00"}));
-  EXPECT_EQ(projekt.Uhr_astro[e], 0);
+  EXPECT_EQ(Geaendert(vorher), "");
   f.Command1.druecken();
   EXPECT_EQ(f.zeit_neu, "12.00.00 mit Zufall");
-  EXPECT_EQ(projekt.Uhr_astro[e], 1);
-  EXPECT_EQ(projekt.Uhr_f5[e], "00.30.00");
-  EXPECT_EQ(projekt.Uhr_funktext[e], 0) << "the functions are what they were";
-  EXPECT_EQ(projekt.Uhr_tabelle_geaendert, 1);
+  EXPECT_EQ(Geaendert(vorher), "Uhr_tabelle_geaendert=1 Uhr_astro(200)=1 Uhr_f5(200)=00.30.00");
   EXPECT_EQ(sitzung.Projekt_geaendert, 1);
 
   Uhr_Astro wieder(e, "", "12.00.00 mit Zufall");
@@ -79,14 +69,13 @@ TEST_F(Astro, ModesShowTheirFramesAndKeepTheTypedTime) {
     int modus;
     const char *text, *frame;
     bool sonne, zufall;
-  };
-  for (const Fall& fall :
-       std::vector<Fall>{{2, "Aufgang", "Schaltzeit bei Sonnenaufgang", true, false},
-                         {3, "Aufgang + Zufall", "Schaltzeit bei Sonnenaufgang", true, true},
-                         {4, "Untergang", "Schaltzeit bei Sonnenuntergang", true, false},
-                         {5, "Untergang + Zufall", "Schaltzeit bei Sonnenuntergang", true, true},
-                         {1, "06.30.00", "", false, true},
-                         {0, "06.30.00", "", false, false}}) {
+  } const faelle[] = {{2, "Aufgang", "Schaltzeit bei Sonnenaufgang", true, false},
+                      {3, "Aufgang + Zufall", "Schaltzeit bei Sonnenaufgang", true, true},
+                      {4, "Untergang", "Schaltzeit bei Sonnenuntergang", true, false},
+                      {5, "Untergang + Zufall", "Schaltzeit bei Sonnenuntergang", true, true},
+                      {1, "06.30.00", "", false, true},
+                      {0, "06.30.00", "", false, false}};
+  for (const Fall& fall : faelle) {
     f.Combo_Astro.waehlen(fall.modus);
     EXPECT_EQ(f.Text14.text(), fall.text);
     EXPECT_EQ(f.Text14.nur_lesen, fall.sonne);
@@ -106,6 +95,7 @@ TEST_F(Astro, CheckStopsAtABadTimeAndGoesOnAfterABound) {
   projekt.Uhr_f2[e] = "12.59.59";
   projekt.Uhr_f3[e] = "23.00.01";
   projekt.Uhr_f4[e] = "00.60.00";
+  const Projekt vorher = projekt;
   Uhr_Astro f(e, "", "Untergang + Zufall");
   d.erwarte({.text = "Bitte Eingabe korrigieren"});
   f.Command1.druecken();
@@ -119,9 +109,9 @@ TEST_F(Astro, CheckStopsAtABadTimeAndGoesOnAfterABound) {
   d.erwarte_text("Maximalwert eingesetzt");
   f.Command1.druecken();
   EXPECT_FALSE(f.offen());
-  EXPECT_EQ(projekt.Uhr_f1[e], "02.00.00");
-  EXPECT_EQ(projekt.Uhr_f2[e], "13.00.00");
-  EXPECT_EQ(projekt.Uhr_f3[e], "23.00.00");
+  EXPECT_EQ(Geaendert(vorher),
+            "Uhr_tabelle_geaendert=1 Uhr_f1(200)=02.00.00 Uhr_f2(200)=13.00.00 Uhr_f3(200)=23.00.00 "
+            "Uhr_f4(200)=00.10.00");
   EXPECT_EQ(f.zeit_neu, "Untergang + Zufall");
 
   // The same limits belong to the other half of the day.

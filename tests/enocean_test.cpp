@@ -5,42 +5,20 @@
 #include "enocean/enocean_definition.h"
 #include "enocean/enocean_send.h"
 #include "enocean/sender.h"
-#include "form/drehbuch.h"
-#include "link/leitung.h"
-#include "platform/einstellungen.h"
-#include "platform/uhrwerk.h"
-#include "simulator/simulator.h"
-#include "store/sitzung.h"
+#include "projektvergleich.h"
+#include "pruefstand.h"
+#include "testmaster.h"
 
 namespace zav {
 namespace {
 
-class Enocean : public ::testing::Test {
+class Enocean : public Pruefstand {
  protected:
-  Enocean() {
-    Projekt_reset();
-    sitzung = {};
-    einstellungen = {};
-    leitung = {};
-  }
-  ~Enocean() override {
-    Zeitraffer_setzen(1);
-    EXPECT_EQ(d.maengel(), "");
-  }
-  void verbinden() {
-    sim.start();
-    einstellungen.Com_art = 1;
-    einstellungen.Host_ip = "127.0.0.1";
-    einstellungen.Host_port = sim.tcp_port();
-    Com_art_setzen();
-  }
   static void sender(int platz, const char* id, int r, int adresse, int wert = 0) {
-    projekt.App_typ[platz] = 84;
+    apparat(0, platz, 84, adresse);
     projekt.App_enocean_id[platz] = id;
     projekt.App_enocean_empf[platz] = static_cast<i16>(r);
     projekt.App_enocean_wert[platz] = static_cast<i16>(wert);
-    projekt.App_text[platz] = std::to_string(adresse);
-    projekt.App_text2[platz] = "1";
   }
   static void eingebaut(int r, bool geaendert) {
     projekt.Enocean_empf_da[r] = 1;
@@ -52,12 +30,10 @@ class Enocean : public ::testing::Test {
     EXPECT_TRUE(f.offen()) << text;
   }
   static Meldung warnung(const std::string& text) {
-    return {
-        .text = text, .titel = "Warnung", .knoepfe = Knoepfe::Ja_Nein_Abbrechen, .symbol = Symbol::Warnung};
+    return {text, "Warnung", Knoepfe::Ja_Nein_Abbrechen, Symbol::Warnung};
   }
 
-  Drehbuch d;
-  simulator::Simulator sim;
+  Testmaster sim;
 };
 
 // ---- the definition
@@ -76,14 +52,12 @@ TEST_F(Enocean, DefinitionIsCheckedInOrderAndWrittenOnOk) {
   f.Key_Text.eingeben("K7");
   f.Check1[15].haken(true);
   f.Text2[15].eingeben("Estrich");
-  EXPECT_EQ(sitzung.Projekt_geaendert, 0) << "nothing is written before OK";
+  const Projekt vorher = projekt;
   f.Command1.druecken();
   EXPECT_FALSE(f.offen());
-  EXPECT_EQ(projekt.App_enocean_id[37], "01A2B3C4");
-  EXPECT_EQ(projekt.App_enocean_schluessel[37], "K7");
-  EXPECT_EQ(projekt.App_enocean_empf[37], 15);
-  EXPECT_EQ(projekt.Enocean_empf_da[15], 1);
-  EXPECT_EQ(projekt.Enocean_empf_ort[15], "Estrich");
+  EXPECT_EQ(Geaendert(vorher),
+            "App_enocean_id(37)=01A2B3C4 App_enocean_schluessel(37)=K7 App_enocean_empf(37)=15 "
+            "Enocean_empf_da(15)=1 Enocean_empf_ort(15)=Estrich");
   EXPECT_EQ(sitzung.Projekt_geaendert, 1);
   EXPECT_NE(f.Text1.text().find("Empfänger-Nr.: 15\r\nK7  01A2B3C4: "), std::string::npos);
   // The same once more asks nothing.
@@ -120,9 +94,9 @@ TEST_F(Enocean, ChangedIdAndMovedReceiverAsk) {
   // The own place counts as a place that holds the ID; nothing of it is lost by a No.
   Enocean_Definition g(3);
   g.Option1.waehlen(1);
-  d.erwarte(warnung("Diese ID existiert zur Zeit im Empfänger 7. Soll diese auf den neuen Empfänger 1 "
-                    "verschoben werden?"),
-            Antwort::Nein);
+  d.erwarte_text(
+      "Diese ID existiert zur Zeit im Empfänger 7. Soll diese auf den neuen Empfänger 1 verschoben werden?",
+      Antwort::Nein);
   g.Command1.druecken();
   EXPECT_EQ(projekt.App_enocean_id[3], "BBBBBBBB");
   g.Command2.druecken();
@@ -165,7 +139,7 @@ TEST_F(Enocean, ReconcilingFlagsReceiversThatChanged) {
 
 TEST_F(Enocean, LookUpShowsWhatTheReceiversHeard) {
   Zeitraffer_setzen(20);
-  verbinden();
+  sim.verbinden();
   eingebaut(2, false);
   eingebaut(3, false);
   sim.funk(2, 0x0189ABCD, 40);
@@ -231,16 +205,15 @@ TEST_F(Enocean, TablesHoldTheSendersInOrderOfPlaces) {
   EXPECT_NE(Enocean_tabellen(projekt, false).mangel, "");
   projekt.App_text[900] = "1";
   projekt.App_enocean_id[900] = "";
-  d.erwarte({.text = "Der Funksender  ( - ) hat keine gültige ID. Bitte die EnOcean-Definition prüfen.",
-             .titel = "Fehler",
-             .symbol = Symbol::Stopp});
+  d.erwarte({"Der Funksender  ( - ) hat keine gültige ID. Bitte die EnOcean-Definition prüfen.", "Fehler",
+             Knoepfe::OK, Symbol::Stopp});
   Enocean_Send f;
   f.Command1.druecken();
   EXPECT_EQ(projekt.Enocean_empf_geaendert[15], 1);
 }
 
 TEST_F(Enocean, ChangedReceiversAreProgrammedAndChecked) {
-  verbinden();
+  sim.verbinden();
   eingebaut(0, true);
   eingebaut(1, false);
   sender(40, "01234567", 0, 16, 5);
@@ -254,8 +227,8 @@ TEST_F(Enocean, ChangedReceiversAreProgrammedAndChecked) {
   EXPECT_TRUE(f.Command5.frei);
   EXPECT_EQ(f.ProgressBar1.wert, 100.0);
   const auto tabelle = sim.empfaengertabelle(0);
-  EXPECT_EQ(std::vector<int>(tabelle.begin(), tabelle.begin() + 9),
-            (std::vector<int>{0x01, 0x23, 0x45, 0x67, 16, 5, 0, 0, 0}));
+  EXPECT_EQ(simulator::Bytes(tabelle.begin(), tabelle.begin() + 9),
+            (simulator::Bytes{0x01, 0x23, 0x45, 0x67, 16, 5, 0, 0, 0}));
   EXPECT_EQ(sim.empfaengertabelle(1)[0], 0);
   EXPECT_EQ(projekt.Enocean_empf_geaendert[0], 0);
   ASSERT_EQ(schritte.size(), 67U);
@@ -285,26 +258,24 @@ TEST_F(Enocean, ChangedReceiversAreProgrammedAndChecked) {
 
 TEST_F(Enocean, FailureLeavesTheFlagsOfWhatIsNotChecked) {
   Zeitraffer_setzen(100);
-  verbinden();
-  eingebaut(0, true);
-  eingebaut(9, false);
+  sim.verbinden();
   struct Fall {
     const char* regel;
     std::vector<std::string> meldungen;
-    const char* geaendert;  // receivers 0 and 9
-  };
-  const std::vector<Fall> faelle{
+    int geaendert_0, geaendert_9;
+  } const faelle[] = {
       // Writing the second receiver: neither is checked, and the second holds half a table.
       {"F80@X80",
        {"F80: Die CAN-Adresse ist nicht im gültigen Bereich", "Fehler 80 bei der Kommunikation."},
-       "11"},
+       1,
+       1},
       {"stumm@X3",
        {"Zeitüberschreitung, versuchen Sie es bitte noch einmal.", "F98: Keine Antwort vom ZAVmaster",
         "Fehler 98 bei der Kommunikation."},
-       "10"},
+       1,
+       0},
       // Checking the second: the first is done.
-      {"stumm@x6", {"Fehler 98 bei der Kommunikation."}, "01"},
-      {"F01@&5", {"Fehler 01 bei der Kommunikation."}, "01"},
+      {"stumm@x6", {"Fehler 98 bei der Kommunikation."}, 0, 1},
   };
   for (const Fall& fall : faelle) {
     eingebaut(0, true);
@@ -315,10 +286,8 @@ TEST_F(Enocean, FailureLeavesTheFlagsOfWhatIsNotChecked) {
     f.Check1.haken(true);
     f.Command1.druecken();
     EXPECT_EQ(d.maengel(), "") << fall.regel;
-    EXPECT_EQ(
-        std::to_string(projekt.Enocean_empf_geaendert[0]) + std::to_string(projekt.Enocean_empf_geaendert[9]),
-        fall.geaendert)
-        << fall.regel;
+    EXPECT_EQ(projekt.Enocean_empf_geaendert[0], fall.geaendert_0) << fall.regel;
+    EXPECT_EQ(projekt.Enocean_empf_geaendert[9], fall.geaendert_9) << fall.regel;
     EXPECT_TRUE(f.Command1.frei);
   }
 }

@@ -2,12 +2,9 @@
 // them.
 #include <gtest/gtest.h>
 
-#include "form/drehbuch.h"
-#include "link/leitung.h"
-#include "platform/einstellungen.h"
-#include "platform/uhrwerk.h"
-#include "simulator/simulator.h"
-#include "store/sitzung.h"
+#include "projektvergleich.h"
+#include "pruefstand.h"
+#include "testmaster.h"
 #include "weather/wetterdisplay.h"
 #include "weather/wetterlogik.h"
 
@@ -16,28 +13,9 @@ namespace {
 
 using Stand = Wetterwerte::Stand;
 
-class Wetter : public ::testing::Test {
+class Wetter : public Pruefstand {
  protected:
-  Wetter() {
-    Projekt_reset();
-    sitzung = {};
-    einstellungen = {};
-    leitung = {};
-  }
-  ~Wetter() override {
-    Zeitraffer_setzen(1);
-    EXPECT_EQ(d.maengel(), "");
-  }
-  void verbinden() {
-    sim.start();
-    einstellungen.Com_art = 1;
-    einstellungen.Host_ip = "127.0.0.1";
-    einstellungen.Host_port = sim.tcp_port();
-    Com_art_setzen();
-  }
-
-  Drehbuch d;
-  simulator::Simulator sim;
+  Testmaster sim;
 };
 
 TEST_F(Wetter, ReplyIsDecodedByPosition) {
@@ -53,30 +31,22 @@ TEST_F(Wetter, ReplyIsDecodedByPosition) {
 }
 
 TEST_F(Wetter, RepliesWithoutValuesTellWhatIsWrong) {
-  struct Fall {
-    const char* antwort;
-    Stand stand;
+  const std::pair<const char*, Stand> faelle[] = {
+      {"000000000000000000000000", Stand::keine_station},
+      {"", Stand::keine_station},
+      {"800000000000000000000000", Stand::keine_daten},
+      {"110...0AAA00000000000000", Stand::defekt},  // quality
+      {"118...0aaa00000000000000", Stand::defekt},  // lower case is no digit
+      {"118...0AAA000000000000", Stand::defekt},    // cut off
   };
-  for (const auto& [antwort, stand] : {
-           Fall{"000000000000000000000000", Stand::keine_station},
-           {"", Stand::keine_station},
-           {"800000000000000000000000", Stand::keine_daten},
-           {"110...0AAA00000000000000", Stand::defekt},  // quality
-           {"118...0aaa00000000000000", Stand::defekt},  // lower case is no digit
-           {"118...0AAA000000000000", Stand::defekt},    // cut off
-       }) {
+  for (const auto& [antwort, stand] : faelle) {
     EXPECT_EQ(Wetter_entschluesseln(antwort).stand, stand) << antwort;
   }
 }
 
 TEST_F(Wetter, DisplayShowsLiveValuesAndLimitsOnlyTheBars) {
-  verbinden();
-  simulator::Wetter w;
-  w.regen = true;
-  w.ost = 120;
-  w.aussen = -30.5;
-  w.wind = 25;
-  sim.wetter_setzen(w);
+  sim.verbinden();
+  sim.wetter_setzen({.regen = true, .aussen = -30.5, .ost = 120, .wind = 25});
   Wetterdisplay f;
   f.beim_oeffnen();
   EXPECT_EQ(f.Label24[sonne_ost].titel, "120 kLux");
@@ -91,23 +61,20 @@ TEST_F(Wetter, DisplayShowsLiveValuesAndLimitsOnlyTheBars) {
   EXPECT_EQ(f.Label24[8].titel, "Niederschlag");
 
   // Nothing of the former values stays when there are none any more.
-  w = {};
-  w.gueltig = false;
-  sim.wetter_setzen(w);
+  sim.wetter_setzen({.gueltig = false});
   d.erwarte({.text = "Wetterstation defekt"});
   f.Command2.druecken();
   EXPECT_EQ(f.Label24[sonne_ost].titel, "---");
   EXPECT_EQ(f.Label24[8].titel, "Trocken");
   EXPECT_EQ(f.ProgressBar[sonne_ost].wert, 0.0);
-  w.station = simulator::Station::ohne_daten;
-  sim.wetter_setzen(w);
+  sim.wetter_setzen({.station = simulator::Station::ohne_daten});
   d.erwarte({.text = "Keine Daten von der Wetterstation"});
   f.Command2.druecken();
 }
 
 TEST_F(Wetter, SilentMasterLeavesTheDisplayOpen) {
   Zeitraffer_setzen(100);
-  verbinden();
+  sim.verbinden();
   sim.fehler_setzen({"stumm@s1x9"});
   d.erwarte({.text = "Abfrage nicht möglich. Versuchen Sie es bitte noch einmal."});
   Wetterdisplay f;
@@ -140,8 +107,8 @@ TEST_F(Wetter, FunctionIsEditedOnBothPages) {
   EXPECT_EQ(geoeffnet, 4 * 12 + 2 * 5 + 1);
   EXPECT_EQ(titel, "Wetterfunktion 5");
   EXPECT_EQ(f.Command5[1].titel, "Verwendet: OT");
-  EXPECT_EQ(projekt.Ein_leer[59], 1);
 
+  Projekt vorher = projekt;
   f.Text3.eingeben("Sturm");
   f.Check1.haken(false);
   f.Command2.druecken();
@@ -161,18 +128,18 @@ TEST_F(Wetter, FunctionIsEditedOnBothPages) {
   EXPECT_EQ(f.Text0[windgeschwindigkeit].titel, "20 m/s");
   EXPECT_EQ(f.Label4[sonne_ost].titel, "---");
   EXPECT_EQ(f.Label4[10].titel, "UND: Auslösen nur wenn ALLE alle Bedingungen erfüllt sind");
-  EXPECT_EQ(projekt.Wetter_wind[5], "20");
-  EXPECT_EQ(projekt.Wetter_aussen[5], "-20");
-  EXPECT_EQ(projekt.Wetter_v_richtung[5], 7);
-  EXPECT_EQ(projekt.Wetter_aktiv[5], "1") << "the page itself is not taken over yet";
+  EXPECT_EQ(Geaendert(vorher),
+            "Wetter_aussen(5)=-20 Wetter_wind(5)=20 Wetter_undoder(5)=1 Wetter_v_aussen(5)=1 "
+            "Wetter_v_wind(5)=2 Wetter_v_richtung(5)=7")
+      << "the page itself is not taken over yet";
 
   f.Command2.druecken();
   f.Combo1[8].waehlen("ja");
   f.schliessen_wuenschen();
   EXPECT_TRUE(f.offen());
-  EXPECT_EQ(projekt.Wetter_v_regen[5], 0);
+  vorher = projekt;
   f.TabStrip1.waehlen(0);
-  EXPECT_EQ(projekt.Wetter_aktiv[5], "0");
+  EXPECT_EQ(Geaendert(vorher), "Wetter_aktiv(5)=0 Wetter_text(5)=Sturm");
   EXPECT_EQ(f.TabStrip1.eintrag(5).text, "5: Sturm");
   EXPECT_EQ(f.Combo1[windgeschwindigkeit].position(), 0);
   f.Command1.druecken();
@@ -181,6 +148,7 @@ TEST_F(Wetter, FunctionIsEditedOnBothPages) {
 }
 
 TEST_F(Wetter, TimesAreTestedWhenLeftAndWhenClosed) {
+  const Projekt vorher = projekt;
   Wetterlogik f(0, {});
   d.erwarte({.text = "Minimalwert eingesetzt"});
   f.Text10.ausfuellen("00.00.00");
@@ -198,7 +166,7 @@ TEST_F(Wetter, TimesAreTestedWhenLeftAndWhenClosed) {
   d.erwarte({.text = "Bitte Eingabe korrigieren"});
   f.Command1.druecken();
   EXPECT_TRUE(f.offen());
-  EXPECT_EQ(projekt.Wetter_warte1[0], "nicht warten");
+  EXPECT_EQ(Geaendert(vorher), "");
   f.Command9.druecken();
   EXPECT_EQ(f.Text13.text(), "nicht wiederholen");
   // A broken bound is put in on the way, and closing goes on.
@@ -206,9 +174,7 @@ TEST_F(Wetter, TimesAreTestedWhenLeftAndWhenClosed) {
   d.erwarte({.text = "Maximalwert eingesetzt"});
   f.Command1.druecken();
   EXPECT_FALSE(f.offen());
-  EXPECT_EQ(projekt.Wetter_warte1[0], "00.00.01");
-  EXPECT_EQ(projekt.Wetter_wiederh1[0], "");
-  EXPECT_EQ(projekt.Wetter_warte2[0], "01.59.59");
+  EXPECT_EQ(Geaendert(vorher), "Wetter_warte1(0)=00.00.01 Wetter_wiederh1(0)= Wetter_warte2(0)=01.59.59");
 }
 
 TEST_F(Wetter, DamagedValuesShowAsFarAsTheyCanAndStay) {
@@ -216,14 +182,13 @@ TEST_F(Wetter, DamagedValuesShowAsFarAsTheyCanAndStay) {
   projekt.Wetter_wind[0] = "Sturm";
   projekt.Wetter_v_ost[0] = 9;
   projekt.Wetter_ausgang[0] = 700;
+  const Projekt vorher = projekt;
   Wetterlogik f(0, {});
   EXPECT_EQ(f.Slider1[tageslicht].wert(), 249);
   EXPECT_EQ(f.Text0[tageslicht].titel, "900 Lux");
   EXPECT_EQ(f.Combo2.position(), -1);
   f.Command1.druecken();
-  EXPECT_EQ(projekt.Wetter_licht[0], "900");
-  EXPECT_EQ(projekt.Wetter_ausgang[0], 700);
-  EXPECT_EQ(projekt.Wetter_v_ost[0], 9);
+  EXPECT_EQ(Geaendert(vorher), "");
   EXPECT_EQ(sitzung.Projekt_geaendert, 0);
 }
 
@@ -244,15 +209,13 @@ TEST_F(Wetter, OpensOnlyForAStationWithRoomForItsEvents) {
 }
 
 TEST_F(Wetter, ConditionPageShowsTheLiveBars) {
-  verbinden();
+  sim.verbinden();
   Wetterlogik f(0, {});
   f.Command2.druecken();
   f.Command10.druecken();
   EXPECT_EQ(f.ProgressBar[aussentemperatur].wert, 32.5);
   EXPECT_EQ(f.ProgressBar[aussentemperatur].hinweis, "Aussentemperatur: 12.5 °C");
-  simulator::Wetter w;
-  w.station = simulator::Station::fehlt;
-  sim.wetter_setzen(w);
+  sim.wetter_setzen({.station = simulator::Station::fehlt});
   d.erwarte({.text = "Keine oder defekte Wetterstation"});
   f.Command10.druecken();
   EXPECT_EQ(f.ProgressBar[aussentemperatur].wert, 0.0);
