@@ -8,28 +8,15 @@
 #include "app/xml_text.h"
 #include "app/zavapp_form.h"
 #include "basis/text.h"
-#include "form/drehbuch.h"
 #include "hilfen.h"
-#include "store/sitzung.h"
+#include "projektvergleich.h"
+#include "pruefstand.h"
 
 namespace zav {
 namespace {
 
-class App : public ::testing::Test {
+class App : public Pruefstand {
  protected:
-  App() {
-    Projekt_reset();
-    sitzung = {};
-    projekt.Datei_version = "910";
-  }
-  ~App() override { EXPECT_EQ(d.maengel(), ""); }
-
-  static void apparat(int k, int platz, int typ, int adresse, int adressen_) {
-    projekt.Komb_typ[k] = 1;
-    projekt.App_typ[16 * k + platz] = static_cast<i16>(typ);
-    projekt.App_text[16 * k + platz] = std::to_string(adresse);
-    projekt.App_text2[16 * k + platz] = std::to_string(adressen_);
-  }
   static void taste(int k, int platz, int n, const char* text) {
     projekt.Dev_text[128 * k + 8 * platz + n] = text;
   }
@@ -37,52 +24,34 @@ class App : public ::testing::Test {
   static void setzen(int ereignis, std::initializer_list<std::pair<App_feld, const char*>> werte) {
     for (const auto& [f, wert] : werte) feld(ereignis, f) = wert;
   }
-
-  Drehbuch d;
 };
 
 // ---- the descriptor
 
 TEST_F(App, DescriptorOfAnEmptyProjectHasEmptySections) {
+  const auto marke = [](const std::string& was) {
+    return "<!-- " + was + " hier +++++++++++++++++++++++++++++ -->\r\n";
+  };
+  const auto global = [&](const std::string& was, const char* klasse, const char* titel) {
+    return marke(was + " ab") + "  <node type=\"section\" domain=\"global\"" + klasse + ">\r\n" + titel +
+           "    <node type=\"collection\" domain=\"global\">\r\n      <title>" + was +
+           "</title>\r\n    </node>\r\n  </node>\r\n" + marke(was + " bis");
+  };
   EXPECT_EQ(App_xml_bauen(projekt),
-            "\xEF\xBB\xBF<?xml version=\"1.0\" encoding=\"UTF-8\"?>\r\n"
-            "<zavappdescriptor version=\"1.0\">\r\n"
-            "<uisector>\r\n"
-            "<title></title>\r\n"
-            "<!-- Globale Tasten ab hier +++++++++++++++++++++++++++++ -->\r\n"
-            "  <node type=\"section\" domain=\"global\">\r\n"
-            "    <title>Tasten</title>\r\n"
-            "    <subtitle>Globale Tasten</subtitle>\r\n"
-            "    <node type=\"collection\" domain=\"global\">\r\n"
-            "      <title>Globale Tasten</title>\r\n"
-            "    </node>\r\n"
-            "  </node>\r\n"
-            "<!-- Globale Tasten bis hier +++++++++++++++++++++++++++++ -->\r\n"
-            "<!-- Globale Szenen ab hier +++++++++++++++++++++++++++++ -->\r\n"
-            "  <node type=\"section\" domain=\"global\" class=\"scene\">\r\n"
-            "    <title>Globale Szenen</title>\r\n"
-            "    <node type=\"collection\" domain=\"global\">\r\n"
-            "      <title>Globale Szenen</title>\r\n"
-            "    </node>\r\n"
-            "  </node>\r\n"
-            "<!-- Globale Szenen bis hier +++++++++++++++++++++++++++++ -->\r\n"
-            "<!-- Normale Tasten ab hier +++++++++++++++++++++++++++++ -->\r\n"
-            "  <node type=\"collection\">\r\n"
-            "  </node>\r\n"
-            "<!-- Normale Tasten bis hier +++++++++++++++++++++++++++++ -->\r\n"
-            "</uisector>\r\n"
-            "<!-- Kameras ab hier +++++++++++++++++++++++++++++ -->\r\n"
-            "<camsector>\r\n"
-            "</camsector>\r\n"
-            "</zavappdescriptor>\r\n");
+            "\xEF\xBB\xBF<?xml version=\"1.0\" encoding=\"UTF-8\"?>\r\n<zavappdescriptor "
+            "version=\"1.0\">\r\n<uisector>\r\n<title></title>\r\n" +
+                global("Globale Tasten", "",
+                       "    <title>Tasten</title>\r\n    <subtitle>Globale Tasten</subtitle>\r\n") +
+                global("Globale Szenen", " class=\"scene\"", "    <title>Globale Szenen</title>\r\n") +
+                marke("Normale Tasten ab") + "  <node type=\"collection\">\r\n  </node>\r\n" +
+                marke("Normale Tasten bis") + "</uisector>\r\n" + marke("Kameras ab") +
+                "<camsector>\r\n</camsector>\r\n</zavappdescriptor>\r\n");
 }
 
 // What stands between two comments.
 std::string Teil(const std::string& xml, const std::string& name) {
-  const auto von = xml.find("<!-- " + name + " ab hier");
-  const auto beginn = xml.find("\r\n", von) + 2;
-  const auto ende = xml.find("<!-- " + name + " bis hier", beginn);
-  return xml.substr(beginn, ende - beginn);
+  const auto beginn = xml.find("\r\n", xml.find("<!-- " + name + " ab hier")) + 2;
+  return xml.substr(beginn, xml.find("<!-- " + name + " bis hier") - beginn);
 }
 
 TEST_F(App, ButtonsStandWhereTheirPropertiesPutThem) {
@@ -90,7 +59,7 @@ TEST_F(App, ButtonsStandWhereTheirPropertiesPutThem) {
   projekt.Komb_text2[3] = "Küche's";
   projekt.Komb_text[9] = "dach";
   projekt.Komb_text2[9] = "Estrich";
-  apparat(3, 2, 29, 12, 2);  // eight keys from I12-1
+  apparat(3, 2, 29, 12);  // eight keys from I12-1
   taste(3, 2, 0, "Licht & Lärm");
   taste(3, 2, 5, "Store");
   taste(3, 2, 6, "Szene");
@@ -177,7 +146,7 @@ TEST_F(App, ButtonsStandWhereTheirPropertiesPutThem) {
 
 TEST_F(App, QuestionsAndFeedbackFollowTheirKind) {
   projekt.Komb_text[0] = "EG";
-  apparat(0, 0, 14, 0, 1);
+  apparat(0, 0, 14, 0);
   taste(0, 0, 0, "x");
   const auto zeile = [](const char* name) {
     const std::string xml = App_xml_bauen(projekt);
@@ -189,24 +158,15 @@ TEST_F(App, QuestionsAndFeedbackFollowTheirKind) {
              {App_mit_rueckmeldung, "1"},
              {App_frage1, "A"},
              {App_frage2, "B"}});
-  struct Fall {
-    const char* art;
-    const char* text;
-  };
-  for (const auto& [art, text] :
-       {Fall{"0", "<confirmation keyok=\"\" keyabort=\"\">A</confirmation>"},
-        {"1", "<confirmation forstate =\"off\" keyok=\"\" keyabort=\"\">A</confirmation>"},
-        {"2", "<confirmation forstate =\"on\" keyok=\"\" keyabort=\"\">B</confirmation>"}}) {
+  for (const auto& [art, zustand, frage] :
+       {std::tuple{"0", "", "A"}, {"1", " forstate =\"off\"", "A"}, {"2", " forstate =\"on\"", "B"}}) {
     setzen(0, {{App_frage_art, art}});
-    EXPECT_EQ(zeile("<confirmation"), text);
+    EXPECT_EQ(zeile("<confirmation"), "<confirmation" + std::string(zustand) + " keyok=\"\" keyabort=\"\">" +
+                                          frage + "</confirmation>");
   }
-  for (const auto& [nummer, text] : {std::pair{"0", "O0-0"},
-                                     {"511", "O63-7"},
-                                     {"512", "D0-0"},
-                                     {"639", "D31-3"},
-                                     {"640", "-"},
-                                     {"641", "-"},
-                                     {"", "-"}}) {
+  const std::pair<const char*, const char*> ausgaenge[] = {
+      {"0", "O0-0"}, {"511", "O63-7"}, {"512", "D0-0"}, {"639", "D31-3"}, {"640", "-"}, {"", "-"}};
+  for (const auto& [nummer, text] : ausgaenge) {
     setzen(0, {{App_rueckmeldung, nummer}});
     EXPECT_EQ(zeile("<feedbackaddress"), "<feedbackaddress>" + std::string(text) + "</feedbackaddress>");
   }
@@ -225,24 +185,18 @@ TEST_F(App, StoreysAreSortedWithoutCaseAndKeepTheirOrder) {
     return folge;
   };
   int k = 7;
-  for (const auto& [standort, raum] : {std::pair{"Ober", "1"},
-                                       {"erd", "2"},
-                                       {"ÄUSSERES", "3"},
-                                       {"ober", "4"},
-                                       {"äUSSERES", "5"},
-                                       {"Erd", "6"},
-                                       {"", "7"},
-                                       {"Ober", "8"}}) {
+  for (const char* standort : {"Ober", "erd", "ÄUSSERES", "ober", "äUSSERES", "Erd", "", "Ober"}) {
     projekt.Komb_text[k] = standort;
-    projekt.Komb_text2[k++] = raum;
+    projekt.Komb_text2[k] = std::to_string(k - 6);
+    ++k;
   }
   EXPECT_EQ(titel(), "2614835");
 }
 
 TEST_F(App, SlotsBehindAnOccupiedPlaceAreNotExported) {
   projekt.Komb_text[0] = "EG";
-  apparat(0, 0, 40, 20, 4);
-  apparat(0, 1, 14, 30, 1);
+  apparat(0, 0, 40, 20);
+  apparat(0, 1, 14, 30);
   taste(0, 1, 0, "Nachbar");
   for (int e = 0; e < eingangsereignisse; ++e) setzen(e, {{App_geraet, "3"}});
   EXPECT_EQ(App_zaehlen(projekt).normale, 1);
@@ -305,10 +259,10 @@ TEST_F(App, ExportAsksForTheFileAndKeepsTheOldOneOnFailure) {
   d.erwarte_datei(std::nullopt);
   f.Command1.druecken();
   ASSERT_EQ(d.dateifragen().size(), 1U);
-  EXPECT_EQ(d.dateifragen()[0].vorschlag, "zavappdescriptor");
-  EXPECT_EQ(d.dateifragen()[0].endung, ".xml");
-  EXPECT_EQ(d.dateifragen()[0].filter, (std::vector<Dateifilter>{{"XML-Datei (*.xml)", "*.xml"}}));
-  EXPECT_TRUE(d.dateifragen()[0].ueberschreiben_fragen);
+  const Dateifrage& frage = d.dateifragen()[0];
+  EXPECT_EQ(frage.vorschlag + frage.endung, "zavappdescriptor.xml");
+  EXPECT_EQ(frage.filter, (std::vector<Dateifilter>{{"XML-Datei (*.xml)", "*.xml"}}));
+  EXPECT_TRUE(frage.ueberschreiben_fragen);
   EXPECT_EQ(projekt.App_allgemein[0], "Mein Haus");
   EXPECT_EQ(sitzung.Projekt_geaendert, 1);
 
@@ -317,11 +271,10 @@ TEST_F(App, ExportAsksForTheFileAndKeepsTheOldOneOnFailure) {
   EXPECT_EQ(Dateibytes(ordner / "a.xml"), App_xml_bauen(projekt));
   EXPECT_EQ(f.Label2.titel, "Geschrieben: " + ordner / "a.xml");
   d.erwarte_datei(Dateiwahl{.pfad = ordner / "fehlt/a.xml"});
-  d.erwarte({.text =
-                 "Datei oder Ordner nicht gefunden. Die Datei mit diesem Namen ist möglicherweise "
-                 "schreibgeschützt. Speichern Sie sie mit einem anderen Namen oder in einen anderen Ordner.",
-             .titel = "ZAVlink: Fehler 2",
-             .symbol = Symbol::Stopp});
+  d.erwarte(
+      {"Datei oder Ordner nicht gefunden. Die Datei mit diesem Namen ist möglicherweise schreibgeschützt. "
+       "Speichern Sie sie mit einem anderen Namen oder in einen anderen Ordner.",
+       "ZAVlink: Fehler 2", Knoepfe::OK, Symbol::Stopp});
   f.Command1.druecken();
   EXPECT_EQ(f.Label2.titel, "");
   projekt.Datei_version = "900";
@@ -335,7 +288,7 @@ TEST_F(App, ExportAsksForTheFileAndKeepsTheOldOneOnFailure) {
 // ---- properties
 
 TEST_F(App, AutomaticFillFindsIconAndFeedback) {
-  apparat(0, 0, 14, 5, 1);
+  apparat(0, 0, 14, 5);
   taste(0, 0, 0, "STOREN auf");
   projekt.Ein_relais(20, 6) = 5;  // blind: no feedback
   projekt.Ein_relais(21, 9) = 4;
@@ -366,9 +319,10 @@ TEST_F(App, AutomaticFillFindsIconAndFeedback) {
 }
 
 TEST_F(App, PageEditsACopyOfTheDevicesRecords) {
-  apparat(2, 1, 14, 7, 1);
+  apparat(2, 1, 14, 7);
   taste(2, 1, 2, "Licht");
   setzen(29, {{App_mit_icon, "1"}, {App_icon_name, "lampe_alt"}, {App_icon_bild, "99"}});
+  const Projekt vorher = projekt;
   App_eigenschaften_seite f(33, 2);
   EXPECT_EQ(f.Tastenwahl.text(), "Taste 3: Licht");
   EXPECT_FALSE(f.Text12.frei);
@@ -393,13 +347,12 @@ TEST_F(App, PageEditsACopyOfTheDevicesRecords) {
   // Another key: an icon of another program's is shown and kept.
   f.Tastenwahl.waehlen(1);
   EXPECT_EQ(f.Combo1.text(), "lampe_alt");
-  EXPECT_EQ(feld(30, App_geraet), "0") << "nothing is written before OK";
+  EXPECT_EQ(Geaendert(vorher), "") << "nothing is written before OK";
   f.OK.druecken();
-  std::string satz;
-  for (const str& feld : projekt.App_eigenschaften.zeile(30)) satz += feld + "|";
-  EXPECT_EQ(satz, "3|0|1|1|1|1|0|Lampe|1|Licht||29|3||||Wirklich?||||||");
-  EXPECT_EQ(feld(29, App_icon_name), "lampe_alt");
-  EXPECT_EQ(feld(29, App_icon_bild), "99");
+  EXPECT_EQ(Geaendert(vorher),
+            "App_eigenschaften(30,0)=3 App_eigenschaften(30,2-5)=1 App_eigenschaften(30,7)=Lampe "
+            "App_eigenschaften(30,8)=1 App_eigenschaften(30,9)=Licht App_eigenschaften(30,11)=29 "
+            "App_eigenschaften(30,12)=3 App_eigenschaften(30,16)=Wirklich?");
   EXPECT_EQ(sitzung.Projekt_geaendert, 1);
 
   sitzung = {};
@@ -413,14 +366,13 @@ TEST_F(App, PageEditsACopyOfTheDevicesRecords) {
   EXPECT_EQ(g.Combo4.position(), 640);
   g.Cancel.druecken();
   EXPECT_EQ(sitzung.Projekt_geaendert, 0);
-  EXPECT_EQ(feld(28, App_geraet), "0");
 }
 
 // ---- cameras
 
 TEST_F(App, CamerasAreEditedDeletedAndKeptAsLines) {
   projekt.Kamera_text[7] = "bleibt";
-  apparat(0, 0, 93, 14, 6);
+  apparat(0, 0, 93, 14);
   taste(0, 0, 1, "Tor");
   {
     IP_Kameras f;
@@ -464,11 +416,8 @@ TEST_F(App, CamerasAreEditedDeletedAndKeptAsLines) {
   IP_Kameras f;
   f.TabStrip1.waehlen(1);
   EXPECT_EQ(f.Combo1.text(), "Panasonic");
-  const Meldung frage{.text = "Wollen Sie diese Kamera und alle Einstellungen wirklich löschen?",
-                      .titel = "Löschen",
-                      .knoepfe = Knoepfe::Ja_Nein,
-                      .symbol = Symbol::Warnung,
-                      .standard = 2};
+  const Meldung frage{"Wollen Sie diese Kamera und alle Einstellungen wirklich löschen?", "Löschen",
+                      Knoepfe::Ja_Nein, Symbol::Warnung, 2};
   d.erwarte(frage, Antwort::Nein);
   f.Command3.druecken();
   EXPECT_EQ(f.Text1.text(), "Eingang");

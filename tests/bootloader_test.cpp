@@ -15,13 +15,10 @@
 #include <thread>
 
 #include "firmware_hilfen.h"
-#include "form/drehbuch.h"
 #include "hilfen.h"
-#include "link/leitung.h"
 #include "platform/csc.h"
-#include "platform/einstellungen.h"
 #include "platform/nsio.h"
-#include "platform/uhrwerk.h"
+#include "pruefstand.h"
 #include "service/bootloader.h"
 #include "service/srecord.h"
 #include "simulator/simulator.h"
@@ -58,17 +55,9 @@ TEST(Srecord, NamesTheFirstFault) {
 
 const Meldung neustartmeldung{.text = "ZAVmaster jetzt neu starten\r\n"};
 
-class Update : public ::testing::Test {
+class Update : public Pruefstand {
  protected:
-  Update() {
-    leitung = {};
-    einstellungen = {};
-    Zeitraffer_setzen(30);
-  }
-  ~Update() override {
-    EXPECT_EQ(d.maengel(), "");
-    Zeitraffer_setzen(1);
-  }
+  Update() { Zeitraffer_setzen(30); }
   // A master in its bootloader, on a pseudo-terminal that COM stands for.
   void Master(bool startladen = true) {
     sim.emplace(simulator::Optionen{.pty = true, .startladen = startladen});
@@ -106,14 +95,13 @@ class Update : public ::testing::Test {
   }
 
   Testordner ordner;
-  Drehbuch d;
   std::optional<simulator::Simulator> sim;
 };
 
 TEST_F(Update, OverComInSixSteps) {
   Master();
-  einstellungen.Com_art =
-      1;  // the running master is reached over the network: the update takes COM all the same
+  // The running master is reached over the network: the update takes COM all the same.
+  einstellungen.Com_art = 1;
   Com_art_setzen();
   Bootloader f;
   d.erwarte_datei(Dateiwahl{.pfad = Datei(Firmwaredatei(200))});
@@ -136,13 +124,9 @@ TEST_F(Update, RefusesANameWarnsOfAContentAndCanBeLeftWhileTheMasterIsSilent) {
   f.Command9.druecken();
 
   const Meldung warnung{
-      .text =
-          "Das ist keine einwandfreie Update-Datei: Zeile 1 ist kein S-Record.\r\n\r\nDas Betriebssystem im "
-          "ZAVmaster wird trotzdem gelöscht, wenn Sie fortfahren. Fortfahren?",
-      .titel = "Update-Assistent",
-      .knoepfe = Knoepfe::Ja_Nein,
-      .symbol = Symbol::Warnung,
-      .standard = 2};
+      "Das ist keine einwandfreie Update-Datei: Zeile 1 ist kein S-Record.\r\n\r\nDas Betriebssystem im "
+      "ZAVmaster wird trotzdem gelöscht, wenn Sie fortfahren. Fortfahren?",
+      "Update-Assistent", Knoepfe::Ja_Nein, Symbol::Warnung, 2};
   const std::string pfad = Datei("<html>");
   d.erwarte_datei(Dateiwahl{.pfad = pfad});
   d.erwarte(warnung, Antwort::Nein);

@@ -12,13 +12,11 @@
 #include "editor/einmask.h"
 #include "editor/einmask8.h"
 #include "enocean/enocean_send.h"
-#include "form/drehbuch.h"
 #include "hilfen.h"
-#include "link/leitung.h"
 #include "platform/datei.h"
-#include "platform/einstellungen.h"
 #include "platform/ports.h"
-#include "platform/uhrwerk.h"
+#include "projektvergleich.h"
+#include "pruefstand.h"
 #include "service/infofenster.h"
 #include "service/init_flash.h"
 #include "shell/bericht.h"
@@ -30,33 +28,18 @@
 #include "shell/setup.h"
 #include "shell/sitzungslauf.h"
 #include "shell/storentimer.h"
-#include "simulator/simulator.h"
 #include "store/funktionen.h"
-#include "store/katalog.h"
 #include "store/projektdatei.h"
-#include "store/sitzung.h"
+#include "testmaster.h"
 #include "time/uhrseite.h"
 #include "transfer/vorschau.h"
 
 namespace zav {
 namespace {
 
-class Shell : public ::testing::Test {
+class Shell : public Pruefstand {
  protected:
-  Shell() {
-    einstellungen = {};
-    sitzung = {};
-    leitung = {};
-    Com_art_setzen();
-    projekt.Projekt_name = "Namenlos";
-    projekt.Datei_version = "910";
-    Projekt_reset();
-    Heute_setzen({2026, 5, 4});
-  }
-  ~Shell() override {
-    EXPECT_EQ(d.maengel(), "");
-    Zeitraffer_setzen(1);
-  }
+  Shell() { projekt.Projekt_name = "Namenlos"; }
   // A project of that generation in a file; its path without extension.
   std::string Anlegen(const std::string& name, const std::string& version = "910",
                       const std::string& notiz = "") {
@@ -76,21 +59,25 @@ class Shell : public ::testing::Test {
     d.erwarte_dialog<Datei>(spiel);
     haupt().Dateien.druecken();
   }
+  // A command of the file dialog that asks for a file; nothing = cancelled.
+  void Dateibefehl(Taste Datei::*taste, std::optional<Dateiwahl> wahl) {
+    Dateimenue([&](Datei& f) {
+      d.erwarte_datei(wahl);
+      (f.*taste).druecken();
+    });
+  }
   Haupt& haupt() {
     if (!haupt_) haupt_ = std::make_unique<Haupt>();
     return *haupt_;
   }
   void Ungespeichert_frage(Antwort a) {
-    d.erwarte({.text = "Es existieren möglicherweise ungespeicherte Projektdaten!\r\n\r\nMöchten Sie das "
-                       "aktuelle Projekt noch speichern?\r\n\r\n",
-               .titel = "Noch speichern?",
-               .knoepfe = Knoepfe::Ja_Nein_Abbrechen,
-               .symbol = Symbol::Warnung},
+    d.erwarte({"Es existieren möglicherweise ungespeicherte Projektdaten!\r\n\r\nMöchten Sie das aktuelle "
+               "Projekt noch speichern?\r\n\r\n",
+               "Noch speichern?", Knoepfe::Ja_Nein_Abbrechen, Symbol::Warnung},
               a);
   }
 
   Testordner ordner;
-  Drehbuch d;
   std::unique_ptr<Haupt> haupt_;
 };
 
@@ -113,10 +100,7 @@ TEST_F(Shell, FirstStartHasNothingToOfferAndTheSecondWhatWasSaved) {
   EXPECT_EQ(haupt().Notizen.hinweis, "Feld für Notizen zu dieser Datei (maximal 900 Zeichen)");
   haupt().Notizen.eingeben(std::string(1200, 'x'));
   EXPECT_EQ(projekt.Notizen, std::string(999, 'x'));
-  Dateimenue([&](Datei& f) {
-    d.erwarte_datei(Dateiwahl{.pfad = ordner / "Haus & Hof.zav"});
-    f.Command1.druecken();
-  });
+  Dateibefehl(&Datei::Command1, Dateiwahl{.pfad = ordner / "Haus & Hof.zav"});
   EXPECT_EQ(haupt().titel(), "ZAVlink Hauptmenu  -  " + (ordner / "Haus & Hof") + ".zav");
   einstellungen.Com_art = 2;
   haupt().schliessen_wuenschen();
@@ -138,17 +122,14 @@ TEST_F(Shell, FirstStartHasNothingToOfferAndTheSecondWhatWasSaved) {
 }
 
 TEST_F(Shell, EndOfProgramAsksTwiceAboutUnsavedData) {
-  const Meldung erste{.text =
-                          "Es existieren ungespeicherte Projektdaten! Speichern?\r\n\r\nMit 'Ja' gelangen "
-                          "Sie zurück ins Hauptmenu und können die Datei wie gewohnt speichern.\r\n\r\n",
-                      .titel = "ZAV-Datei",
-                      .knoepfe = Knoepfe::Ja_Nein_Abbrechen,
-                      .symbol = Symbol::Warnung};
-  const Meldung zweite{.text =
-                           "Wirklich nicht speichern? Mit 'Ja' gelangen Sie zurück ins Hauptmenu und können "
-                           "die Datei wie gewohnt speichern.",
-                       .knoepfe = Knoepfe::Ja_Nein,
-                       .symbol = Symbol::Stopp};
+  const Meldung erste{
+      "Es existieren ungespeicherte Projektdaten! Speichern?\r\n\r\nMit 'Ja' gelangen Sie zurück ins "
+      "Hauptmenu und können die Datei wie gewohnt speichern.\r\n\r\n",
+      "ZAV-Datei", Knoepfe::Ja_Nein_Abbrechen, Symbol::Warnung};
+  const Meldung zweite{
+      "Wirklich nicht speichern? Mit 'Ja' gelangen Sie zurück ins Hauptmenu und können die Datei wie gewohnt "
+      "speichern.",
+      "", Knoepfe::Ja_Nein, Symbol::Stopp};
   haupt().Notizen.eingeben("neu");
   for (const Antwort a : {Antwort::Ja, Antwort::Abbrechen}) {
     d.erwarte(erste, a);
@@ -176,10 +157,7 @@ TEST_F(Shell, EndOfProgramAsksTwiceAboutUnsavedData) {
 TEST_F(Shell, OpenKeepsTheProjectOnCancelAndShowsTheWriteProtection) {
   einstellungen.Standard_ordner = ordner.pfad();
   const std::string a = Anlegen("a", "910", "aus a");
-  Dateimenue([&](Datei& f) {
-    d.erwarte_datei(Dateiwahl{.pfad = a + ".zav", .schreibgeschuetzt = true});
-    f.Command2.druecken();
-  });
+  Dateibefehl(&Datei::Command2, Dateiwahl{.pfad = a + ".zav", .schreibgeschuetzt = true});
   EXPECT_TRUE(d.dateifragen()[0].schreibschutz_waehlbar);
   EXPECT_EQ(d.dateifragen()[0].ordner, ordner.pfad());
   EXPECT_EQ(d.dateifragen()[0].filter,
@@ -206,10 +184,7 @@ TEST_F(Shell, OpenKeepsTheProjectOnCancelAndShowsTheWriteProtection) {
     f.Command2.druecken();
   });
   EXPECT_EQ(projekt.Projekt_name, a);
-  Dateimenue([&](Datei& f) {
-    d.erwarte_datei(Dateiwahl{.pfad = ordner / "b.zav"});
-    f.Command1.druecken();
-  });
+  Dateibefehl(&Datei::Command1, Dateiwahl{.pfad = ordner / "b.zav"});
   EXPECT_EQ(sitzung.Schreibschutz, 0);
   EXPECT_EQ(Gelesen("b")->Notizen, "geändert");
   EXPECT_EQ(Gelesen("a")->Notizen, "aus a");
@@ -244,10 +219,7 @@ TEST_F(Shell, SaveAsChoosesTheGenerationAndSaveAsksForAMissingName) {
                                                     {"ZAVnet 90x (*.zav)", "*.zav"},
                                                     {"ZAVnet 8xx (*.zav)", "*.zav"}}));
   // A name with a dot of its own is not cut.
-  Dateimenue([&](Datei& f) {
-    d.erwarte_datei(Dateiwahl{.pfad = ordner / "haus.v2", .filter_nr = 1});
-    f.Command1.druecken();
-  });
+  Dateibefehl(&Datei::Command1, Dateiwahl{.pfad = ordner / "haus.v2", .filter_nr = 1});
   EXPECT_EQ(Gelesen("haus.v2")->Datei_version, "900");
 }
 
@@ -268,12 +240,8 @@ TEST_F(Shell, NewProjectAsksForItsFileAtOnce) {
   projekt.Projekt_name = Anlegen("alt");
   projekt.Datei_version = "800";
   projekt.Notizen = "alt";
-  const Meldung frage{
-      .text = "Neues Projekt erstellen (Setzt alle Eingaben und Daten auf Standardwerte zurück)?",
-      .titel = "Info",
-      .knoepfe = Knoepfe::Ja_Nein,
-      .symbol = Symbol::Information,
-      .standard = 2};
+  const Meldung frage{"Neues Projekt erstellen (Setzt alle Eingaben und Daten auf Standardwerte zurück)?",
+                      "Info", Knoepfe::Ja_Nein, Symbol::Information, 2};
   Dateimenue([&](Datei& f) {
     d.erwarte(frage, Antwort::Nein);
     f.New.druecken();
@@ -306,12 +274,8 @@ TEST_F(Shell, LastFilesOpenFromTheMainWindow) {
 
 TEST_F(Shell, ExportIsTheProjectAsJsonAndTheReportATable) {
   projekt.Notizen = "Zeile 1\r\nTab\t\"hier\"";
-  projekt.Komb_typ[0] = 1;
-  projekt.Komb_text[0] = "EG";
-  projekt.Komb_text2[0] = "Küche";
-  projekt.App_typ[2] = 3;
-  projekt.App_text[2] = "12";
-  projekt.App_text2[2] = "1";
+  kombination(0, "EG", "Küche");
+  apparat(0, 2, 3, 12);
   projekt.Dev_text[16] = "Licht";
   projekt.Dev_adr[16] = 29;
   projekt.Relais_text[29] = "Decke";
@@ -321,28 +285,22 @@ TEST_F(Shell, ExportIsTheProjectAsJsonAndTheReportATable) {
   projekt.Uhr_zeit[17] = "06.30.00";
   projekt.Uhr_dimmer(17, 6, 2) = 45;
   d.tasten({.strg = true, .alt = true});
-  Dateimenue([&](Datei& f) {
-    d.erwarte_datei(Dateiwahl{.pfad = ordner / "e.iav"});
-    f.Command1.druecken();
-  });
+  Dateibefehl(&Datei::Command1, Dateiwahl{.pfad = ordner / "e.iav"});
   const std::string json = Dateibytes(ordner / "e.iav");
   EXPECT_EQ(projekt.Projekt_name, ordner / "e");
   EXPECT_NE(json.find("\"Notizen\": \"Zeile 1\\r\\nTab\\t\\\"hier\\\"\""), std::string::npos);
   EXPECT_NE(json.find("\"Ein_relais\": {\"48\":{\"29\":2}}"), std::string::npos);
 
   d.tasten({});
-  Dateimenue([&](Datei& f) {
-    d.erwarte_datei(Dateiwahl{.pfad = ordner / "e.txt"});
-    f.Drucken.druecken();
-  });
+  Dateibefehl(&Datei::Drucken, Dateiwahl{.pfad = ordner / "e.txt"});
   const std::string bericht = Dateibytes(ordner / "e.txt");
   const auto art = std::string(Apparat_art(3)->titel);
   const std::string kopf = "EG\tKüche\t3\t" + art + "\ti12\t <Thermo> \t1\tLicht\t" + LED_liste()[29] + "\t";
   EXPECT_TRUE(bericht.starts_with("\xEF\xBB\xBFProjekt\t"));
-  const std::vector<std::string> zeilen{"Tab \"hier\"\r\n", kopf + "O3-5\tDecke\tEin\r\n",
-                                        kopf + "T4\t\tStart & Restart\r\n", "O3-5\tDecke\tAusschalten\r\n",
-                                        "1\tDienstag\t2\t\t06.30.00\t\tD1-2\t\t45 %, Tempo Sehr hoch\r\n"};
-  for (const std::string& zeile : zeilen) {
+  for (const std::string& zeile :
+       {std::string("Tab \"hier\"\r\n"), kopf + "O3-5\tDecke\tEin\r\n", kopf + "T4\t\tStart & Restart\r\n",
+        std::string("O3-5\tDecke\tAusschalten\r\n"),
+        std::string("1\tDienstag\t2\t\t06.30.00\t\tD1-2\t\t45 %, Tempo Sehr hoch\r\n")}) {
     EXPECT_NE(bericht.find(zeile), std::string::npos) << zeile << "\n" << bericht;
   }
 }
@@ -443,6 +401,7 @@ TEST_F(Shell, PortFinderNamesTheAdapterThatComes) {
 }
 
 TEST_F(Shell, SmallDialogsCommitOnOkOnly) {
+  Projekt vorher = projekt;
   Storentimer s;
   s.Text1[0].eingeben("656");
   d.erwarte_text("Laufzeit: bitte eine ganze Zahl eingeben, Sekunden (1 bis 655).");
@@ -451,11 +410,11 @@ TEST_F(Shell, SmallDialogsCommitOnOkOnly) {
   s.Text1[0].eingeben("655");
   s.Text1[4].eingeben("12");
   s.OK.druecken();
-  EXPECT_EQ(projekt.Store_p1, 655);
-  EXPECT_EQ(projekt.Store_p5, 12);
+  EXPECT_EQ(Geaendert(vorher), "Store_p1=655 Store_p5=12");
   EXPECT_EQ(sitzung.Projekt_geaendert, 1);
 
   projekt.Dimmer_text[5] = "Salon";
+  vorher = projekt;
   Eingabehilfe e;
   e.Option1.waehlen(1);
   e.Combo1.waehlen("D1-0");
@@ -464,9 +423,8 @@ TEST_F(Shell, SmallDialogsCommitOnOkOnly) {
   e.Text2.eingeben("7");
   EXPECT_EQ(e.Label2.titel, "3 von 4 Texten werden geändert");
   e.OK.druecken();
-  EXPECT_EQ(projekt.Dimmer_text[4], "Spot 7 Süd");
-  EXPECT_EQ(projekt.Dimmer_text[5], "Salon");
-  EXPECT_EQ(projekt.Dimmer_text[7], "Spot 10 Süd");
+  EXPECT_EQ(Geaendert(vorher),
+            "Dimmer_text(4)=Spot 7 Süd Dimmer_text(6)=Spot 9 Süd Dimmer_text(7)=Spot 10 Süd");
 
   Fotos f;
   EXPECT_FALSE(f.Command1.frei);
@@ -498,11 +456,7 @@ TEST_F(Shell, ModifierKeysChooseTheInputEditorAndPortsAreSoughtWhereNeeded) {
 class Shell_am_master : public Shell {
  protected:
   Shell_am_master() {
-    sim.start();
-    einstellungen.Com_art = 1;
-    einstellungen.Host_ip = einstellungen.Host_name = "127.0.0.1";
-    einstellungen.Host_port = sim.tcp_port();
-    Com_art_setzen();
+    sim.verbinden();
     Zeitraffer_setzen(40);
     projekt.Projekt_name = Anlegen("haus");
     projekt.Ein_relais(5, 29) = relais_ein;
@@ -517,7 +471,7 @@ class Shell_am_master : public Shell {
   const std::string neustartfrage =
       "Im ZAVmaster einen Neustart durchführen? 'Ja', wenn Schaltzeiten und Timer aktualisiert werden "
       "sollen. 'Nein', wenn nur Ausgangsverknüpfungen geändert wurden.";
-  simulator::Simulator sim;
+  Testmaster sim;
 };
 
 TEST_F(Shell_am_master, TransferDialogErasesSendsAsksAndProgramsReceivers) {
@@ -564,13 +518,14 @@ TEST_F(Shell_am_master, RunningTransferCanBeStoppedAnEraseCannot) {
     EXPECT_TRUE(f.offen());
     if (f.Command2.frei && f.ProgressBar1.wert > 0.0) f.Command2.druecken();
   };
-  d.erwarte({.text = "F97: Sie haben die Übertragung zum ZAVmaster abgebrochen. Die Daten im ZAVmaster sind "
-                     "jetzt ungültig und es kann zu undefinierten Schaltzuständen kommen.\r\n\r\nDrücken Sie "
-                     "anschliessend die Schaltfläche 'Neustart ZAVmaster' oder unterbrechen Sie für einige "
-                     "Sekunden die Stromzufuhr von ZAVnet. Senden Sie raschmöglichst eine korrekte Datei zum "
-                     "ZAVmaster, damit die gewünschte Funktion gewährleistet ist.\r\n\r\n",
-             .titel = "Abbruch der Übermittlung",
-             .symbol = Symbol::Stopp});
+  const Meldung abbruch{
+      "F97: Sie haben die Übertragung zum ZAVmaster abgebrochen. Die Daten im ZAVmaster sind jetzt ungültig "
+      "und es kann zu undefinierten Schaltzuständen kommen.\r\n\r\nDrücken Sie anschliessend die "
+      "Schaltfläche 'Neustart ZAVmaster' oder unterbrechen Sie für einige Sekunden die Stromzufuhr von "
+      "ZAVnet. Senden Sie raschmöglichst eine korrekte Datei zum ZAVmaster, damit die gewünschte Funktion "
+      "gewährleistet ist.\r\n\r\n",
+      "Abbruch der Übermittlung", Knoepfe::OK, Symbol::Stopp};
+  d.erwarte(abbruch);
   f.Command3.druecken();
   d.bei_doevents = nullptr;
   EXPECT_TRUE(f.Command3.frei && f.Cancel.frei && !f.Command2.frei);

@@ -4,12 +4,10 @@
 #include <algorithm>
 #include <functional>
 
-#include "form/drehbuch.h"
 #include "gegenstelle.h"
-#include "platform/uhrwerk.h"
+#include "pruefstand.h"
 #include "service/terminal.h"
-#include "simulator/simulator.h"
-#include "store/sitzung.h"
+#include "testmaster.h"
 
 namespace zav {
 namespace {
@@ -31,17 +29,8 @@ class Schirm : public Terminalanzeige {
   std::function<void(const std::string&)> bei_text, bei_zeile;
 };
 
-class Terminaltest : public ::testing::TestWithParam<Verbindung> {
+class Terminaltest : public Pruefstand, public testing::WithParamInterface<Verbindung> {
  protected:
-  Terminaltest() {
-    sitzung = {};
-    leitung = {};
-    einstellungen = {};
-  }
-  ~Terminaltest() override {
-    EXPECT_EQ(d.maengel(), "");
-    Zeitraffer_setzen(1);
-  }
   // Leaves the terminal when that many lines stand there.
   void Verlassen_nach(std::size_t zeilen) {
     s.bei_zeile = [this, zeilen](const std::string&) {
@@ -49,7 +38,6 @@ class Terminaltest : public ::testing::TestWithParam<Verbindung> {
     };
   }
 
-  Drehbuch d;
   Schirm s;
   Terminal t{s};
 };
@@ -119,16 +107,8 @@ INSTANTIATE_TEST_SUITE_P(Leitungen, Terminaltest, ::testing::Values(Verbindung::
 
 class Terminal_am_master : public Terminaltest {
  protected:
-  Terminal_am_master() {
-    sim.start();
-    const bool netz = GetParam() == Verbindung::tcp;
-    einstellungen.Com_art = netz ? 1 : 0;
-    einstellungen.Host_ip = "127.0.0.1";
-    einstellungen.Host_port = sim.tcp_port();
-    einstellungen.Com_geraet = sim.pty_name();
-    Com_art_setzen();
-  }
-  simulator::Simulator sim{{.pty = true}};
+  Terminal_am_master() { sim.verbinden(GetParam()); }
+  Testmaster sim;
 };
 
 TEST_P(Terminal_am_master, ListsEveryParticipantAfterARestart) {
@@ -140,7 +120,6 @@ TEST_P(Terminal_am_master, ListsEveryParticipantAfterARestart) {
 }
 
 TEST_P(Terminal_am_master, FiltersAndStampsCountFromTheNextLineOn) {
-  Heute_setzen({2026, 5, 4});
   s.bei_text = [&](const std::string& text) {
     if (!text.ends_with("F00\r\r\n")) return;
     for (const int adresse : {0, 1, 0}) sim.ereignis({.adresse = adresse, .taste = 1});
