@@ -78,6 +78,7 @@ Timer_trepp::Timer_trepp() : Formular("Timer_trepp", "Timer Manager") {
   OK.standard = true;
   OK.abbruch = true;  // there is no way out but to take it over
   OK.wenn_gedrueckt = [this] { Uebernehmen(); };
+  fokussieren(Txtbox_timerbez.front());
 }
 
 bool Timer_trepp::Zeit_pruefen(int nummer) {
