@@ -20,6 +20,7 @@
 
 #include "zavlink/farben.h"
 #include "zavlink/qt_text.h"
+#include "zavlink/schirmhalter.h"
 
 namespace zav::fenster {
 
@@ -54,6 +55,7 @@ Formfenster::Formfenster(Formular& f, QWidget* eltern)
   form_.beobachter = [this] { nachfuehren(); };
   nachfuehren();
   einpassen();
+  new Schirmhalter(*this);
 }
 
 Formfenster::~Formfenster() {

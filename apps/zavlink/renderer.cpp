@@ -11,6 +11,7 @@
 
 #include "zavlink/farben.h"
 #include "zavlink/qt_text.h"
+#include "zavlink/spaltenlauf.h"
 #include "zavlink/textfelder.h"
 #include "zavlink/wahlfelder.h"
 
@@ -362,6 +363,8 @@ class Baumeister {
       ort[s + 1] = ort[s] + 1;
       if (waechst[s]) gitter->setColumnStretch(ort[s], 1);
     }
+    std::vector<Spaltenlauf*> laeufe;
+    for (std::size_t s = 0; s < spalten; ++s) laeufe.push_back(new Spaltenlauf(eltern));
     for (std::size_t i = 0; i < a.kinder.size(); ++i) {
       const Anordnung& k = a.kinder[i];
       const int zeile = static_cast<int>(i / spalten);
@@ -370,6 +373,7 @@ class Baumeister {
       const bool frei = Waechst(k, Richtung::waagrecht) || k.art != Anordnung::Art::Element;
       const Teil t = Bau(k, eltern);
       if (!t) continue;
+      if (t.widget != nullptr) laeufe.at(i % spalten)->anfuegen(t.widget);
       if (a.platz_halten && t.widget != nullptr) Platz_halten(*t.widget);
       const bool fuellt = k.art == Anordnung::Art::Element &&
                           (k.element->art == Art::Schild || k.element->art == Art::Taste ||
