@@ -243,6 +243,7 @@ QWidget* Jahresplan_bauen(const Anordnung& a, Auffrischer& auf, QWidget* eltern,
   QFont fett = jahr->font();
   fett.setBold(true);
   jahr->setFont(fett);
+  jahr->setBuddy(feld);
   auto* const zurueck = Blaetterknopf(Qt::LeftArrow, "Voriges Jahr (Bild auf)", w);
   auto* const weiter = Blaetterknopf(Qt::RightArrow, "Nächstes Jahr (Bild ab)", w);
   for (QWidget* teil : std::initializer_list<QWidget*>{zurueck, jahr, weiter}) kopf->addWidget(teil);
@@ -261,7 +262,7 @@ QWidget* Jahresplan_bauen(const Anordnung& a, Auffrischer& auf, QWidget* eltern,
   QObject::connect(zurueck, &QToolButton::clicked, feld, [feld] { feld->blaettern(-1); });
   QObject::connect(weiter, &QToolButton::clicked, feld, [feld] { feld->blaettern(1); });
   feld->wenn_gezeigt = [feld, jahr, tag] {
-    jahr->setText(QString::number(feld->jahr()));
+    jahr->setText("&Jahr " + QString::number(feld->jahr()));
     tag->setText(feld->tag_in_worten());
   };
   ergebnis.widgets[&kalender] = feld;

@@ -1,5 +1,6 @@
 #include "time/uhr_astro.h"
 
+#include <algorithm>
 #include <array>
 
 #include "basis/datum.h"
@@ -47,6 +48,22 @@ const std::array<Pruefung, 8>& Pruefungen() {
       {{4, 5}, &U::Text17, Angehakt<&U::Check2>, hoechstens, "23.00.00"},
   }};
   return tabelle;
+}
+
+bool Betrifft(const Pruefung& p, const Uhr_Astro& f) {
+  return std::ranges::find(p.modi, f.Combo_Astro.position()) != p.modi.end() && p.an(f);
+}
+
+// The field would pass without a message.
+bool Besteht(const Pruefung& p, const Uhr_Astro& f) {
+  const std::string& text = (f.*p.feld).text();
+  if (!Zeittest(text).empty()) return false;
+  switch (p.grenze) {
+    case Pruefung::Grenze::hoechstens: return Zeit_sekunden(text) <= Zeit_sekunden(p.wert);
+    case Pruefung::Grenze::mindestens: return Zeit_sekunden(text) >= Zeit_sekunden(p.wert);
+    case Pruefung::Grenze::keine: break;
+  }
+  return true;
 }
 
 void Ein_aus(Textfeld& feld, bool an) {
@@ -176,6 +193,9 @@ void Uhr_Astro::Verdrahten() {
       Vorschau();
     };
   }
+  for (Textfeld* t : {&Text14, &Text15, &Text16, &Text17, &Text18, &Text19}) {
+    t->wenn_geaendert = [this] { Mitzeichnen(); };
+  }
   Option4.wenn_geaendert = Option5.wenn_geaendert = Slider1.wenn_geaendert = [this] { Vorschau(); };
   Command2.wenn_gedrueckt = [this] { Slider1.setzen(Slider1.wert() - 1); };
   Command3.wenn_gedrueckt = [this] { Slider1.setzen(Slider1.wert() + 1); };
@@ -231,9 +251,7 @@ void Uhr_Astro::Verdrahten() {
 
 bool Uhr_Astro::Uhr_Astro_pruefen() {
   for (const Pruefung& p : Pruefungen()) {
-    bool betroffen = false;
-    for (const int m : p.modi) betroffen |= m == Combo_Astro.position();
-    if (!betroffen || !p.an(*this)) continue;
+    if (!Betrifft(p, *this)) continue;
     Textfeld& feld = this->*p.feld;
     if (!Zeitfeld_pruefen(feld).empty()) return false;
     if (p.grenze == Pruefung::Grenze::hoechstens) Hoechstens(feld, p.wert);
@@ -257,7 +275,17 @@ Schaltregel Uhr_Astro::regel() const {
 Datum Uhr_Astro::tag() const { return Plus_tage({Heute().jahr, 1, 1}, Slider1.wert() - 1); }
 
 void Uhr_Astro::Vorschau() {
-  if (!Uhr_Astro_pruefen()) return;
+  if (Uhr_Astro_pruefen()) Zeichnen();
+}
+
+void Uhr_Astro::Mitzeichnen() {
+  if (std::ranges::all_of(Pruefungen(),
+                          [this](const Pruefung& p) { return !Betrifft(p, *this) || Besteht(p, *this); })) {
+    Zeichnen();
+  }
+}
+
+void Uhr_Astro::Zeichnen() {
   bild_ = Tagesbild_von(regel(), Text14.text(), tag());
   Label2.titel = "Datum: " + Datum_mit_wochentag(tag());
   Label4.titel = std::string(Zeit_wort(tag()));

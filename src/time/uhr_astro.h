@@ -67,7 +67,11 @@ class Uhr_Astro final : public Formular {
   // Enables and empties the fields by their boxes and the offset; shows the frames of the mode.
   void Felder_freigeben();
   void Versatz_gewaehlt();
+  // Checks, and shows the picture of what has passed.
   void Vorschau();
+  // The picture of fields that stand as they are, without a word where one does not.
+  void Mitzeichnen();
+  void Zeichnen();
   void Bestaetigen();
 
   Zeitregel modus() const { return static_cast<Zeitregel>(Combo_Astro.position()); }
