@@ -192,7 +192,7 @@ void Enocean_Definition::Uebernehmen() {
 void Enocean_Definition::Gehoertes_leeren() {
   for (std::size_t r = 0; r < Label3.size(); ++r) {
     Label3[r].titel = Label4[r].titel = Label5[r].titel = nichts;
-    Label3[r].frei = false;  // nothing to take over
+    Label3[r].sperren(true, "Von diesem Empfänger ist noch keine ID angezeigt");
     ProgressBar[r].wert = 0;
   }
 }

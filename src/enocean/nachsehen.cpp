@@ -91,7 +91,7 @@ bool Enocean_Definition::Telegramm_holen(int r, char buchstabe, std::string& ant
 
 void Enocean_Definition::Gehoertes_zeigen(std::size_t r, const std::string& antwort) {
   Label3[r].titel = Mitte(antwort, 11, sender_id_laenge);
-  Label3[r].frei = Ist_sender_id(*Label3[r].titel);
+  Label3[r].sperren(!Ist_sender_id(*Label3[r].titel), "Dieser Empfänger hat keinen Sender gehört");
   const auto wort = Hex_zahl(Mitte(antwort, 19, 4));
   const int pegel = wort ? static_cast<int>(Runden(static_cast<double>(*wort) / 5)) : kein_pegel;
   const bool gehoert = pegel < kein_pegel;

@@ -66,8 +66,8 @@ bool Besteht(const Pruefung& p, const Uhr_Astro& f) {
   return true;
 }
 
-void Ein_aus(Textfeld& feld, bool an) {
-  feld.frei = an;
+void Ein_aus(Textfeld& feld, bool an, const char* grund) {
+  feld.sperren(!an, grund);
   if (!an) feld.setzen("");
 }
 
@@ -140,13 +140,14 @@ void Uhr_Astro::Felder_freigeben() {
     e->frei = Mit_sonne(m);
   }
 
-  Ein_aus(Text15, !ohne_versatz());
-  Ein_aus(Text16, Check1.an());
-  Ein_aus(Text17, Check2.an());
-  Ein_aus(Text18, Check3.an());
-  Ein_aus(Text19, Check4.an());
-  Option4.frei = Check1.an();
-  Option5.frei = Check2.an();
+  constexpr const char* ankreuzen = "Zuerst das Kästchen davor ankreuzen";
+  Ein_aus(Text15, !ohne_versatz(), "Zuerst 'Früher' oder 'Später' wählen");
+  Ein_aus(Text16, Check1.an(), ankreuzen);
+  Ein_aus(Text17, Check2.an(), ankreuzen);
+  Ein_aus(Text18, Check3.an(), ankreuzen);
+  Ein_aus(Text19, Check4.an(), ankreuzen);
+  Option4.sperren(!Check1.an(), ankreuzen);
+  Option5.sperren(!Check2.an(), ankreuzen);
 }
 
 void Uhr_Astro::Modus_gewaehlt() {

@@ -122,7 +122,7 @@ Wetterlogik::Wetterlogik(int adresse, Funktionen_oeffnen funktionen)
     const Beschaeftigt still(*this);
     TabStrip1.setzen(0);
   }
-  Bedingungen_schliessen();
+  Bedingungen_tauschen(false);
   Laden();
 }
 
@@ -321,7 +321,7 @@ void Wetterlogik::Bedingungen_verdrahten() {
   Command10.wenn_gedrueckt = [this] { Wetterwerte_anzeigen(); };
   Command3.wenn_gedrueckt = [this] { Bedingungen_uebernehmen(); };
   Command4.wenn_gedrueckt = [this] {
-    Bedingungen_schliessen();
+    Bedingungen_tauschen(false);
     Zusammenfassung_zeigen();
   };
   Command3.standard = true;
@@ -330,15 +330,15 @@ void Wetterlogik::Bedingungen_verdrahten() {
 // The conditions take the place of the function: nothing else can be left or closed until they are done.
 void Wetterlogik::Bedingungen_oeffnen() {
   Wetterwerte_leeren();
-  Frame1.sichtbar = true;
-  Frame2.sichtbar = false;
-  TabStrip1.frei = Command1.frei = Command2.frei = false;
+  Bedingungen_tauschen(true);
 }
 
-void Wetterlogik::Bedingungen_schliessen() {
-  Frame1.sichtbar = false;
-  Frame2.sichtbar = true;
-  TabStrip1.frei = Command1.frei = Command2.frei = true;
+void Wetterlogik::Bedingungen_tauschen(bool offen) {
+  Frame1.sichtbar = offen;
+  Frame2.sichtbar = !offen;
+  for (Steuerelement* e : std::initializer_list<Steuerelement*>{&TabStrip1, &Command1, &Command2}) {
+    e->sperren(offen, "Zuerst die Prüfbedingungen übernehmen oder abbrechen");
+  }
 }
 
 void Wetterlogik::Bedingungen_uebernehmen() {
@@ -347,7 +347,7 @@ void Wetterlogik::Bedingungen_uebernehmen() {
     Schreiben((projekt.*b.vergleich)[funktion_], Combo1[z]);
     if (z < wettersensoren) Schreiben((projekt.*b.schwelle)[funktion_], Text1[z].text());
   }
-  Bedingungen_schliessen();
+  Bedingungen_tauschen(false);
   Zusammenfassung_zeigen();
   Reiter_beschriften();
 }

@@ -86,7 +86,7 @@ class Wetterlogik final : public Formular {
 
   void Bedingungen_oeffnen();
   void Bedingungen_uebernehmen();
-  void Bedingungen_schliessen();
+  void Bedingungen_tauschen(bool offen);
   void Vergleich_anzeigen(std::size_t zeile);
   void Schwelle_anzeigen(std::size_t sensor);
   void Wetterwerte_anzeigen();
