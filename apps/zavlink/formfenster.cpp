@@ -37,6 +37,14 @@ QSettings Fenstergroessen() {
   return QSettings(QSettings::IniFormat, QSettings::UserScope, "ZAVlink", "Fenster");
 }
 
+// The button that Enter presses now; nullptr when there is none.
+QPushButton* Vorgabeknopf(const QWidget& fenster) {
+  const auto knoepfe = fenster.findChildren<QPushButton*>();
+  const auto k = std::ranges::find_if(
+      knoepfe, [](const QPushButton* b) { return b->isDefault() && b->isVisible() && b->isEnabled(); });
+  return k == knoepfe.end() ? nullptr : *k;
+}
+
 }  // namespace
 
 Formfenster::Formfenster(Formular& f, QWidget* eltern)
@@ -162,6 +170,9 @@ void Formfenster::showEvent(QShowEvent* e) {
   // Fields that only show are no place to begin.
   if (fokuswunsch_ != 0) return;
   focusNextChild();
+  // Where no field asks to be filled, Enter belongs to the default button.
+  QPushButton* const vorgabe = Vorgabeknopf(*this);
+  if (vorgabe != nullptr && qobject_cast<QPushButton*>(focusWidget()) != nullptr) vorgabe->setFocus();
   const auto* const wahl = qobject_cast<QRadioButton*>(focusWidget());
   if (wahl != nullptr && wahl->group() != nullptr && wahl->group()->checkedButton() != nullptr) {
     wahl->group()->checkedButton()->setFocus();
@@ -197,16 +208,14 @@ void Formfenster::keyPressEvent(QKeyEvent* e) {
 // The field that is being edited finishes before the default button is pressed. Where that brings a
 // complaint, the button is not pressed.
 void Formfenster::enter_im_feld(QWidget& feld, QKeyEvent& e) {
-  const auto knoepfe = findChildren<QPushButton*>();
-  const auto vorgabe = std::ranges::find_if(
-      knoepfe, [](const QPushButton* k) { return k->isDefault() && k->isVisible() && k->isEnabled(); });
+  QPushButton* const vorgabe = Vorgabeknopf(*this);
   const unsigned wuensche = form_.fokuswunsch();
   const int unterbrechungen = unterbrechungen_;
   const QPointer<QWidget> lebt(&feld);
-  if (vorgabe != knoepfe.end()) (*vorgabe)->setFocus();
+  if (vorgabe != nullptr) vorgabe->setFocus();
   else feld.clearFocus();
   if (form_.fokuswunsch() != wuensche) return;
-  if (unterbrechungen_ == unterbrechungen && vorgabe != knoepfe.end()) {
+  if (unterbrechungen_ == unterbrechungen && vorgabe != nullptr) {
     auffrischer_->nachholen();
     QDialog::keyPressEvent(&e);
   }

@@ -1,5 +1,6 @@
 #include "shell/haupt.h"
 
+#include <algorithm>
 #include <cstdlib>
 #include <filesystem>
 #include <system_error>
@@ -225,6 +226,7 @@ void Haupt::Zuletzt_zeigen() {
     Zuletzt[n].hinweis = eintrag + ".zav öffnen";
     Zuletzt[n].sichtbar = da;
   }
+  Label_zuletzt.sichtbar = std::ranges::any_of(Zuletzt, [](const Taste& t) { return *t.sichtbar; });
 }
 
 void Haupt::Notizen_geaendert() {
