@@ -18,7 +18,6 @@
 #include <QTabBar>
 #include <QTableView>
 #include <QTest>
-#include <QTextDocument>
 #include <QToolTip>
 #include <QTreeWidget>
 #include <QTreeWidgetItemIterator>
@@ -187,7 +186,9 @@ std::optional<QString> Gezeigt(const QWidget& w) {
     return b->currentItem() == nullptr ? QString() : b->currentItem()->data(0, Qt::UserRole).toString();
   }
   if (const auto* const g = w.findChild<const QButtonGroup*>()) return QString::number(g->checkedId());
-  if (const auto* const s = qobject_cast<const QLabel*>(&w)) return s->text();
+  if (const auto* const s = qobject_cast<const QLabel*>(&w))
+    return s->pixmap().isNull() ? s->text()
+                                : s->accessibleName();  // a symbol is seen, its words are read aloud
   return std::nullopt;
 }
 
@@ -327,9 +328,7 @@ TEST_F(Alle_fenster, ZeigenMarkierungenAlsText) {
   int gesehen = 0;
   const auto pruefen = [&gesehen](const QString& tipp) {
     gesehen += tipp.contains("img");
-    QTextDocument bild;
-    bild.setHtml(tipp);
-    EXPECT_TRUE(!Qt::mightBeRichText(tipp) || bild.toPlainText().contains("<img")) << S(tipp);
+    EXPECT_FALSE(Qt::mightBeRichText(tipp) && tipp.contains("<img")) << S(tipp);
   };
   for (const Schaustueck& stueck : Formenschau()) {
     SCOPED_TRACE(stueck.name);

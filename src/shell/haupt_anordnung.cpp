@@ -64,7 +64,7 @@ void Haupt::Elemente_anmelden() {
 
 Anordnung Haupt::anordnung() {
   return Spalte(
-      Menue("Date&i", mnuNeu, mnuOeffnen, Feder(), mnuSpeichern, mnuSpeichern_unter, Feder(), mnuBeenden),
+      Menue("D&atei", mnuNeu, mnuOeffnen, Feder(), mnuSpeichern, mnuSpeichern_unter, Feder(), mnuBeenden),
       Menue("&GlasZAV", neustartlist, protokoll, backref_command, mnu_ResetMaster),
       Menue("&Werkzeuge", Sonderfunktionen, start_storentimer, Sonnenrechner, Touchpanel_Mnu, IP_Kameras_Mnu,
             Update, System_Optionen),
