@@ -1,6 +1,7 @@
 #include "zavlink/hauptansicht.h"
 
 #include <QPainter>
+#include <QStackedWidget>
 #include <QVBoxLayout>
 
 #include "zavlink/farben.h"
@@ -62,7 +63,9 @@ QWidget* Hauptansicht_bauen(const Anordnung& a, Auffrischer& auf, QWidget* elter
   spalte->setContentsMargins(0, 0, 0, 0);
   spalte->setSpacing(0);
 
-  auto* const ansicht = new QWidget(w);
+  // One of the two at a time, in one place: the window keeps its size.
+  auto* const stapel = new QStackedWidget(w);
+  auto* const ansicht = new QWidget(stapel);
   auto* const reihe = new QHBoxLayout(ansicht);
   reihe->setContentsMargins(0, 0, 0, 0);
   reihe->setSpacing(0);
@@ -72,20 +75,20 @@ QWidget* Hauptansicht_bauen(const Anordnung& a, Auffrischer& auf, QWidget* elter
   Fuellen(*blatt, Teil_bauen(befehle.kinder.at(1), auf, blatt, g), blattrand, seitenrand);
   reihe->addWidget(seite);
   reihe->addWidget(blatt, 1);
-  g.widgets[befehle.element] = ansicht;
-  auf.binden(*befehle.element, [ansicht, rahmen = befehle.element] { Gemeinsames(*ansicht, *rahmen); });
-
-  auto* const terminal = new QWidget(w);
+  auto* const terminal = new QWidget(stapel);
   terminal->setProperty(handbuchstelle, "Terminal");
   Fuellen(*terminal, Teil_bauen(a.kinder.at(1), auf, terminal, g), blattrand, seitenrand);
-  auf.binden(*a.kinder.at(1).element,
-             [terminal, rahmen = a.kinder.at(1).element] { terminal->setVisible(rahmen->sichtbar); });
+  stapel->addWidget(ansicht);
+  stapel->addWidget(terminal);
+  g.widgets[befehle.element] = ansicht;
+  auf.binden(*befehle.element, [=, rahmen = befehle.element] {
+    stapel->setCurrentWidget(rahmen->sichtbar ? ansicht : terminal);
+  });
 
   auto* const fuss = new Feld(w, QPalette::Window, Qt::TopEdge);
   Fuellen(*fuss, Teil_bauen(a.kinder.at(2), auf, fuss, g), seitenrand, raster);
 
-  spalte->addWidget(ansicht, 1);
-  spalte->addWidget(terminal, 1);
+  spalte->addWidget(stapel, 1);
   spalte->addWidget(fuss);
   g.randlos = true;
   return w;

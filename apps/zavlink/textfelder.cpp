@@ -196,7 +196,8 @@ QWidget* Absatz_bauen(Textfeld& t, Auffrischer& auf, QWidget* eltern) {
   auto* const w = new Absatzfeld(t, eltern);
   if (t.festbreit) {
     w->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
-    w->setLineWrapMode(QPlainTextEdit::NoWrap);
+    // A drawing has a width and keeps its lines; those of a log wrap.
+    if (t.breite != 0) w->setLineWrapMode(QPlainTextEdit::NoWrap);
   }
   QObject::connect(w, &QPlainTextEdit::textChanged, w, [&t, w] {
     if (!t.nur_lesen) Handeln(t, [&] { t.eingeben(S(w->toPlainText().replace("\n", "\r\n"))); });

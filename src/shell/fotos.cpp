@@ -63,6 +63,7 @@ Fotos::Fotos() : Formular("Fotos", "Schemas") {
   List1.wenn_geaendert = [this] { Zeigen(); };
   Text1.nur_lesen = true;
   Text1.mehrzeilig = Text1.festbreit = true;
+  Text1.breite = 56;
   Command1.wenn_gedrueckt = [this] { List1.setzen(List1.position() - 1); };
   Command2.wenn_gedrueckt = [this] { List1.setzen(List1.position() + 1); };
   OK.wenn_gedrueckt = [this] { schliessen(); };
