@@ -1,6 +1,7 @@
 #include "app/ip_kameras.h"
 
 #include <algorithm>
+#include <unordered_set>
 #include <utility>
 
 #include "basis/melder.h"
@@ -138,8 +139,9 @@ void IP_Kameras::Verdrahten() {
 void IP_Kameras::Tasten_sammeln() {
   std::vector<std::string> namen{"-"};
   tasten_ = {0};
+  std::unordered_set<int> da{0};
   const auto aufnehmen = [&](int ereignis, const std::string& wo) {
-    if (ereignis == 0 || std::ranges::find(tasten_, ereignis) != tasten_.end()) return;
+    if (!da.insert(ereignis).second) return;
     tasten_.push_back(ereignis);
     namen.push_back(Taste_in_worten(ereignis, wo));
   };
