@@ -1,10 +1,15 @@
 // A project file can hold any number where an address, a type or a time belongs. What is made of such a
-// project may be wrong, but nothing stops: neither a transfer nor any window.
+// project may be wrong, but nothing stops: neither a transfer nor a report nor any window.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <random>
 #include <type_traits>
 
+#include "app/app_eigenschaften_seite.h"
+#include "app/deskriptor.h"
+#include "app/ip_kameras.h"
+#include "app/zavapp_form.h"
 #include "editor/actmask.h"
 #include "editor/actmask_init.h"
 #include "editor/actmask_timer.h"
@@ -17,13 +22,20 @@
 #include "editor/ereignissuche.h"
 #include "editor/timer_trepp.h"
 #include "editor/touchpanel_referenz.h"
+#include "enocean/enocean_definition.h"
+#include "enocean/enocean_send.h"
 #include "form/drehbuch.h"
+#include "shell/bericht.h"
+#include "shell/storentimer.h"
 #include "store/felder.h"
+#include "store/kennzahlen.h"
 #include "store/projektdatei.h"
 #include "time/form_setup_uhr.h"
 #include "time/uhr.h"
 #include "time/uhr_astro.h"
 #include "transfer/plan.h"
+#include "weather/wetterdisplay.h"
+#include "weather/wetterlogik.h"
 
 namespace zav {
 namespace {
@@ -37,9 +49,9 @@ i16 Boese_zahl(std::mt19937& zufall) {
 }
 str Boeser_text(std::mt19937& zufall) {
   static const str texte[] = {
-      "",         "0",        "-1",         "1",        "256",          "99999999999",        "640",
-      "24.00.00", "99:99:99", "31.02.20",   "00.00.00", "\x1b[2J",      "Untergang + Zufall", "ä",
-      "12",       "6.6.",     "29.02.2027", "FFFFFFFF", "Zeit + Zufall"};
+      "",         "0",        "-1",         "1",        "256",           "99999999999",        "640",
+      "24.00.00", "99:99:99", "31.02.20",   "00.00.00", "\x1b[2J",       "Untergang + Zufall", "ä",
+      "12",       "6.6.",     "29.02.2027", "FFFFFFFF", "Zeit + Zufall", "2147483647"};
   return zufall() % 40 == 0 ? str(5000, 'x') : texte[zufall() % std::size(texte)];
 }
 
@@ -77,7 +89,7 @@ void Oeffnen(A... argumente) {
   form.anordnung();
 }
 
-TEST(Feindliches_projekt, HaeltWederSendenNochFensterAn) {
+TEST(Feindliches_projekt, HaeltWederSendenNochBerichteNochFensterAn) {
   for (const unsigned saat : {1U, 2U, 3U}) {
     SCOPED_TRACE(saat);
     projekt = Feindlich(saat);
@@ -95,6 +107,28 @@ TEST(Feindliches_projekt, HaeltWederSendenNochFensterAn) {
     Oeffnen<Dialog_Kombination>("7", 1);
     Oeffnen<Uhr>();
     Oeffnen<Form_Setup_uhr>();
+    for (const int a : {0, 252}) Oeffnen<Wetterlogik>(a, [](int, const std::string&) {});
+    Oeffnen<Wetterdisplay>();
+    for (const int a : {0, 4095}) Oeffnen<Enocean_Definition>(a);
+    Oeffnen<Enocean_Send>();
+    for (const int a : {0, 4080}) Oeffnen<App_eigenschaften_seite>(a, 3);
+    Oeffnen<IP_Kameras>();
+    Oeffnen<ZAVapp_Form>();
+    Oeffnen<Storentimer>();
+    projekt.Ein_relais = {};
+    projekt.Ein_dimmer = {};
+    projekt.Uhr_relais = {};
+    projekt.Uhr_dimmer = {};
+    projekt.Tev_relais = {};
+    projekt.Tev_dimmer = {};
+    std::ranges::fill(projekt.Ein_relais.zeile(0), i16{1});
+    for (int a = 0; a < apparate; ++a) {
+      projekt.App_text[a] = "0";
+      projekt.App_text2[a] = "256";
+    }
+    EXPECT_LT(Bericht().size(), std::size_t{200} << 20) << "a report is no longer than its project";
+    EXPECT_NE(App_xml_bauen(projekt), "");
+    EXPECT_LE(Kennzahlen_von(projekt).adressen, apparate * adressen);
     {
       Einmask8 maske;
       const auto knoten = maske.TreeView1.knoten();

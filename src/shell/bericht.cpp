@@ -117,9 +117,16 @@ void Kopf(Tabelle& t) {
 
 // ---- inputs -----------------------------------------------------------------------------------------------
 
+// A damaged file may give each device all addresses. No device has more events than that, and what an event
+// does is told with two devices, as many as share an address at a thermostat: the report stays as long as the
+// project.
+constexpr int ereignisse_hoechstens = 24;
+constexpr int apparate_je_ereignis = 2;
+
 // Marks the addresses that devices hold.
 std::array<bool, adressen> Kombinationen(Tabelle& t, const std::vector<std::string>& leds) {
   std::array<bool, adressen> belegt{};
+  std::array<int, eingangsereignisse> genannt{};
   t.Titel("Kombinationen");
   t.Zeile({"Geschoss", "Raum", "Platz", "Apparat", "Adresse", "Eingänge", "Taste", "Text", "LED", "Ausgang",
            "Bezeichnung", "Funktion"});
@@ -134,7 +141,7 @@ std::array<bool, adressen> Kombinationen(Tabelle& t, const std::vector<std::stri
       t.Zeile(kopf);
       continue;
     }
-    for (int j = 0; j < lauf->ereignisse(); ++j) {
+    for (int j = 0; j < std::min(lauf->ereignisse(), ereignisse_hoechstens); ++j) {
       const int adresse = lauf->von + j / 4;
       const int n = Slot_von_versatz(art->typ, j);
       const int textslot = Apparat_textslot(projekt, d, n);
@@ -145,7 +152,12 @@ std::array<bool, adressen> Kombinationen(Tabelle& t, const std::vector<std::stri
       zeile.insert(zeile.end(), {"i" + std::to_string(adresse), Gruppenart(adresse), std::to_string(j + 1),
                                  text, Led(leds, led)});
       belegt.at(static_cast<std::size_t>(adresse)) = true;
-      Wirkungszeilen(t, zeile, Ereignisart::Eingang, lauf->erstes_ereignis() + j, text.empty());
+      const int ereignis = lauf->erstes_ereignis() + j;
+      if (++genannt.at(static_cast<std::size_t>(ereignis)) > apparate_je_ereignis) {
+        t.Zeile(zeile);
+      } else {
+        Wirkungszeilen(t, zeile, Ereignisart::Eingang, ereignis, text.empty());
+      }
     }
   }
   return belegt;

@@ -4,7 +4,7 @@
 #include <set>
 #include <vector>
 
-#include "basis/zahl.h"
+#include "store/katalog.h"
 
 namespace zav {
 
@@ -40,7 +40,7 @@ Kennzahlen Kennzahlen_von(const Projekt& p) {
   for (std::size_t a = 0; a < p.App_typ.groesse; ++a) {
     if (p.Komb_text[a / plaetze].empty()) continue;  // what such a slot holds is in no file
     if (p.App_typ[a] != apparat_leer) ++k.apparate;
-    if (!p.App_text[a].empty()) k.adressen += Zahl_lesen(p.App_text2[a]).value_or(0);
+    k.adressen += Apparat_adressen(p, static_cast<int>(a)).value_or(Adresslauf{}).anzahl;
     if (!p.App_enocean_id[a].empty()) ++k.funksender;
   }
   std::set<str> geschosse(p.Komb_text.alle().begin(), p.Komb_text.alle().end());
