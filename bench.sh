@@ -56,4 +56,7 @@ Oeffnen_und_OK|Zeit|<=|150
 Suchen|Zeit|<=|150
 Editor_oeffnen_und_schliessen|Zeit|<=|150
 Deskriptor|build_ms|<=|50
+Starten|ms|<=|400
+Laengste_oeffnung|Zeit|<=|150
+Laengster_halt|Zeit|<=|50
 ZIELE

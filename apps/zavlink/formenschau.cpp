@@ -161,6 +161,8 @@ std::vector<Schaustueck> Formenschau() {
       {"schaltzeit", Stueck<Uhr_Astro>(uhr_sonne, std::string("Aussenlicht"), std::string("Untergang"))},
       {"schaltzeit-fest", Stueck<Uhr_Astro>(0, std::string("Storen auf"), std::string("06.30.00"))},
       {"sonnen-info", Stueck<Uhr_Astro_Rechner>()},
+      {"sonnen-info-kalender",
+       Stueck_nach<Uhr_Astro_Rechner>([](Uhr_Astro_Rechner& f) { f.Command2.druecken(); })},
       {"wetterlogik", Stueck<Wetterlogik>(wetter, Funktionen_oeffnen{})},
       {"pruefbedingungen",
        Stueck_nach<Wetterlogik>([](Wetterlogik& f) { f.Command2.druecken(); }, wetter, Funktionen_oeffnen{})},
