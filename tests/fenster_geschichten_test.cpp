@@ -1,7 +1,9 @@
 // Stories through the real widgets of the window program, as a person clicks and types, against a simulated
 // master.
 #include <QLineEdit>
+#include <QPlainTextEdit>
 #include <QProgressBar>
+#include <QScrollBar>
 
 #include "fenster_hilfen.h"
 #include "fenster_schritte.h"
@@ -120,6 +122,17 @@ TEST_F(Geschichte, EinTagMitDemBeispielhaus) {
   schritt("Uhr", "close the clocks", [](Formfenster& f) { Klick(f, "OK"); });
   schritte.antworten("Bitte wenn nötig den Schaltuhr-Sequenzer anpassen", "OK");
 
+  schritt("Haupt", "set the clock", [](Formfenster& f) { Klick(f, "Command5"); });
+  schritt("Uhrseite", "press Enter in a wrong time", [](Formfenster& f) {
+    Tippen(f, "Akt_zeit", "25.70");
+    QTest::keyClick(&Teil(f, "Akt_zeit"), Qt::Key_Return);
+  });
+  schritte.antworten("Eingabe in Stunden, Minuten und Sekunden im Format HH.MM.SS oder HH.MM", "OK");
+  schritt("Uhrseite", "leave: nothing was sent, the field asks again", [](Formfenster& f) {
+    EXPECT_EQ(Teil<QLineEdit>(f, "Akt_zeit").text(), "00.00.00");
+    QTest::keyClick(&f, Qt::Key_Escape);
+  });
+
   schritt("Haupt", "save by keyboard and open the transfer", [](Formfenster& f) {
     EXPECT_EQ(sitzung.Projekt_geaendert, 1);
     QTest::keyClick(&f, Qt::Key_S, Qt::ControlModifier);
@@ -153,7 +166,21 @@ TEST_F(Geschichte, EinTagMitDemBeispielhaus) {
       },
       [&](Formfenster& f) { return protokoll(f).find("F00") != std::string::npos; });
   schritt(
-      "Haupt", "see it in the log, leave", [](Formfenster& f) { Klick(f, "Command7"); },
+      "Haupt", "see it in the log, scroll up while more comes, leave",
+      [](Formfenster& f) {
+        auto& anzeige = Teil<QPlainTextEdit>(f, "Terminal_Fenster");
+        auto& text = static_cast<Haupt&>(f.formular()).Terminal_Fenster;
+        const QScrollBar& balken = *anzeige.verticalScrollBar();
+        for (int n = 0; n < 100; ++n) text.anhaengen("K000 T1 -/-\r\n");
+        f.nachholen();
+        EXPECT_EQ(balken.value(), balken.maximum()) << "the log is followed";
+        anzeige.verticalScrollBar()->setValue(0);
+        text.anhaengen("K000 T2 -/-\r\n");
+        f.nachholen();
+        EXPECT_EQ(balken.value(), 0) << "whoever reads further up is left there";
+        EXPECT_TRUE(anzeige.toPlainText().endsWith("K000 T1 -/-\nK000 T2 -/-\n"));
+        Klick(f, "Command7");
+      },
       [&](Formfenster& f) { return protokoll(f).find("K200 T3 ---") != std::string::npos; });
   schritt(
       "Haupt", "end the program", [](Formfenster& f) { QTest::keyClick(&f, Qt::Key_Q, Qt::ControlModifier); },
