@@ -209,9 +209,10 @@ void Enocean_Definition::schliessen_wuenschen() {
 
 Anordnung Enocean_Definition::anordnung() {
   Anordnung raster = Raster(6, Alle(Label2), Zeilenweise(Check1, Text2, Label3, ProgressBar, Label4, Label5));
-  return Spalte(Zeile(Spalte(ID_Text, Key_Text, Label1, Option1, Text1),
-                      Gruppe(Frame1, std::move(raster), Zeile(Command5, Check2, Check3))),
-                Knopfzeile(Command1, Command2));
+  return Spalte(
+      Zeile(Spalte(ID_Text, Key_Text, Label1, Option1, Text1),
+            Gruppe(Frame1, std::move(raster), Zeile(Command5, Feder()), Zeile(Check2, Check3, Feder()))),
+      Knopfzeile(Command1, Command2));
 }
 
 }  // namespace zav
