@@ -111,7 +111,7 @@ QWidget* Taste_bauen(Taste& t, Auffrischer& auf, QWidget* eltern) {
   auf.binden(t, [&t, w] {
     Gemeinsames(*w, t);
     w->setText(Q(*t.titel) + Marken(t));
-    if (!t.bild.empty()) w->setIcon(Symbolbild(t.bild));
+    if (!t.bild.empty()) w->setIcon(Symbolbild(t.bild, *t.farbe != Farbe::normal));
     Einfaerben(*w, t.farbe);
   });
   if (t.bild.starts_with("layout-")) {

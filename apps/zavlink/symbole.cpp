@@ -11,6 +11,7 @@
 #include <string_view>
 
 #include "zavlink/apparatbild.h"
+#include "zavlink/farben.h"
 #include "zavlink/qt_text.h"
 
 namespace zav::fenster {
@@ -124,10 +125,10 @@ void Symbol_malen(QPainter& p, const QRectF& r, std::string_view name, const QCo
   QSvgRenderer(svg.toUtf8()).render(&p, r);
 }
 
-QIcon Symbolbild(const std::string& name) {
+QIcon Symbolbild(const std::string& name, bool auf_farbe) {
   static QHash<QString, QIcon> fertige;
   const QPalette palette = QApplication::palette();
-  const QColor linie = palette.color(QPalette::WindowText);
+  const QColor linie = auf_farbe ? Farbe_schrift() : palette.color(QPalette::WindowText);
   const QString schluessel = Q(name) + linie.name();
   if (const auto i = fertige.constFind(schluessel); i != fertige.constEnd()) return *i;
   const QColor akzent = palette.color(QPalette::Highlight);
