@@ -163,6 +163,7 @@ TEST_F(Update, LineThatBreaksDownWhileWaitingEndsTheRun) {
 
 TEST_F(Update, OverADeviceServerInSixSteps) {
   BRAUCHT_SER2NET();
+  Zeitraffer_setzen(10);  // a third process carries each byte
   Master();
   const Geraeteserver server(ordner, sim->pty_name());
   einstellungen.Host_ip = server.adresse;
