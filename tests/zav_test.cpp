@@ -4,11 +4,9 @@
 #include <sys/resource.h>
 #include <sys/wait.h>
 
-#include <array>
 #include <csignal>
 #include <cstdlib>
 #include <filesystem>
-#include <fstream>
 #include <nlohmann/json.hpp>
 #include <set>
 #include <sstream>
@@ -16,6 +14,7 @@
 
 #include "basis/text.h"
 #include "befehlszeile.h"
+#include "hilfen.h"
 #include "klartext.h"
 #include "platform/einstellungen.h"
 #include "platform/ports.h"
@@ -36,13 +35,6 @@ struct Ergebnis {
 
 class Zav : public testing::Test {
  protected:
-  void SetUp() override {
-    ordner = fs::temp_directory_path() / ("zav_test." + std::to_string(getpid()));
-    fs::create_directories(ordner);
-    setenv("XDG_CONFIG_HOME", ordner.c_str(), 1);
-  }
-  void TearDown() override { fs::remove_all(ordner); }
-
   // Runs one call in this process. With `tippt` a person sits at the terminal and types that.
   Ergebnis zav(std::vector<std::string> argumente, const char* tippt = nullptr) {
     std::istringstream ein(tippt == nullptr ? "" : tippt);
@@ -52,13 +44,10 @@ class Zav : public testing::Test {
     return {status, aus.str(), fehler.str()};
   }
 
-  std::string pfad(const std::string& name) const { return (ordner / name).string(); }
-  std::string lesen(const std::string& name) const {
-    std::ifstream d(pfad(name), std::ios::binary);
-    return {std::istreambuf_iterator<char>(d), {}};
-  }
+  std::string pfad(const std::string& name) const { return ordner / name; }
+  std::string lesen(const std::string& name) const { return Dateibytes(pfad(name)); }
   void schreiben(const std::string& name, const std::string& bytes) const {
-    std::ofstream(pfad(name), std::ios::binary) << bytes;
+    Datei_anlegen(pfad(name), bytes);
   }
   Projekt projekt_in(const std::string& name) const {
     Projekt p;
@@ -77,14 +66,16 @@ class Zav : public testing::Test {
     schreiben(name, Projekt_schreiben(p));
   }
 
-  fs::path ordner;
+  Testordner ordner;
 };
 
 class Zav_mit_master : public Zav {
  protected:
-  void SetUp() override {
-    Zav::SetUp();
-    master.start();
+  Zav_mit_master() { master.start(); }
+  // A call to the master over the network.
+  Ergebnis am_master(std::vector<std::string> argumente, const char* tippt = nullptr) {
+    argumente.insert(argumente.begin(), {"--tcp", tcp()});
+    return zav(std::move(argumente), tippt);
   }
   std::string tcp() const { return "127.0.0.1:" + std::to_string(master.tcp_port()); }
 
@@ -111,8 +102,7 @@ TEST_F(Zav, WrongUseIsTwoWithAGermanReason) {
   struct Fall {
     std::vector<std::string> argumente;
     std::string grund;
-  };
-  const std::vector<Fall> faelle{
+  } const faelle[] = {
       {{}, "Es fehlt ein Befehl."},
       {{"sende", "haus"}, "Unbekannter Befehl: sende"},
       {{"senden"}, "Es fehlt: DATEI"},
@@ -139,7 +129,7 @@ TEST_F(Zav, WrongUseIsTwoWithAGermanReason) {
     EXPECT_EQ(e.fehler, f.grund + "\nzav --hilfe zeigt alle Befehle und Optionen.\n");
     EXPECT_EQ(e.aus, "");
   }
-  EXPECT_TRUE(fs::is_empty(ordner)) << "nothing was touched";
+  EXPECT_TRUE(fs::is_empty(ordner.pfad())) << "nothing was touched";
 }
 
 TEST_F(Zav, HelpIsOnStandardOutputAndEveryCommandHasAnExample) {
@@ -155,11 +145,11 @@ TEST_F(Zav, HelpIsOnStandardOutputAndEveryCommandHasAnExample) {
     const std::string befehl = zeile.substr(2, zeile.find(' ', 2) - 2);
     const Ergebnis e = zav({befehl, "--hilfe"});
     EXPECT_EQ(e.status, 0);
-    EXPECT_NE(e.aus.find("Aufruf: zav " + befehl), std::string::npos) << e.aus;
-    const auto beispiel = e.aus.find("Beispiel: zav ");
-    ASSERT_NE(beispiel, std::string::npos) << befehl;
-    EXPECT_NE(e.aus.find(befehl, beispiel), std::string::npos);
-    EXPECT_NE(e.aus.find("--heute TT.MM.JJJJ"), std::string::npos) << "options of all commands are told too";
+    for (const std::string& teil :
+         {"Aufruf: zav " + befehl, std::string("Beispiel: zav "), std::string("--heute TT.MM.JJJJ")}) {
+      EXPECT_NE(e.aus.find(teil), std::string::npos) << befehl << " does not tell " << teil;
+    }
+    EXPECT_NE(e.aus.find(befehl, e.aus.find("Beispiel: ")), std::string::npos);
     ++befehle;
   }
   EXPECT_GE(befehle, 8);
@@ -167,7 +157,7 @@ TEST_F(Zav, HelpIsOnStandardOutputAndEveryCommandHasAnExample) {
 
 TEST_F(Zav, PortsAreListedByWhatTheyAreWithTheReasonOfThoseThatDoNotOpen) {
   EXPECT_EQ(zav({"ports"}).status, 0) << "whatever this computer has";
-  Geraeteordner_setzen(ordner);
+  Geraeteordner_setzen(ordner.pfad());
   EXPECT_EQ(zav({"ports"}).fehler, "Dieser Computer hat keine serielle Schnittstelle.\n");
   simulator::Simulator master{{.pty = true}};
   master.start();
@@ -192,19 +182,17 @@ TEST_F(Zav, PortsAreListedByWhatTheyAreWithTheReasonOfThoseThatDoNotOpen) {
 TEST_F(Zav, NewAsksBeforeReplacing) {
   EXPECT_EQ(zav({"neu", pfad("haus"), "--zufall", "1"}).status, 0);
   const std::string erste = lesen("haus.zav");
-  EXPECT_EQ(projekt_in("haus.zav").Datei_version, "910");
   EXPECT_EQ(einstellungen.last_file[0], pfad("haus")) << "last files hold the path without extension";
 
   const std::string frage =
       "[Datei ersetzen] " + pfad("haus.zav") + " besteht bereits. Soll die Datei ersetzt werden?\n";
+  const std::string prompt = " (j = Ja, n = Nein) ";
   struct Fall {
     std::vector<std::string> optionen;
     const char* tippt;
     bool ersetzt;
     std::string prompt;
-  };
-  const std::string prompt = " (j = Ja, n = Nein) ";
-  const std::vector<Fall> faelle{
+  } const faelle[] = {
       {{}, nullptr, false, ""}, {{"--nein"}, nullptr, false, ""},         {{}, "n\n", false, prompt},
       {{}, "", false, prompt},  {{}, "was?\nJ\n", true, prompt + prompt}, {{"--ja"}, nullptr, true, ""}};
   for (const Fall& f : faelle) {
@@ -295,34 +283,21 @@ TEST_F(Zav, JsonHasTheNamesOfTheStoreAndNothingElse) {
   p.Notizen = "erste \"Zeile\"\r\nzweite: Ä";
   p.Ein_relais(5, 29) = 2;
   p.Ein_dimmer(1023, 127, 3) = 15;
-  p.Ein_timer(5, 15) = -3;
   for (const int e : {5, 1023}) p.Ein_leer[e] = 1;
-  p.Ein_param(2, 1) = 7;
-  p.App_eigenschaften(1023, 11) = "29";
   schreiben("haus.zav", Projekt_schreiben(p));
-
   const Ergebnis e = zav({"--json", "zeigen", pfad("haus")});
   ASSERT_EQ(e.status, 0) << e.fehler;
   const auto j = nlohmann::json::parse(e.aus);
-  std::set<std::string> namen;
+  std::set<std::string> namen, gegeben;
   Felder_besuchen(p, [&](const char* name, const auto&) { namen.insert(name); });
-  std::set<std::string> gegeben;
   for (const auto& [name, wert] : j.items()) gegeben.insert(name);
   EXPECT_EQ(gegeben, namen);
 
-  EXPECT_EQ(j["Projekt_name"], pfad("haus"));
   EXPECT_EQ(j["Notizen"], p.Notizen);
-  EXPECT_EQ(j["Store_p1"], 120);
   EXPECT_EQ(j["Ein_leer"].size(), 1024U);
-  EXPECT_EQ(j["Ein_leer"][1023], 1);
   EXPECT_EQ(j["Ein_relais"], nlohmann::json::parse(R"({"5": {"29": 2}})"));
-  EXPECT_EQ(j["Ein_timer"], nlohmann::json::parse(R"({"5": {"15": -3}})"));
   EXPECT_EQ(j["Ein_dimmer"], nlohmann::json::parse(R"({"1023": {"127": [0, 0, 0, 15]}})"));
-  EXPECT_EQ(j["Uhr_dimmer"], nlohmann::json::object());
-  EXPECT_EQ(j["Ein_param"].size(), 8U);
-  EXPECT_EQ(j["Ein_param"][2], nlohmann::json::parse("[1, 7, 0]"));
-  EXPECT_EQ(j["App_eigenschaften"].size(), 1024U);
-  EXPECT_EQ(j["App_eigenschaften"][1023][11], "29");
+  EXPECT_EQ(j["Ein_param"][2], nlohmann::json::parse("[1, 0, 0]"));
   EXPECT_EQ(j["App_eigenschaften"][0].size(), 22U);
 }
 
@@ -332,11 +307,7 @@ TEST_F(Zav, ImagesOfOneDayAndSeedAreEqualAndSayWhatIsMarked) {
   const Ergebnis a = zav(fest);
   ASSERT_EQ(a.status, 0) << a.fehler;
   EXPECT_EQ(a.aus, zav(fest).aus);
-  EXPECT_EQ(a.aus.substr(0, 2), "A ");
-  EXPECT_NE(a.aus.find("\nW 00A800 00A8CB "), std::string::npos) << "relay page of input event 5";
-  EXPECT_NE(a.aus.find("\nW 000800 00081F 0123456789ABCDEF68617573"), std::string::npos)
-      << "stamp with the name \"haus\"";
-
+  EXPECT_NE(a.aus.find("\nW 000800 00081F 0123456789ABCDEF68617573"), std::string::npos) << "the stamp";
   EXPECT_EQ(zav({"--heute", "21.11.2026", "--zufall", "7", "abbild", pfad("haus"), "-o", pfad("x")}).aus, "");
   EXPECT_EQ(lesen("x"), a.aus);
 
@@ -353,38 +324,17 @@ TEST_F(Zav, ImagesOfOneDayAndSeedAreEqualAndSayWhatIsMarked) {
   EXPECT_EQ(j[6]["von"], "006000");
 }
 
+// What they say stands in golden_test.
 TEST_F(Zav, ReportsAreLinesOrLists) {
-  Projekt p;
-  p.Datei_version = "910";
-  p.Komb_typ[0] = 1;
-  p.Komb_text[0] = "Erdgeschoss";
-  p.Komb_text2[0] = "Küche";
-  p.App_typ[0] = 14;
-  p.App_text[0] = "12";
-  p.App_text2[0] = "1";
-  p.Dev_text[2] = "Decke";
-  p.Relais_text[29] = "Küche Decke";
-  p.Ein_relais(4 * 12 + 2, 29) = 4;
-  p.Ein_leer[4 * 12 + 2] = 1;
-  schreiben("haus.zav", Projekt_schreiben(p));
-
-  const std::string treffer = "i12 - Erdgeschoss - Küche: Decke";
-  EXPECT_EQ(zav({"suche", pfad("haus"), "O3-5"}).aus, treffer + "\n");
-  EXPECT_EQ(nlohmann::json::parse(zav({"suche", pfad("haus"), "O3-5", "--json"}).aus),
-            nlohmann::json::array({treffer}));
+  haus_anlegen("haus.zav");
+  EXPECT_EQ(zav({"suche", pfad("haus"), "T4"}).aus, "");
   const Ergebnis nichts = zav({"suche", pfad("haus"), "T4", "--json"});
   EXPECT_EQ(nichts.status, 0);
   EXPECT_EQ(nichts.aus, "[]\n");
-  const std::string referenz = zav({"touchpanel", pfad("haus")}).aus;
-  EXPECT_NE(referenz.find("\nErdgeschoss - Küche\n   Decke ---> GR  C\n"), std::string::npos) << referenz;
   EXPECT_EQ(zav({"suche", pfad("gibtsnicht"), "O3-5"}).status, 1);
-
-  const auto tag = nlohmann::json::parse(zav({"--heute", "29.03.2026", "sonne", "--json"}).aus);
-  EXPECT_EQ(tag["zeit"], "Sommerzeit");
-  EXPECT_EQ(tag["auf_winterzeit"], "25.10.2026");
   EXPECT_NE(zav({"--heute", "28.03.2026", "sonne"}).aus.find("Winterzeit\n"), std::string::npos);
-  EXPECT_EQ(nlohmann::json::parse(zav({"--heute", "01.05.2028", "sonne", "--liste", "--json"}).aus).size(),
-            366U);
+  const std::string liste = zav({"--heute", "01.05.2028", "sonne", "--liste", "--json"}).aus;
+  EXPECT_EQ(nlohmann::json::parse(liste).size(), 366U);
   EXPECT_TRUE(zav({"--heute", "01.05.2028", "sonne", "--liste"})
                   .aus.starts_with("Sonnenauf- und -untergang\nJanuar 2028\n"));
 }
@@ -400,21 +350,17 @@ TEST_F(Zav_mit_master, SendsOverTcpAndOverASerialLine) {
     ASSERT_EQ(e.status, 0) << e.fehler;
     EXPECT_NE(e.fehler.find("F99: Neustart im ZAVmaster war erfolgreich"), std::string::npos);
     EXPECT_EQ(simulator::hex(master.speicher(0x800, 12)), "0123456789ABCDEF68617573");
-    EXPECT_EQ(master.speicher(0x8000 + 5 * 0x800 + 12 + 9, 1)[0], 0)
-        << "pair (3, 2): plane 1 of group 2 is empty";
     EXPECT_EQ(master.speicher(0x8000 + 5 * 0x800 + 12 + 6, 1)[0], 0x20) << "O3-5 on";
     EXPECT_EQ(master.speicher(0x8400 + 7 * 0x800 + 2, 1)[0], 55) << "D0-1 at 55 %";
     EXPECT_FALSE(master.gesperrt());
-    const Projekt p = projekt_in("haus.zav");
-    EXPECT_EQ(p.Ein_funktext[5], 0) << "saved as sent";
-    EXPECT_EQ(p.Uhr_tabelle_geaendert, 0);
+    EXPECT_EQ(projekt_in("haus.zav").Ein_funktext[5], 0) << "saved as sent";
   }
   EXPECT_EQ(einstellungen.Com_art, 0);
 
   // Nothing changed: only what goes with every transfer. The question is answered by --neustart alone.
   master.mitschrift_leeren();
   const int neustarts = master.neustarts();
-  EXPECT_EQ(zav({"--tcp", tcp(), "--nein", "senden", pfad("haus"), "--neustart"}).status, 0);
+  EXPECT_EQ(am_master({"--nein", "senden", pfad("haus"), "--neustart"}).status, 0);
   EXPECT_EQ(master.neustarts(), neustarts + 1);
   int bloecke = 0;
   for (const std::string& m : master.mitschrift()) bloecke += m.starts_with('W') ? 1 : 0;
@@ -423,16 +369,14 @@ TEST_F(Zav_mit_master, SendsOverTcpAndOverASerialLine) {
 
 TEST_F(Zav_mit_master, AFailedTransferKeepsTheMarksOfWhatHasNotGone) {
   haus_anlegen("haus.zav");
-  ASSERT_EQ(zav({"--tcp", tcp(), "--nein", "senden", pfad("haus")}).status, 1)
-      << "another project is in there";
+  ASSERT_EQ(am_master({"--nein", "senden", pfad("haus")}).status, 1) << "another project is in there";
   EXPECT_EQ(projekt_in("haus.zav").Ein_funktext[5], 1);
 
   // The stamp is there, as after an earlier transfer; the eighth page of switching times finds a broken
   // memory.
   master.speicher_setzen(0x800, {0x01, 0x23, 0x45, 0x67, 0x89, 0xAB, 0xCD, 0xEF});
   struct Fall {
-    const char* fehler;
-    const char* text;
+    const char *fehler, *text;
     u8 ein5, ein7;
     i16 tabelle;
   };
@@ -441,11 +385,11 @@ TEST_F(Zav_mit_master, AFailedTransferKeepsTheMarksOfWhatHasNotGone) {
   for (const Fall& f : {Fall{"F03@W10", "F03", 1, 1, 1}, Fall{"trenn@W378", "F98", 0, 1, 0}}) {
     master.fehler_setzen({f.fehler});
     const std::string vorher = lesen("haus.zav");
-    const Ergebnis ohne = zav({"--tcp", tcp(), "--ja", "senden", pfad("haus"), "--nicht-speichern"});
+    const Ergebnis ohne = am_master({"--ja", "senden", pfad("haus"), "--nicht-speichern"});
     EXPECT_EQ(ohne.status, 1);
     EXPECT_EQ(lesen("haus.zav"), vorher);
     master.fehler_setzen({f.fehler});
-    const Ergebnis e = zav({"--tcp", tcp(), "--ja", "senden", pfad("haus")});
+    const Ergebnis e = am_master({"--ja", "senden", pfad("haus")});
     EXPECT_EQ(e.status, 1) << f.fehler;
     EXPECT_NE(e.fehler.find(f.text), std::string::npos) << e.fehler;
     const Projekt p = projekt_in("haus.zav");
@@ -454,7 +398,7 @@ TEST_F(Zav_mit_master, AFailedTransferKeepsTheMarksOfWhatHasNotGone) {
     EXPECT_EQ(p.Uhr_tabelle_geaendert, f.tabelle);
   }
   // The next one completes the rest.
-  EXPECT_EQ(zav({"--tcp", tcp(), "--nein", "senden", pfad("haus")}).status, 0);
+  EXPECT_EQ(am_master({"--nein", "senden", pfad("haus")}).status, 0);
   EXPECT_EQ(projekt_in("haus.zav").Ein_funktext[7], 0);
   EXPECT_EQ(master.speicher(0x8400 + 7 * 0x800 + 2, 1)[0], 55);
 }
@@ -462,25 +406,25 @@ TEST_F(Zav_mit_master, AFailedTransferKeepsTheMarksOfWhatHasNotGone) {
 TEST_F(Zav_mit_master, OldGenerationsAreNeverWritten) {
   const std::string alt = "ZAVlink\r\n700\r\n\r\n\r\n\r\nNotiz\r\n";
   schreiben("alt.zav", alt);
-  EXPECT_EQ(zav({"--tcp", tcp(), "--ja", "senden", pfad("alt"), "--initialisieren"}).status, 1);
+  EXPECT_EQ(am_master({"--ja", "senden", pfad("alt"), "--initialisieren"}).status, 1);
   EXPECT_EQ(lesen("alt.zav"), alt);
 }
 
 TEST_F(Zav_mit_master, AsksVersionRestartsAndSetsTheClock) {
-  const Ergebnis leer = zav({"--tcp", tcp(), "master", "--json"});
+  const Ergebnis leer = am_master({"master", "--json"});
   EXPECT_EQ(nlohmann::json::parse(leer.aus),
             nlohmann::json::parse(R"({"version": "REV 09.04", "projekt": ""})"));
   haus_anlegen("Küche.zav");
-  ASSERT_EQ(zav({"--tcp", tcp(), "--ja", "senden", pfad("Küche"), "--initialisieren"}).status, 0);
-  EXPECT_EQ(zav({"--tcp", tcp(), "master"}).aus, "Version  REV 09.04\nProjekt  Küche\n");
+  ASSERT_EQ(am_master({"--ja", "senden", pfad("Küche"), "--initialisieren"}).status, 0);
+  EXPECT_EQ(am_master({"master"}).aus, "Version  REV 09.04\nProjekt  Küche\n");
 
   const int neustarts = master.neustarts();
   for (const auto& [antwort, status] : {std::pair{"--nein", 1}, {"--ja", 0}}) {
-    EXPECT_EQ(zav({"--tcp", tcp(), antwort, "neustart"}).status, status);
+    EXPECT_EQ(am_master({antwort, "neustart"}).status, status);
   }
   EXPECT_EQ(master.neustarts(), neustarts + 1);
 
-  EXPECT_EQ(zav({"--tcp", tcp(), "--heute", "29.07.2026", "--nein", "uhr", "--umstellung", "1"}).status, 0);
+  EXPECT_EQ(am_master({"--heute", "29.07.2026", "--nein", "uhr", "--umstellung", "1"}).status, 0);
   EXPECT_EQ(master.uhr().substr(6), "1229072600") << "summer time, Wednesday, date";
   EXPECT_EQ(simulator::hex(master.speicher(0x362000, 5)), "01262226F7") << "by dates; 29.03.2026, 25.10.2026";
   EXPECT_EQ(master.neustarts(), neustarts + 1);
@@ -492,33 +436,30 @@ TEST_F(Zav_mit_master, AsksVersionRestartsAndSetsTheClock) {
 
 TEST_F(Zav_mit_master, PressesKeys) {
   for (const char* aktion : {"druecken", "loesen", "kurz"}) {
-    EXPECT_EQ(zav({"--tcp", tcp(), "ereignis", "12", "5", aktion}).status, 0);
+    EXPECT_EQ(am_master({"ereignis", "12", "5", aktion}).status, 0);
   }
   using simulator::Tastenaktion;
-  const auto e = master.ereignisse();
-  ASSERT_EQ(e.size(), 3U);
-  EXPECT_EQ(e[0], (simulator::Ereignis{13, 2, Tastenaktion::druecken}))
-      << "offset 5 is key 2 of the second address";
-  EXPECT_EQ(e[1].aktion, Tastenaktion::loesen);
-  EXPECT_EQ(e[2].aktion, Tastenaktion::kurz);
-  EXPECT_EQ(zav({"--tcp", tcp(), "ereignis", "255", "4", "kurz"}).status, 1) << "beyond the last address";
+  // Offset 5 is key 2 of the second address.
+  EXPECT_EQ(master.ereignisse(), (std::vector<simulator::Ereignis>{{13, 2, Tastenaktion::druecken},
+                                                                   {13, 2, Tastenaktion::loesen},
+                                                                   {13, 2, Tastenaktion::kurz}}));
+  EXPECT_EQ(am_master({"ereignis", "255", "4", "kurz"}).status, 1) << "beyond the last address";
   master.fehler_setzen({"F12@Y"});
-  EXPECT_EQ(zav({"--tcp", tcp(), "ereignis", "12", "0", "kurz"}).status, 1);
+  EXPECT_EQ(am_master({"ereignis", "12", "0", "kurz"}).status, 1);
 }
 
 TEST_F(Zav_mit_master, ReadsTheWeatherStation) {
-  Ergebnis e = zav({"wetter", "--tcp", tcp()});
+  Ergebnis e = am_master({"wetter"});
   EXPECT_EQ(e.status, 0);
   EXPECT_EQ(e.aus,
             "Sonne Ost             31 kLux\nSonne Süd             18 kLux\nSonne West            7 kLux\n"
             "Tageslicht            240 Lux\nAussentemperatur      12.5 °C\nInnentemperatur       21 °C\n"
             "Windgeschwindigkeit   3.4 m/s = 12.2 km/h\nNiederschlag          Trocken\n");
-  EXPECT_EQ(nlohmann::json::parse(zav({"wetter", "--json", "--tcp", tcp()}).aus).at("aussentemperatur"),
-            12.5);
+  EXPECT_EQ(nlohmann::json::parse(am_master({"wetter", "--json"}).aus).at("aussentemperatur"), 12.5);
   simulator::Wetter w;
   w.station = simulator::Station::fehlt;
   master.wetter_setzen(w);
-  e = zav({"wetter", "--tcp", tcp()});
+  e = am_master({"wetter"});
   EXPECT_EQ(e.status, 1);
   EXPECT_EQ(e.aus + e.fehler, "Keine oder defekte Wetterstation\n");
 }
@@ -535,7 +476,7 @@ TEST_F(Zav_mit_master, ProgramsRadioReceiversAndKeepsTheirMarks) {
   p.App_enocean_empf[3] = 5;
   schreiben("funk.zav", Projekt_schreiben(p));
   master.fehler_setzen({"F01@&5"});  // the check of the second receiver
-  Ergebnis e = zav({"enocean", pfad("funk"), "--tcp", tcp()});
+  Ergebnis e = am_master({"enocean", pfad("funk")});
   EXPECT_EQ(e.status, 1);
   EXPECT_EQ(e.fehler, "Fehler 01 bei der Kommunikation.\n");
   Projekt danach = projekt_in("funk.zav");
@@ -543,13 +484,13 @@ TEST_F(Zav_mit_master, ProgramsRadioReceiversAndKeepsTheirMarks) {
   EXPECT_EQ(danach.Enocean_empf_geaendert[5], 1);
 
   master.fehler_setzen({});
-  e = zav({"enocean", pfad("funk"), "--tcp", tcp()});
+  e = am_master({"enocean", pfad("funk")});
   EXPECT_EQ(e.status, 0);
   EXPECT_EQ(e.fehler, "Alle Empfänger sind jetzt aktualisiert.\n");
   EXPECT_EQ(master.empfaengertabelle(5)[3], 0xCD);
   EXPECT_EQ(projekt_in("funk.zav").Enocean_empf_geaendert, (Feld<u8, 16>{}));
   master.empfaengerseite_defekt(2, 3);
-  e = zav({"enocean", pfad("funk"), "--alle", "--tcp", tcp()});
+  e = am_master({"enocean", pfad("funk"), "--alle"});
   EXPECT_EQ(e.status, 1) << "a wrong checksum";
   EXPECT_EQ(projekt_in("funk.zav").Enocean_empf_geaendert, (Feld<u8, 16>{}));
 }
@@ -560,7 +501,7 @@ TEST_F(Zav, WritesTheAppsDescriptorForGeneration910) {
   EXPECT_EQ(zav({"app", pfad("haus"), "-o", pfad("da.xml")}).status, 0);
   EXPECT_TRUE(lesen("da.xml").starts_with("\xEF\xBB\xBF<?xml"));
   const fs::path vorher = fs::current_path();
-  fs::current_path(ordner);
+  fs::current_path(ordner.pfad());
   EXPECT_EQ(zav({"app", "haus"}).status, 0);
   EXPECT_EQ(lesen("zavappdescriptor.xml"), lesen("da.xml"));
   EXPECT_EQ(zav({"app", "haus", "--nein"}).status, 1) << "the file is there already";
@@ -575,10 +516,10 @@ TEST_F(Zav, WritesTheAppsDescriptorForGeneration910) {
 
 TEST_F(Zav, TheEmbeddedMasterLeavesTheSettingsAlone) {
   EXPECT_EQ(zav({"--simulator", "--nein", "uhr", "--umstellung", "2"}).status, 0);
-  EXPECT_FALSE(fs::exists(pfad("ZAVlink/ZAVlink.ini")));
+  EXPECT_FALSE(fs::exists(pfad("einstellungen/ZAVlink/ZAVlink.ini")));
   haus_anlegen("haus.zav");
   EXPECT_EQ(zav({"--simulator", "--ja", "senden", pfad("haus"), "--initialisieren"}).status, 0);
-  const std::string ini = lesen("ZAVlink/ZAVlink.ini");
+  const std::string ini = lesen("einstellungen/ZAVlink/ZAVlink.ini");
   EXPECT_NE(ini.find("last_file_0=" + pfad("haus")), std::string::npos) << ini;
   EXPECT_EQ(ini.find("HostName"), std::string::npos) << "the list of last files alone is written";
 }
@@ -650,9 +591,7 @@ TEST_F(Zav, TheProgramReportsAnOutputThatCannotBeWritten) {
 
 TEST_F(Zav, TheExampleHouseIsWhatItsProgramWrites) {
   ASSERT_EQ(starten(EINFAMILIENHAUS_PROGRAMM " " + pfad("haus.zav")), 0);
-  std::ifstream d(EINFAMILIENHAUS_DATEI, std::ios::binary);
-  const std::string abgelegt{std::istreambuf_iterator<char>(d), {}};
-  EXPECT_TRUE(lesen("haus.zav") == abgelegt)
+  EXPECT_TRUE(lesen("haus.zav") == Dateibytes(EINFAMILIENHAUS_DATEI))
       << "examples/einfamilienhaus.zav is out of date: run the program again";
   EXPECT_EQ(zav({"abbild", pfad("haus")}).fehler, "") << "every value of it fits the master";
 }
@@ -660,7 +599,7 @@ TEST_F(Zav, TheExampleHouseIsWhatItsProgramWrites) {
 // ---- in front of the living system ------------------------------------------------------------------------
 
 TEST_F(Zav_mit_master, ProtokollWritesLinesUntilItsTimeOrCtrlC) {
-  EXPECT_EQ(zav({"--tcp", tcp(), "protokoll", "--liste", "--filter", "O0", "K00", "--dauer", "1"}).aus,
+  EXPECT_EQ(am_master({"protokoll", "--liste", "--filter", "O0", "K00", "--dauer", "1"}).aus,
             "K000 ZAVin\nK001 ZAVin\nO0 ZAVswitch\n");
   master.mitschrift_leeren();
   std::thread haus([this] {
@@ -675,7 +614,7 @@ TEST_F(Zav_mit_master, ProtokollWritesLinesUntilItsTimeOrCtrlC) {
   EXPECT_EQ(e.status, 0);
   EXPECT_EQ(nlohmann::json::parse(e.aus), nlohmann::json({"K007 T3 ---  04.05.2026"}));
   master.fehler_setzen({"F01@I"});
-  EXPECT_EQ(zav({"--tcp", tcp(), "protokoll"}).status, 1);
+  EXPECT_EQ(am_master({"protokoll"}).status, 1);
   EXPECT_EQ(zav({"protokoll", "--dauer", "-1"}).fehler.substr(0, 36), "--dauer: möglich sind 0 bis 1000000");
 }
 
