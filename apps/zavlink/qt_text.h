@@ -16,11 +16,10 @@ inline std::string S(const QString& text) {
   const QByteArray b = text.toUtf8();
   return {b.constData(), static_cast<std::size_t>(b.size())};
 }
-// A tool tip that is never taken for rich text, whatever a file or a master has put into it; long ones wrap.
+// A text for a tip. Qt takes what looks like markup for markup, and the pictures that it names for files to
+// open: texts of a project and of a master stay texts. Labels are told so by Qt::PlainText.
 inline QString Tipp(const QString& text) {
-  static constexpr qsizetype eine_zeile = 60;
-  if (text.size() <= eine_zeile && !Qt::mightBeRichText(text)) return text;
-  return "<qt>" + text.toHtmlEscaped().replace('\n', "<br>") + "</qt>";
+  return Qt::mightBeRichText(text) ? Qt::convertFromPlainText(text) : text;
 }
 // A caption without its mnemonic mark.
 inline QString Ohne_kuerzel(QString text) {
