@@ -21,7 +21,11 @@ std::string Tafel(std::string_view kopf, const std::vector<Zeilenpaar>& zeilen) 
   for (const auto& [links, rechts] : zeilen) breite = std::max(breite, Zeichen_anzahl(links));
   std::string text = "\n" + std::string(kopf) + ":\n";
   for (const auto& [links, rechts] : zeilen) {
-    text += "  " + links + std::string(breite + 2 - Zeichen_anzahl(links), ' ') + rechts + "\n";
+    text.append("  ")
+        .append(links)
+        .append(breite + 2 - Zeichen_anzahl(links), ' ')
+        .append(rechts)
+        .append("\n");
   }
   return text;
 }
