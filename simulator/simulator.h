@@ -1,8 +1,8 @@
 // The simulated master, ready to be embedded: it listens on loopback TCP and on a pseudo-terminal and runs in
 // a thread of its own. All public functions may be called from any thread at any time.
 //
-//   Simulator sim({.pty = true});       // lines are open from here on; std::runtime_error (German) when they
-//   cannot be sim.start();
+//   Simulator sim({.pty = true});  // opens the lines; std::runtime_error (German) when they cannot be opened
+//   sim.start();
 //   ... talk to 127.0.0.1:sim.tcp_port() or to sim.pty_name() ...
 //   EXPECT_EQ(sim.speicher(0x6000, 1)[0], 0xFC);
 //

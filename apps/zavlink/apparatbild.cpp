@@ -94,9 +94,9 @@ Machart Machart_von(const Apparatart& art) {
 }
 
 // The largest type in which the text fits, on one line or on two; what never fits is cut.
-void Text_malen(QPainter& p, const QRectF& r, const QString& text, double groesste) {
-  constexpr double kleinste = 8;
-  for (double hoehe = groesste; hoehe >= kleinste; hoehe -= 1) {
+void Text_malen(QPainter& p, const QRectF& r, const QString& text, int groesste) {
+  constexpr int kleinste = 8;
+  for (int hoehe = groesste; hoehe >= kleinste; --hoehe) {
     p.setFont(Schrift(hoehe));
     const QRectF platz = QFontMetricsF(p.font()).boundingRect(r, Qt::AlignCenter | Qt::TextWordWrap, text);
     if (platz.width() > r.width() || platz.height() > r.height()) continue;
@@ -135,7 +135,7 @@ void Taste_malen(QPainter& p, const QRectF& r, const Apparatbild::Taste& t, bool
     p.drawEllipse(QPointF(r.left() + punkt + 3, hoehe_marken), punkt * 0.8, punkt * 0.8);
   }
   if (r.width() < 20) return;
-  const double groesste = std::clamp(r.height() * 0.3, 9.0, 14.0);
+  const int groesste = std::clamp(static_cast<int>(r.height() * 0.3), 9, 14);
   p.setPen(t.text.isEmpty() ? led : Farbe_schrift());
   const double seite = niedrig && (mit_led || t.belegt) ? 2 * punkt + 5 : 2;
   const double oben = niedrig ? 1 : 2 * punkt + 2;
@@ -233,7 +233,7 @@ void Sender_malen(QPainter& p, const QRectF& r, const Apparatbild& bild) {
   p.setPen(Qt::NoPen);
   for (int zeile = 0; zeile < 5; ++zeile) {
     for (int spalte = 0; spalte < 3; ++spalte) {
-      const auto n = static_cast<std::size_t>(3 * zeile + spalte);
+      const auto n = std::size_t{3} * static_cast<std::size_t>(zeile) + static_cast<std::size_t>(spalte);
       p.setBrush(n < bild.tasten.size() && bild.tasten.at(n).belegt ? Farbe_qt(Farbe::belegt).darker(140)
                                                                     : led);
       p.drawEllipse(QPointF(koerper.left() + koerper.width() * (spalte + 1) / 4,

@@ -140,7 +140,7 @@ Stil::Stil() : QProxyStyle("Fusion") {}
 
 int Stil::pixelMetric(PixelMetric m, const QStyleOption* o, const QWidget* w) const {
   switch (m) {
-    case PM_ButtonIconSize: return 18;
+    case PM_ButtonIconSize:
     case PM_SmallIconSize: return 18;
     case PM_IndicatorWidth:
     case PM_IndicatorHeight:
@@ -238,6 +238,7 @@ void Stil::drawPrimitive(PrimitiveElement e, const QStyleOption* o, QPainter* p,
 
 void Aussehen_setzen(Thema thema) {
   const bool dunkel = thema == Thema::dunkel || (thema == Thema::wie_arbeitsplatz && Dunkel_gewuenscht());
+  // NOLINTNEXTLINE(clang-analyzer-cplusplus.NewDeleteLeaks): the application takes it
   QApplication::setStyle(new Stil);
   QApplication::setPalette(dunkel ? Palette_dunkel() : Palette_hell());
   QLocale::setDefault(QLocale(QLocale::German, QLocale::Switzerland));

@@ -103,12 +103,13 @@ void Handbuch_zeigen(const std::string& form) {
       if (QDesktopServices::openUrl(QUrl::fromLocalFile(gefunden))) return;
     }
   }
-  Melden(gefunden.isEmpty()
-             ? "Das Handbuch ist auf diesem Computer nicht vorhanden. Es gehört zum Paket zavlink; im Quellbaum "
-               "entsteht es mit 'cmake --build build/dev --target handbuch', sein Text steht in docs/handbuch."
-             : "Das Handbuch lässt sich nicht anzeigen, weil kein Webbrowser eingerichtet ist. Es liegt in " +
-                   S(gefunden) + ".",
-         "Handbuch", Symbol::Information);
+  Melden(
+      gefunden.isEmpty()
+          ? "Das Handbuch ist auf diesem Computer nicht vorhanden. Es gehört zum Paket zavlink; im Quellbaum "
+            "entsteht es mit 'cmake --build build/dev --target handbuch', sein Text steht in docs/handbuch."
+          : "Das Handbuch lässt sich nicht anzeigen, weil kein Webbrowser eingerichtet ist. Es liegt in " +
+                S(gefunden) + ".",
+      "Handbuch", Symbol::Information);
 }
 
 // A trial keeps its settings to itself: the simulated interface must not become the user's.

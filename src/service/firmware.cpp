@@ -22,9 +22,9 @@ constexpr const char* namenszeichen = "ZAVMAStER_";
 constexpr const char* aufforderung = "Quit Bootloader and start ZAVmaster-1024";
 constexpr int runde_ms = 50;
 constexpr int countdown_s = 15;
-constexpr int erstes_zeichen = 13;  // characters below never reach a line
+constexpr int erstes_zeichen = 13;            // characters below never reach a line
 constexpr std::size_t laengste_zeile = 4096;  // its own are far shorter; a flood without CR is cut here
-constexpr int nachlauf = 64;                  // reads of a log behind its time, so that a flood does not hold the run
+constexpr int nachlauf = 64;  // reads of a log behind its time, so that a flood does not hold the run
 
 milliseconds Spanne(double sekunden) { return milliseconds(Echte_millisekunden(sekunden)); }
 
