@@ -28,6 +28,7 @@
 #include "fenster_bedienen.h"
 #include "fenster_hilfen.h"
 #include "store/felder.h"
+#include "time/uhr_astro_rechner.h"
 #include "zavlink/formenschau.h"
 #include "zavlink/musterhaus.h"
 #include "zavlink/qt_text.h"
@@ -314,6 +315,20 @@ TEST_F(Alle_fenster, ZeigenMarkierungenAlsText) {
     });
   }
   EXPECT_GT(gesehen, 5);
+}
+
+TEST_F(Alle_fenster, EinDoppelklickInDenKalenderWaehltDenTag) {
+  Uhr_Astro_Rechner form;
+  Formfenster f(form, nullptr);
+  f.show();
+  form.Command2.druecken();
+  f.nachholen();
+  auto* const kalender = qobject_cast<QCalendarWidget*>(Widget_von(f, form.Kalender));
+  ASSERT_NE(kalender, nullptr);
+  Q_EMIT kalender->clicked({2026, 6, 21});
+  Q_EMIT kalender->activated({2026, 6, 21});
+  EXPECT_EQ(form.Text1.text(), "21.06.2026");
+  EXPECT_FALSE(form.Kalender.sichtbar);
 }
 
 }  // namespace

@@ -285,7 +285,10 @@ QWidget* Kalender_bauen(Kalender& k, Auffrischer& auf, QWidget* eltern) {
       knopf->setArrowType(pfeil);
     }
   }
-  const auto waehlen = [&k](QDate d) { Handeln([&] { k.waehlen({d.year(), d.month(), d.day()}); }); };
+  // A double click tells of its day twice, and the first may have closed the calendar.
+  const auto waehlen = [&k](QDate d) {
+    if (k.sichtbar && k.frei) Handeln([&] { k.waehlen({d.year(), d.month(), d.day()}); });
+  };
   QObject::connect(w, &QCalendarWidget::clicked, w, waehlen);
   QObject::connect(w, &QCalendarWidget::activated, w, waehlen);
   auf.binden(k, [&k, w] {
