@@ -36,7 +36,7 @@ while IFS='|' read -r name zaehler art ziel; do
     fi
     urteil=$(awk -v w="$wert" -v z="$ziel" -v a="$art" 'BEGIN { print ((a == "<=" ? w <= z : w >= z) ? "gut" : "VERFEHLT") }')
     LC_ALL=C printf '%-34s %-12s %12.3f %10s %s\n' "$(awk '{ sub("/manual_time|/iterations.*", "", $1); print $1 }' <<<"$zeile")" \
-      "$(case $zaehler in Zeit | ms) echo ms ;; *) echo Verhältnis ;; esac)" "$wert" "$art $ziel" "$urteil"
+      "$(case $zaehler in Zeit | *ms) echo ms ;; *) echo Verhältnis ;; esac)" "$wert" "$art $ziel" "$urteil"
   done
 done <<'ZIELE'
 Laden_gegen_wc|verhaeltnis|<=|10
