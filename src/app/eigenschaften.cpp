@@ -92,7 +92,7 @@ int App_automatik::Rueckmeldung(int ereignis) const {
   }
   const auto dimmwerte = p_.Ein_dimmer.zeile(ereignis);
   for (int d = 0; d < dimmerausgaenge; ++d) {
-    const auto parameter = dimmwerte.subspan(static_cast<std::size_t>(d) * dimmerparameter, dimmerparameter);
+    const auto parameter = Teilzeile(dimmwerte, d, dimmerparameter);
     if (std::ranges::any_of(parameter, [](i16 w) { return w != 0; }) && ansehen(erster_dimmer + d))
       return erster;
   }

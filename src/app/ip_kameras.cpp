@@ -4,6 +4,7 @@
 #include <unordered_set>
 #include <utility>
 
+#include "basis/liste.h"
 #include "basis/melder.h"
 #include "basis/text.h"
 #include "basis/zahl.h"
@@ -165,18 +166,14 @@ void IP_Kameras::Tasten_sammeln() {
 
 void IP_Kameras::Laden() {
   const Beschaeftigt still(*this);
-  std::vector<std::string> reiter;
   for (int i = 0; i < kameras; ++i) {
     Kamera& k = kameras_.at(static_cast<std::size_t>(i));
     for (std::size_t f = 0; f < kamerafelder.size(); ++f) k.felder[f] = (projekt.*kamerafelder[f])[i];
     k.zeile = projekt.Kamera_text[i];
-    reiter.push_back("Kamera " + std::to_string(i + 1));
   }
   Tasten_sammeln();
-  std::vector<std::string> typen;
-  for (const Modell& m : modelle) typen.emplace_back(m.name);
-  Combo1.fuellen(std::move(typen));
-  TabStrip1.fuellen(std::move(reiter));
+  Combo1.fuellen(Texte(modelle, &Modell::name));
+  TabStrip1.fuellen(Texte(kameras, [](int i) { return "Kamera " + std::to_string(i + 1); }));
   TabStrip1.setzen(0);
   Kamera_zeigen();
 }

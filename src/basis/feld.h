@@ -88,4 +88,15 @@ class Feld {
   std::vector<T> werte_;
 };
 
+// Run i of a row made of runs of `breite` elements, as of the parameters of a dimmer or the outputs of a
+// group. Throws std::out_of_range when the row has no such run.
+template <class T>
+std::span<T> Teilzeile(std::span<T> zeile, std::integral auto i, std::integral auto breite) {
+  const auto laenge = static_cast<std::size_t>(breite);
+  if (std::cmp_less(i, 0) || static_cast<std::size_t>(i) >= zeile.size() / laenge) {
+    throw std::out_of_range("run " + std::to_string(i) + " of " + std::to_string(zeile.size() / laenge));
+  }
+  return zeile.subspan(static_cast<std::size_t>(i) * laenge, laenge);
+}
+
 }  // namespace zav

@@ -128,7 +128,7 @@ void Actmask_init::Faerben() {
   const auto faerben = [](Auswahl& leiste, std::span<const i16> werte) {
     const std::size_t breite = werte.size() / leiste.anzahl();
     for (int g = 0; g < leiste.anzahl(); ++g) {
-      const auto gruppe = werte.subspan(g * breite, breite);
+      const auto gruppe = Teilzeile(werte, g, breite);
       const bool anders = std::any_of(gruppe.begin(), gruppe.end(), [](i16 w) { return w != 0; });
       leiste.faerben(g, anders ? Farbe::belegt : Farbe::normal);
     }

@@ -30,7 +30,7 @@ int Kombination_erste_freie() {
 Adressplan::Adressplan() {
   apparate_.fill(-1);
   const auto setzen = [&](const Adresslauf& lauf, int i, int d) {
-    apparate_.at(static_cast<std::size_t>(lauf.von + i)) = d;
+    apparate_.at(static_cast<std::size_t>(lauf.von) + static_cast<std::size_t>(i)) = d;
   };
   Jeder_apparat([&](int d, const Adresslauf& lauf) {
     for (int i = 0; i < lauf.anzahl; ++i) setzen(lauf, i, d);

@@ -116,7 +116,7 @@ Apparatseite Apparat_seite(int typ) {
     if (art->leds.hat(n)) seite.leds.at(static_cast<std::size_t>(n)) = Ledname(*art, n);
   }
   if (Led_listen_versetzt(typ))
-    seite.knoepfe.at(static_cast<std::size_t>(4 * *Thermostat_adresse(typ))) = knopf_heizventil;
+    seite.knoepfe.at(4 * static_cast<std::size_t>(*Thermostat_adresse(typ))) = knopf_heizventil;
   if (typ == 65) seite.ueberschriften = ueberschriften_mehrfachsender;
   return seite;
 }

@@ -4,14 +4,14 @@
 #include <utility>
 #include <vector>
 
+#include "basis/liste.h"
+
 namespace zav {
 
 void Gruppenleiste_einrichten(Auswahl& leiste, Ziel::Art art) {
   const bool relais = art == Ziel::Art::Relais;
-  std::vector<std::string> gruppen;
-  for (int g = 0; g < (relais ? relaisgruppen : dimmergruppen); ++g)
-    gruppen.push_back((relais ? "O" : "D") + std::to_string(g));
-  leiste.fuellen(std::move(gruppen));
+  leiste.fuellen(Texte(relais ? relaisgruppen : dimmergruppen,
+                       [relais](int g) { return (relais ? "O" : "D") + std::to_string(g); }));
   leiste.hinweis = "Nummernbereich auswählen";
 }
 

@@ -4,6 +4,7 @@
 #include <utility>
 #include <vector>
 
+#include "basis/liste.h"
 #include "editor/ereignissuche.h"
 
 namespace zav {
@@ -46,9 +47,7 @@ Backref::Backref() : Formular("Backref", "Ereignissuche") {
 
 void Backref::Fuellen(Ziel::Art art, int anzahl) {
   art_ = art;
-  std::vector<std::string> texte;
-  for (int i = 0; i < anzahl; ++i) texte.push_back(Ziel_bezeichnung({art, i}));
-  Combo1.fuellen(std::move(texte));
+  Combo1.fuellen(Texte(anzahl, [art](int i) { return Ziel_bezeichnung({art, i}); }));
   Combo1.setzen(0);
 }
 

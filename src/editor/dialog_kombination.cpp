@@ -5,6 +5,7 @@
 #include <utility>
 #include <vector>
 
+#include "basis/liste.h"
 #include "basis/melder.h"
 #include "basis/zahl.h"
 #include "editor/adressplan.h"
@@ -39,17 +40,11 @@ Dialog_Kombination::Dialog_Kombination(std::string aktuell, int anzahl)
 
 void Dialog_Kombination::Zellen_zeigen() {
   const Adressplan plan;
-  std::vector<std::string> texte;
-  texte.reserve(adressen);
-  for (int a = 0; a < adressen; ++a) {
-    std::string text = std::to_string(a);
-    if (plan.belegt(a)) {
-      const int k = plan.apparat(a) / plaetze;
-      text += "   " + projekt.Komb_text2[k] + " - " + projekt.Komb_text[k];
-    }
-    texte.push_back(std::move(text));
-  }
-  Zellen.fuellen(std::move(texte));
+  Zellen.fuellen(Texte(adressen, [&plan](int a) {
+    if (!plan.belegt(a)) return std::to_string(a);
+    const int k = plan.apparat(a) / plaetze;
+    return std::to_string(a) + "   " + projekt.Komb_text2[k] + " - " + projekt.Komb_text[k];
+  }));
   for (int a = 0; a < adressen; ++a) {
     Zellen.hinweisen(a, plan.belegt(a) ? zelle_besetzt : zelle_frei);
     Zellen.faerben(a, plan.belegt(a) ? Farbe::belegt : Farbe::frei);

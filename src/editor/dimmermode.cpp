@@ -4,6 +4,7 @@
 #include <utility>
 #include <vector>
 
+#include "basis/liste.h"
 #include "store/funktionen.h"
 #include "store/sitzung.h"
 
@@ -22,12 +23,11 @@ Dimmermode::Dimmermode() : Formular("Dimmermode", "Grundeinstellungen Dimmer") {
   anmelden("OK", OK);
   anmelden("Cancel", Cancel);
 
-  std::vector<std::string> seiten;
-  for (int erster = 0; erster < dimmerausgaenge; erster += zeilen) {
-    seiten.push_back(Ziel_name({Ziel::Art::Dimmer, erster}) + " bis " +
-                     Ziel_name({Ziel::Art::Dimmer, erster + zeilen - 1}));
-  }
-  TabStrip1.fuellen(std::move(seiten));
+  TabStrip1.fuellen(Texte(dimmerausgaenge / zeilen, [](int seite) {
+    const int erster = seite * zeilen;
+    return Ziel_name({Ziel::Art::Dimmer, erster}) + " bis " +
+           Ziel_name({Ziel::Art::Dimmer, erster + zeilen - 1});
+  }));
   TabStrip1.wenn_geaendert = [this] { Seite_zeigen(); };
   Label1.hinweis = "Phasenanschnitt oder -abschnitt definieren";
 

@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "basis/liste.h"
 #include "editor/actmask.h"
 #include "editor/ausgangsfelder.h"
 #include "editor/auswahl_taster.h"
@@ -78,9 +79,8 @@ void Einmask::Seite_einrichten() {
 
   Label_kopf[0].titel = "Gruppe";
   for (int t = 0; t < tasten; ++t) Label_kopf[1 + t].titel = "Taste " + std::to_string(t + 1);
-  std::vector<std::string> seiten;
-  for (int a = 0; a < adressen; a += gruppen_je_seite) seiten.push_back("I" + std::to_string(a));
-  TabStrip1.fuellen(std::move(seiten));
+  TabStrip1.fuellen(Texte(adressen / gruppen_je_seite,
+                          [](int seite) { return "I" + std::to_string(seite * gruppen_je_seite); }));
   TabStrip1.wenn_geaendert = [this] { Seite_zeigen(); };
   for (int z = 0; z < gruppen_je_seite; ++z) {
     Nummer[z].wenn_gedrueckt = [this, z] { Gruppe_waehlen(z); };
@@ -191,8 +191,7 @@ void Einmask::Led_listen_fuellen() {
 
 void Einmask::Faerben() {
   for (int z = 0; z < gruppen_je_seite; ++z) {
-    const auto leer =
-        projekt.Ein_leer.alle().subspan((TabStrip1.position() * gruppen_je_seite + z) * tasten, tasten);
+    const auto leer = Teilzeile(projekt.Ein_leer.alle(), TabStrip1.position() * gruppen_je_seite + z, tasten);
     const bool belegt = std::any_of(leer.begin(), leer.end(), [](u8 w) { return w != 0; });
     Nummer[z].farbe = z == zeile_ ? Farbe::aktuell : belegt ? Farbe::belegt : Farbe::normal;
   }

@@ -22,7 +22,7 @@ bool Trifft(Ereignisart art, int ereignis, Ziel ziel) {
     case Ziel::Art::Timer: return !z.timer.empty() && z.timer[ziel.nummer] != 0;
     case Ziel::Art::Dimmer: break;
   }
-  const auto parameter = z.dimmer.subspan(ziel.nummer * dimmerparameter, dimmerparameter);
+  const auto parameter = Teilzeile(z.dimmer, ziel.nummer, dimmerparameter);
   return std::any_of(parameter.begin(), parameter.end(), [](i16 p) { return p != 0; });
 }
 

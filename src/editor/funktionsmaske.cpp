@@ -91,9 +91,8 @@ Funktionsmaske::Belegung Funktionsmaske::Reiter_auffrischen() {
     schild.farbe = aktiv ? Farbe::belegt : Farbe::normal;
   };
 
-  gruppen_faerben(Baugruppe, belegt.baugruppe, [this](int g) {
-    return Benutzt(relais_.alle().subspan(g * relais_je_gruppe, relais_je_gruppe));
-  });
+  gruppen_faerben(Baugruppe, belegt.baugruppe,
+                  [this](int g) { return Benutzt(Teilzeile(relais_.alle(), g, relais_je_gruppe)); });
   reiter_setzen(schalten, "&Schalten", Label1, belegt.baugruppe >= 0);
 
   gruppen_faerben(Dimmbaugruppe, belegt.dimmbaugruppe, [this](int g) {

@@ -59,7 +59,9 @@ Timer_trepp::Timer_trepp() : Formular("Timer_trepp", "Timer Manager") {
     Txtbox_timerbez[t].setzen(projekt.Timer_text[t]);
     Txtbox_timerbez[t].hinweis = "Bezeichnung, Verwendung";
     Txtbox_timerbez[t].wenn_geaendert = [this, t] { Faerben(t); };
-    Txtbox_timerbez[t].wenn_eingabe = [this, t] { fokussieren(Ttime[t * zeiten_je_timer]); };
+    Txtbox_timerbez[t].wenn_eingabe = [this, t] {
+      fokussieren(Ttime.at(static_cast<std::size_t>(t) * zeiten_je_timer));
+    };
   }
   for (int z = 0; z < timeranzahl * zeiten_je_timer; ++z) {
     Ttime[z].setzen(projekt.Timer_zeit[z].empty() ? maske : projekt.Timer_zeit[z]);

@@ -4,6 +4,7 @@
 #include <utility>
 #include <vector>
 
+#include "basis/liste.h"
 #include "basis/melder.h"
 #include "basis/text.h"
 #include "enocean/sender.h"
@@ -102,9 +103,7 @@ void Enocean_Definition::Laden() {
 }
 
 void Enocean_Definition::Empfaengerleiste_anzeigen() {
-  std::vector<std::string> nummern;
-  for (int r = 0; r < empfaenger; ++r) nummern.push_back(std::to_string(r));
-  Option1.fuellen(std::move(nummern));
+  Option1.fuellen(Texte(empfaenger, [](int r) { return std::to_string(r); }));
   for (int r = 0; r < empfaenger; ++r) {
     const int n = anzahl_.at(static_cast<std::size_t>(r));
     const str& ort = projekt.Enocean_empf_ort[r];

@@ -26,8 +26,9 @@ constexpr int schwach = 100;     // end of the bar
 void Pause(double sekunden) {
   const double ende = Timer() + sekunden;
   std::array<char, 128> puffer{};
-  for (double rest = sekunden; rest > 0; rest = ende - Timer()) {
-    if (Bytes_lesen(puffer.data(), static_cast<int>(puffer.size()), Echte_millisekunden(rest)) < 0) return;
+  while (Timer() < ende) {
+    const int rest = Echte_millisekunden(ende - Timer());
+    if (Bytes_lesen(puffer.data(), static_cast<int>(puffer.size()), rest) < 0) return;
   }
 }
 

@@ -74,7 +74,7 @@ std::vector<Wirkung> Wirkungen(Ereignisart art, int ereignis) {
     if (zeilen.relais[i] != 0) anfuegen({Ziel::Art::Relais, i}, Relais_in_worten(art, zeilen.relais[i], i));
   }
   for (int i = 0; i < dimmerausgaenge; ++i) {
-    const auto p = zeilen.dimmer.subspan(i * dimmerparameter, dimmerparameter);
+    const auto p = Teilzeile(zeilen.dimmer, i, dimmerparameter);
     if (std::ranges::any_of(p, [](i16 w) { return w != 0; }))
       anfuegen({Ziel::Art::Dimmer, i}, Dimmer_in_worten(art, p));
   }
@@ -188,13 +188,13 @@ void Gruppen(Tabelle& t, const std::vector<std::string>& leds, const std::array<
 // ---- outputs and timers -----------------------------------------------------------------------------------
 
 // Outputs that any event touches, by their number among all outputs.
-std::vector<bool> Benutzte_ausgaenge() {
-  std::vector<bool> benutzt(static_cast<std::size_t>(ausgang_keiner));
-  const auto ansehen = [&benutzt](const auto& matrix, int erster, std::size_t breite) {
+Feld<u8, ausgang_keiner> Benutzte_ausgaenge() {
+  Feld<u8, ausgang_keiner> benutzt;
+  const auto ansehen = [&benutzt](const auto& matrix, std::size_t erster, std::size_t breite) {
     for (std::size_t e = 0; e < matrix.mass(0); ++e) {
       const auto zeile = matrix.zeile(e);
       for (std::size_t i = 0; i < zeile.size(); ++i) {
-        if (zeile[i] != 0) benutzt[static_cast<std::size_t>(erster) + i / breite] = true;
+        if (zeile[i] != 0) benutzt[erster + i / breite] = 1;
       }
     }
   };
@@ -218,20 +218,18 @@ std::string Neustart_dimmer(int wert) {
 }
 
 void Ausgaenge(Tabelle& t) {
-  const std::vector<bool> benutzt = Benutzte_ausgaenge();
+  const auto benutzt = Benutzte_ausgaenge();
   t.Titel("Ausgänge");
   t.Zeile({"Ausgang", "Bezeichnung", "Bei Neustart", "Dimmer"});
   for (int i = 0; i < relaisausgaenge; ++i) {
-    if (projekt.Relais_text[i].empty() && projekt.Relais_neustart[i] == 0 &&
-        !benutzt[static_cast<std::size_t>(i)])
-      continue;
+    if (projekt.Relais_text[i].empty() && projekt.Relais_neustart[i] == 0 && benutzt[i] == 0) continue;
     t.Zeile({Ziel_name({Ziel::Art::Relais, i}), projekt.Relais_text[i],
              Neustart_relais(projekt.Relais_neustart[i])});
   }
   for (int i = 0; i < dimmerausgaenge; ++i) {
     const bool leer =
         projekt.Dimmer_text[i].empty() && projekt.Dimmer_neustart[i] == 0 && projekt.Dimmer_modus[i] == 0;
-    if (leer && !benutzt[static_cast<std::size_t>(erster_dimmer + i)]) continue;
+    if (leer && benutzt[erster_dimmer + i] == 0) continue;
     t.Zeile({Ziel_name({Ziel::Art::Dimmer, i}), projekt.Dimmer_text[i],
              Neustart_dimmer(projekt.Dimmer_neustart[i]),
              projekt.Dimmer_modus[i] == 0 ? "Phasenanschnitt" : "Phasenabschnitt"});
@@ -245,7 +243,7 @@ void Timer_zeigen(Tabelle& t) {
   t.Zeile({"Timer", "Bezeichnung", "Zeit 1", "Zeit 2", "Zeit 3", "Schritt", "Ausgang", "Bezeichnung",
            "Funktion"});
   for (int n = 0; n < timeranzahl; ++n) {
-    const auto zeiten = projekt.Timer_zeit.alle().subspan(static_cast<std::size_t>(3 * n), 3);
+    const auto zeiten = Teilzeile(projekt.Timer_zeit.alle(), n, 3);
     std::vector<std::string> kopf{"T" + std::to_string(n), projekt.Timer_text[n]};
     kopf.insert(kopf.end(), zeiten.begin(), zeiten.end());
     bool gezeigt = false;

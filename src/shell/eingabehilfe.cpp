@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include "basis/liste.h"
 #include "basis/melder.h"
 #include "basis/text.h"
 #include "basis/zahl.h"
@@ -43,10 +44,9 @@ Eingabehilfe::Eingabehilfe() : Formular("Eingabehilfe", "Sonderfunktionen") {
 }
 
 void Eingabehilfe::Art_gewaehlt() {
-  std::vector<std::string> namen;
-  for (int n = 0; n < anzahl_von.at(static_cast<std::size_t>(Option1.position())); ++n) {
-    namen.push_back(Ziel_name({art(), n}));
-  }
+  auto namen = Texte(anzahl_von.at(static_cast<std::size_t>(Option1.position())), [this](int n) {
+    return Ziel_name({art(), n});
+  });
   Combo1.fuellen(namen);
   Combo2.fuellen(std::move(namen));
   Combo1.setzen(0);

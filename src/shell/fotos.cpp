@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "basis/liste.h"
 #include "store/sitzung.h"
 
 namespace zav {
@@ -57,9 +58,7 @@ Fotos::Fotos() : Formular("Fotos", "Schemas") {
   anmelden("Command2", Command2);
   anmelden("OK", OK);
 
-  std::vector<std::string> titel;
-  for (const Schema& s : schemas) titel.emplace_back(s.titel);
-  List1.fuellen(std::move(titel));
+  List1.fuellen(Texte(schemas, &Schema::titel));
   List1.wenn_geaendert = [this] { Zeigen(); };
   Text1.nur_lesen = true;
   Text1.mehrzeilig = Text1.festbreit = true;

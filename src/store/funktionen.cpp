@@ -4,6 +4,7 @@
 #include <array>
 #include <iterator>
 
+#include "basis/liste.h"
 #include "basis/text.h"
 #include "basis/zahl.h"
 
@@ -64,11 +65,6 @@ std::string Wort(const Tabelle& tabelle, int code) {
                                                  : "Code " + std::to_string(code);
 }
 
-template <class Tabelle>
-std::vector<std::string> Liste(const Tabelle& tabelle) {
-  return {tabelle.begin(), tabelle.end()};
-}
-
 // How outputs of one kind are named and counted.
 struct Namensform {
   Ziel::Art art;
@@ -94,13 +90,11 @@ std::span<const Relaisfunktion> Relaisfunktionen(Ereignisart art) {
 }
 
 std::vector<std::string> Relaisliste(Ereignisart art, bool gerade) {
-  std::vector<std::string> texte;
-  for (const Relaisfunktion& f : Relaisfunktionen(art)) texte.emplace_back(gerade ? f.gerade : f.ungerade);
-  return texte;
+  return Texte(Relaisfunktionen(art), gerade ? &Relaisfunktion::gerade : &Relaisfunktion::ungerade);
 }
-std::vector<std::string> Timerliste() { return Liste(timerfunktionen); }
-std::vector<std::string> Tempoliste() { return Liste(tempi); }
-std::vector<std::string> Sperrenliste() { return Liste(sperren); }
+std::vector<std::string> Timerliste() { return Texte(timerfunktionen); }
+std::vector<std::string> Tempoliste() { return Texte(tempi); }
+std::vector<std::string> Sperrenliste() { return Texte(sperren); }
 
 std::string Relais_in_worten(Ereignisart art, int code, int ausgang) {
   const auto funktionen = Relaisfunktionen(art);
@@ -173,9 +167,7 @@ std::string Ausgang_bezeichnung(int ausgang) {
 }
 
 std::vector<std::string> LED_liste() {
-  std::vector<std::string> texte;
-  texte.reserve(ausgang_dauernd_ein + 1);
-  for (int a = 0; a < ausgang_keiner; ++a) texte.push_back(Ausgang_bezeichnung(a));
+  auto texte = Texte(ausgang_keiner, Ausgang_bezeichnung);
   texte.emplace_back("LED dauernd aus");
   texte.emplace_back("LED dauernd ein");
   return texte;

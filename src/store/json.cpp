@@ -83,7 +83,7 @@ class Schreiber {
       Schluessel(e);
       const std::size_t breite = zeile.size() / spalten;
       Folge('{', '}', spalten, [&](std::size_t j) {
-        const auto zelle = zeile.subspan(j * breite, breite);
+        const auto zelle = Teilzeile(zeile, j, breite);
         if (leer(zelle)) return;
         Schluessel(j);
         zelle_schreiben(zelle);

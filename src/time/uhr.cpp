@@ -238,6 +238,7 @@ void Uhr::Tag_einfuegen() {
 // the page counts as changed.
 void Uhr::Sortieren() {
   std::vector<Schaltzeile> seite;
+  seite.reserve(zeilen_je_seite);
   for (int r = 0; r < zeilen_je_seite; ++r) seite.push_back(Zeile_holen(r));
   std::ranges::stable_sort(seite, {}, [](const Schaltzeile& z) { return std::pair(z.zeit.empty(), z.zeit); });
   for (int r = 0; r < zeilen_je_seite; ++r) Zeile_setzen(r, seite[Stelle(r)]);

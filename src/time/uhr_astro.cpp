@@ -4,6 +4,7 @@
 #include <array>
 
 #include "basis/datum.h"
+#include "basis/liste.h"
 #include "basis/text.h"
 #include "form/oberflaeche.h"
 #include "form/zeitfeld.h"
@@ -94,9 +95,7 @@ Uhr_Astro::Uhr_Astro(int ereignis, const std::string& bezeichnung, const std::st
 
 void Uhr_Astro::Laden(const std::string& zeit) {
   const Beschaeftigt still(*this);
-  std::vector<std::string> modi;
-  for (int m = 0; m < zeitmodi; ++m) modi.emplace_back(Modus_name(static_cast<Zeitregel>(m)));
-  Combo_Astro.fuellen(std::move(modi));
+  Combo_Astro.fuellen(Texte(zeitmodi, [](int m) { return Modus_name(static_cast<Zeitregel>(m)); }));
 
   const Schaltregel r = Regel_lesen(ereignis_);
   Combo_Astro.setzen(static_cast<int>(r.modus()));

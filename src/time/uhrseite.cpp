@@ -15,7 +15,7 @@ constexpr const char* nur_automatisch = "Nur bei automatischer Zeitumstellung";
 
 // What is wrong with a time typed as HH.MM.SS, "" when nothing is.
 std::string Uhrzeit_fehler(std::string_view text) {
-  const std::string formfehler = "HH.MM.SS";
+  std::string formfehler = "HH.MM.SS";
   if (Zeichen_anzahl(text) != 8 || Zeichen(text, 3) != "." || Zeichen(text, 6) != ".") return formfehler;
   return Zeitwerte_pruefen(text, formfehler);
 }

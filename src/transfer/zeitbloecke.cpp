@@ -45,8 +45,7 @@ void Aufholbyte(const Projekt& p, Block& b) {
 }
 
 void Schaltzeitenseite(const Uhr_tafel& Uhr_work, int m, int d, Block& b) {
-  const std::span<const i32> zeiten =
-      Uhr_work.zeile(m).subspan(static_cast<std::size_t>(d) * uhrereignisse, uhrereignisse);
+  const auto zeiten = Teilzeile(Uhr_work.zeile(m), d, uhrereignisse);
   std::uint32_t alle_bits = 0;
   for (const i32 z : zeiten) alle_bits |= static_cast<std::uint32_t>(z);
   if (alle_bits > 0xFFFF) {

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "basis/datum.h"
+#include "basis/liste.h"
 #include "basis/melder.h"
 #include "basis/zahl.h"
 #include "form/oberflaeche.h"
@@ -160,10 +161,7 @@ void Wetterlogik::Verdrahten() {
   Label5.titel =
       "Diese Wetterfunktion nur ausführen, wenn folgender Ausgang (real oder virtuell) eines ZAVswitch "
       "\"Ein\" ist:";
-  std::vector<std::string> ausgaenge;
-  ausgaenge.reserve(relaisausgaenge);
-  for (int a = 0; a < relaisausgaenge; ++a) ausgaenge.push_back(Ausgang_bezeichnung(a));
-  Combo2.fuellen(std::move(ausgaenge));
+  Combo2.fuellen(Texte(relaisausgaenge, Ausgang_bezeichnung));
   Label6.titel =
       "Die Funktionen sofort nach Aktivierung des Ausgangs ausführen oder auf eine Zustands- änderung der "
       "Prüfbedingung warten:";

@@ -111,7 +111,8 @@ std::string Wetterwert_text(std::size_t sensor, double wert) {
 
 std::string Wind_in_kmh(double wert) {
   // Rounded before it is cut: a tenth of m/s is no exact binary number.
-  return Zehntel(static_cast<double>(Runden(wert * 10) * 36 / 10) / 10) + " km/h";
+  const auto zehntel = Runden(wert * 10) * 36 / 10;
+  return Zehntel(static_cast<double>(zehntel) / 10) + " km/h";
 }
 
 std::string Wetter_abfragen() {

@@ -1,0 +1,25 @@
+// Lists of texts, as choices in windows want them.
+#pragma once
+
+#include <functional>
+#include <ranges>
+#include <string>
+#include <vector>
+
+namespace zav {
+
+// The text of each value, in their order: itself, or what a function or a member gives.
+template <std::ranges::sized_range R, class F = std::identity>
+std::vector<std::string> Texte(R&& werte, F text = {}) {
+  std::vector<std::string> liste;
+  liste.reserve(std::ranges::size(werte));
+  for (const auto& w : werte) liste.emplace_back(std::invoke(text, w));
+  return liste;
+}
+// The text of each number from 0 to anzahl - 1.
+template <std::invocable<int> F>
+std::vector<std::string> Texte(int anzahl, F text) {
+  return Texte(std::views::iota(0, anzahl), text);
+}
+
+}  // namespace zav
