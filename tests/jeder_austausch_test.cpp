@@ -3,25 +3,22 @@
 // fault stands the box of its rule, what has gone is no longer flagged and everything else still is, and a
 // second run brings the master's memory to the image of the project.
 #include <gtest/gtest.h>
-#include <netinet/in.h>
 #include <sys/socket.h>
 
 #include <algorithm>
 #include <functional>
 #include <iostream>
-#include <sstream>
 #include <thread>
 
+#include "abbild_hilfen.h"
 #include "basis/zahl.h"
 #include "enocean/programmieren.h"
+#include "gegenstelle.h"
 #include "hilfen.h"
-#include "link/leitung.h"
 #include "link/statuscode.h"
-#include "platform/einstellungen.h"
 #include "platform/uhrwerk.h"
-#include "simulator/hex.h"
-#include "simulator/simulator.h"
 #include "store/sitzung.h"
+#include "testmaster.h"
 #include "transfer/uebertragung.h"
 #include "transfer/uhr_stellen.h"
 
@@ -108,7 +105,6 @@ bool Verstummt(const std::string& art) {
 class Jeder_austausch : public ::testing::TestWithParam<Verbindung> {
  protected:
   Jeder_austausch() {
-    sim.start();
     Heute_setzen({2026, 5, 4});
     Zufall_saeen(7);
     sitzung = {};
@@ -145,11 +141,7 @@ class Jeder_austausch : public ::testing::TestWithParam<Verbindung> {
   }
 
   void Anschliessen() {
-    einstellungen.Com_art = GetParam() == Verbindung::com ? 0 : 1;
-    einstellungen.Com_geraet = sim.pty_name();  // a new one after each disappearance
-    einstellungen.Host_ip = "127.0.0.1";
-    einstellungen.Host_port = sim.tcp_port();
-    Com_art_setzen();
+    sim.verbinden(GetParam());
     leitung.Antwort_zeit = antwort_sekunden;
   }
   // Messages that the master has answered or swallowed so far.
@@ -208,33 +200,8 @@ class Jeder_austausch : public ::testing::TestWithParam<Verbindung> {
     }
   }
 
-  struct Bildzeile {
-    std::string befehl;
-    std::uint32_t von = 0;
-    std::string ziffern;
-  };
-  static std::vector<Bildzeile> Bild() {
-    Zufall_saeen(7);
-    std::istringstream text(Abbild(projekt, einstellungen, {.nur_geaenderte = true}));
-    std::vector<Bildzeile> zeilen;
-    for (std::string zeile; std::getline(text, zeile);) {
-      std::istringstream worte(zeile);
-      Bildzeile z;
-      std::string von;
-      std::string bis;
-      worte >> z.befehl;
-      if (z.befehl == "W") worte >> von >> bis;
-      worte >> z.ziffern;
-      if (!von.empty()) z.von = *Hex_zahl(von);
-      zeilen.push_back(z);
-    }
-    return zeilen;
-  }
   bool Master_haelt_bild() const {
-    return std::ranges::all_of(bild, [this](const Bildzeile& z) {
-      if (z.befehl != "W") return sim.block(z.befehl) == z.ziffern;
-      return simulator::hex(sim.speicher(z.von, z.ziffern.size() / 2)) == z.ziffern;
-    });
+    return std::ranges::all_of(bild, [this](const Bildzeile& z) { return Haelt(sim, z); });
   }
 
   // Takes back the flag of the row whose last page the exchange has brought.
@@ -310,7 +277,7 @@ class Jeder_austausch : public ::testing::TestWithParam<Verbindung> {
   }
 
   Testordner ordner;
-  simulator::Simulator sim{{.pty = true}};
+  Testmaster sim;
   Benutzer b;
   Uebertragung u{b};
   Projekt vorher;
@@ -321,7 +288,7 @@ class Jeder_austausch : public ::testing::TestWithParam<Verbindung> {
 };
 
 TEST_P(Jeder_austausch, DerUebertragung) {
-  bild = Bild();
+  bild = Bild(true);
   Master_unberuehrt();
   const auto ablauf = Ablauf(Senden());
   ASSERT_EQ(ablauf.size(), 39U);
@@ -343,7 +310,7 @@ TEST_P(Jeder_austausch, DerUebertragung) {
 }
 
 TEST_P(Jeder_austausch, JederCodeDesMasters) {
-  bild = Bild();
+  bild = Bild(true);
   Master_unberuehrt();
   const auto ablauf = Ablauf(Senden());
   // The sign of life, a direct block, a window, a page.
@@ -364,7 +331,7 @@ TEST_P(Jeder_austausch, JederCodeDesMasters) {
 TEST_P(Jeder_austausch, DerSchaltzeiten) {
   vorgemerkt = {.ein = {}, .uhr = {}, .tev = {}, .grp = decltype(projekt.Grp_led)(i16{0}), .tabelle = 1};
   vorgemerkt.einsetzen();
-  bild = Bild();
+  bild = Bild(true);
   Master_unberuehrt();
   const auto ablauf = Ablauf(Senden());
   const auto erste = static_cast<std::size_t>(
@@ -380,7 +347,7 @@ TEST_P(Jeder_austausch, DerSchaltzeiten) {
 
 TEST_P(Jeder_austausch, DesLoeschens) {
   u.Check1 = false;
-  bild = Bild();
+  bild = Bild(true);
   const auto loeschen = [this] { return u.Initialisieren(); };
   Vormerkung alles = vorgemerkt;
   std::ranges::fill(alles.grp.alle(), i16{1});
@@ -407,7 +374,7 @@ TEST_P(Jeder_austausch, DesLoeschens) {
         EXPECT_TRUE(Ohne_fehler(loeschen));
         EXPECT_EQ(b.boxen, (std::vector{loeschfrage, bereit}));
         EXPECT_EQ(sim.speicher(bild.back().von, 8), simulator::Bytes(8));
-        bild = Bild();
+        bild = Bild(true);
         EXPECT_EQ(Ohne_fehler(Senden()), Sendeergebnis::gesendet);
         EXPECT_TRUE(Master_haelt_bild());
       }
@@ -419,17 +386,9 @@ TEST_P(Jeder_austausch, DesLoeschens) {
 
 // A master that talks for ever, where the report of an erase should end or behind it.
 TEST(Flut, EndetDasLoeschen) {
-  const int lauscher = socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0);
-  sockaddr_in ort{};
-  ort.sin_family = AF_INET;
-  ort.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
-  ASSERT_EQ(bind(lauscher, reinterpret_cast<sockaddr*>(&ort), sizeof ort), 0);
-  ASSERT_EQ(listen(lauscher, 1), 0);
-  socklen_t laenge = sizeof ort;
-  getsockname(lauscher, reinterpret_cast<sockaddr*>(&ort), &laenge);
   einstellungen.Com_art = 1;
   einstellungen.Host_ip = "127.0.0.1";
-  einstellungen.Host_port = ntohs(ort.sin_port);
+  const int lauscher = Lauscher(einstellungen.Host_port);
   Com_art_setzen();
   std::thread master([lauscher] {
     for (const std::string ende : {"", "F00"}) {
