@@ -74,7 +74,7 @@ class Draht {
 class Zavmaster : public ::testing::Test {
  protected:
   explicit Zavmaster(Optionen o = {.pty = true}) : sim(std::move(o)), draht((sim.start(), sim)) {}
-  std::string operator()(std::string_view nachricht) { return draht.fragen(nachricht); }
+  std::string frage(std::string_view nachricht) { return draht.fragen(nachricht); }
   // Messages with the code each is refused with.
   void verweigert(std::initializer_list<std::pair<std::string_view, std::string_view>> faelle) {
     for (const auto& [nachricht, code] : faelle) EXPECT_EQ(draht.fragen(nachricht), code) << nachricht;
@@ -85,13 +85,12 @@ class Zavmaster : public ::testing::Test {
 };
 
 TEST_F(Zavmaster, AntwortetNurAufGanzeUndRichtigeMeldungen) {
-  auto& frage = *this;
   EXPECT_EQ(frage("i"), "F00");
   EXPECT_EQ(frage("V"), "REV 09.04 ");
   draht.roh("V5");
   EXPECT_TRUE(draht.stumm());
   draht.roh("6\r");
-  EXPECT_EQ(draht.bis("\r").size(), 13U);
+  EXPECT_EQ(draht.bis("\r"), rahmen("REV 09.04 "));
 
   const std::pair<std::string_view, std::string_view> falsch[] = {
       {"V57\r", "F07"},    {"V5g\r", "F05"}, {"V5a\r", "F05"}, {"K4B\r", "F01"},
@@ -113,7 +112,6 @@ TEST_F(Zavmaster, AntwortetNurAufGanzeUndRichtigeMeldungen) {
 }
 
 TEST_F(Zavmaster, PrueftDasFensterUndHaeltDenSpeicher) {
-  auto& frage = *this;
   verweigert({{"R", "F06"},
               {"W00", "F06"},
               {"D400000400001", "F06"},
@@ -140,7 +138,6 @@ TEST_F(Zavmaster, PrueftDasFensterUndHaeltDenSpeicher) {
 }
 
 TEST_F(Zavmaster, NimmtParameterbloeckeUndUhrNurInIhrerLaenge) {
-  auto& frage = *this;
   for (const auto& [befehl, bytes] :
        {std::pair{"A", 128}, {"Q", 256}, {"T", 96}, {"P", 256}, {"H", 128}, {"M", 6}, {"LS", 1}}) {
     const std::string ziffern(static_cast<std::size_t>(2 * bytes), '0');
@@ -162,7 +159,6 @@ TEST_F(Zavmaster, NimmtParameterbloeckeUndUhrNurInIhrerLaenge) {
 }
 
 TEST_F(Zavmaster, MeldetDenNeustartEinmal) {
-  auto& frage = *this;
   EXPECT_EQ(frage("LD01"), "F00");
   EXPECT_TRUE(sim.gesperrt());
   draht.roh("*");
@@ -180,7 +176,6 @@ TEST_F(Zavmaster, MeldetDenNeustartEinmal) {
 }
 
 TEST_F(Zavmaster, LoeschtUndPrueftDenSpeicher) {
-  auto& frage = *this;
   sim.speicher_setzen(0x8000, {1, 2, 3});
   sim.flash_defekt();
   for (const bool defekt : {true, false}) {
@@ -196,7 +191,6 @@ TEST_F(Zavmaster, LoeschtUndPrueftDenSpeicher) {
 }
 
 TEST_F(Zavmaster, ZeigtEreignisseBisZumStern) {
-  auto& frage = *this;
   sim.ereignis({7, 2});  // nobody looks
   EXPECT_EQ(frage("I"), "F00");
   sim.ereignis({255, 4, Tastenaktion::loesen});
@@ -204,9 +198,8 @@ TEST_F(Zavmaster, ZeigtEreignisseBisZumStern) {
   EXPECT_EQ(frage("Y04020201"), "F00");
   EXPECT_EQ(draht.bis("-/-\r"), "K001 T1 ---\rK001 T1 -/-\r");
   EXPECT_EQ(sim.ereignisse(), (std::vector<Ereignis>{{1, 1, Tastenaktion::kurz}}));
-  sim.teilnehmer_setzen({"K000 ZAVin"});
-  draht.roh("*");
-  EXPECT_EQ(draht.bis("mer\r"), "K000 ZAVin\r1 Teilnehmer\r");
+  draht.roh("*");  // what it lists then stands in terminal_test
+  EXPECT_TRUE(draht.bis("Teilnehmer\r").ends_with("\r6 Teilnehmer\r"));
   sim.ereignis({1, 1});
   EXPECT_TRUE(draht.stumm());
   EXPECT_EQ(frage("i"), "F99");
@@ -232,7 +225,6 @@ TEST_F(Zavmaster, ZeigtEreignisseBisZumStern) {
 }
 
 TEST_F(Zavmaster, NenntDasWetter) {
-  auto& frage = *this;
   sim.wetter_setzen({.regen = true,
                      .aussen = -17,
                      .innen = 22,
@@ -248,44 +240,36 @@ TEST_F(Zavmaster, NenntDasWetter) {
   EXPECT_EQ(frage("s"), std::string(24, '0'));
 }
 
-TEST_F(Zavmaster, ProgrammiertEinenFunkempfaenger) {
-  auto& frage = *this;
+// How a receiver is programmed from end to end stands in enocean_test.
+TEST_F(Zavmaster, UebernimmtDieTabelleEinesFunkempfaengersErstAufBefehl) {
   const auto x = [&](std::string_view laenge, std::string daten) {
     daten.resize(16, '0');
     EXPECT_EQ(frage("X011F" + std::string(laenge) + daten), "F00");
   };
-  const auto seite_schreiben = [&](int seite) {
+  sim.empfaengerseite_defekt(15, 2);
+  for (const int seite : {1, 2}) {
     x("02", "4143");
     for (int k = 0; k < 16; ++k) x("06", "4150FF000000");
     x("05", "4154" + hex(seite * 64, 4) + "40");
-  };
-  const auto pruefsumme_holen = [&](int seite) {
+  }
+  EXPECT_EQ(sim.empfaengertabelle(15)[64], 0);
+  x("02", "4149");
+  EXPECT_EQ(sim.empfaengertabelle(15)[64], 0xFF);
+  EXPECT_EQ(sim.empfaengertabelle(14)[64], 0);
+  for (const auto& [seite, summe] : {std::pair{0, "0000"}, {1, "0FF0"}, {2, "0EF1"}}) {
     x("05", "4174" + hex(seite * 64, 4) + "40");
     EXPECT_EQ(frage("&"), "F00");
     EXPECT_EQ(frage("x").substr(10, 4), "0000");
     x("02", "4152");
-    const std::string antwort = frage("x");
-    EXPECT_EQ(antwort.substr(0, 6), "011F08");
-    return antwort.substr(10, 4);
-  };
-  sim.empfaengerseite_defekt(15, 2);
-  seite_schreiben(1);
-  seite_schreiben(2);
-  EXPECT_EQ(sim.empfaengertabelle(15)[64], 0);  // not taken up yet
-  x("02", "4149");
-  EXPECT_EQ(sim.empfaengertabelle(15)[64], 0xFF);
-  EXPECT_EQ(sim.empfaengertabelle(14)[64], 0);
-  EXPECT_EQ(pruefsumme_holen(0), "0000");
-  EXPECT_EQ(pruefsumme_holen(1), "0FF0");
-  EXPECT_EQ(pruefsumme_holen(2), "0EF1");
-
+    EXPECT_EQ(frage("x").substr(0, 14), "011F084152" + std::string(summe)) << seite;
+  }
+  x("02", "4156");
+  EXPECT_EQ(frage("x").substr(10, 6), "01040F");  // eight senders a page, less the one that did not hold
   x("02", "4157");
   EXPECT_EQ(frage("x").substr(10), "00000000FFFF000000");
   sim.funk(15, 0xFEF71E04, 42);
   x("02", "4157");
   EXPECT_EQ(frage("x").substr(10), "FEF71E0400D2000000");
-  x("02", "4156");
-  EXPECT_EQ(frage("x").substr(10, 6), "01040F");  // eight senders a page, less the one that did not hold
 
   verweigert({{"X0101024157", "F66"},
               {"X010102415700000000000000", "F68"},
@@ -293,11 +277,10 @@ TEST_F(Zavmaster, ProgrammiertEinenFunkempfaenger) {
               {"X0000024157000000000000", "F80"},
               {"X0101094157000000000000", "F81"},
               {"X01010241x7000000000000", "F05"}});
-  EXPECT_EQ(sim.telegramme().back(), (Telegramm{0x11F, 2, {'A', 'V'}}));
+  EXPECT_EQ(sim.telegramme().back(), (Telegramm{0x11F, 2, {'A', 'W'}}));
 }
 
 TEST_F(Zavmaster, BautFehlerNachRegelEin) {
-  auto& frage = *this;
   const auto antwort = [&](std::string_view nachricht) {
     draht.roh(rahmen(nachricht));
     return draht.bis("\r");
@@ -372,7 +355,7 @@ TEST_F(Zavmaster, LaedtDasBetriebssystemNurAusGutenSaetzen) {
   }
   EXPECT_EQ(sim.firmware().bytes, 17U);
   draht.roh("*");
-  EXPECT_EQ((*this)("i"), "F99");
+  EXPECT_EQ(frage("i"), "F99");
 }
 
 TEST(Ablage, BehaeltDenSpeicherUndLehntBeschaedigtesAb) {
@@ -451,32 +434,6 @@ TEST(Aufruf, SagtWasFalschIst) {
     EXPECT_EQ(a.status, 2) << falsch;
     EXPECT_NE(a.text.find(wort == "--fehler" ? "" : wort), std::string::npos);
   }
-}
-
-// Anything at all may come over the line, to the master as to its bootloader.
-TEST(Geraet, UeberstehtJedeEingabe) {
-  Geraet geraet("REV 09.04");
-  Zustand zustand;
-  std::uint32_t zufall = 1;
-  const std::string_view haeufig = "iVDWRAQTPHMLSUIXYxs&E0123456789ABCDEF\r\r%*ab";
-  for (int n = 0; n < 400'000; ++n) {
-    zufall = zufall * 1664525 + 1013904223;
-    const auto wurf = zufall >> 16;
-    if (wurf % 5000 == 0) {
-      geraet.lader.firmware = {};
-      geraet.einschalten(n % 2 == 0, n);
-    }
-    std::string bytes(1, wurf % 8 == 0 ? static_cast<char>(wurf >> 3) : haeufig[wurf % haeufig.size()]);
-    if (wurf % 16 == 1 && !zustand.zeile.empty())
-      bytes = pruefsumme(zustand.zeile) + '\r';  // now and then a good one
-    Ausgabe aus;
-    for (const char c : bytes) geraet.empfangen(zustand, c, n, aus);
-    geraet.zeit(n);
-    geraet.an_alle.clear();
-    geraet.master.anzeigezeilen.clear();
-    ASSERT_LT(aus.bytes.size(), 4096U);
-  }
-  EXPECT_GT(geraet.master.zaehler["i"], 100U);
 }
 
 }  // namespace
