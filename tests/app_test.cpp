@@ -1,6 +1,8 @@
 // The phone app: the descriptor byte for byte, the properties of a key, and the cameras.
 #include <gtest/gtest.h>
 
+#include <sstream>
+
 #include "app/app_eigenschaften_seite.h"
 #include "app/deskriptor.h"
 #include "app/eigenschaften.h"
@@ -20,9 +22,8 @@ class App : public Pruefstand {
   static void taste(int k, int platz, int n, const char* text) {
     projekt.Dev_text[128 * k + 8 * platz + n] = text;
   }
-  static str& feld(int ereignis, App_feld f) { return projekt.App_eigenschaften.zeile(ereignis)[f]; }
   static void setzen(int ereignis, std::initializer_list<std::pair<App_feld, const char*>> werte) {
-    for (const auto& [f, wert] : werte) feld(ereignis, f) = wert;
+    for (const auto& [f, wert] : werte) projekt.App_eigenschaften.zeile(ereignis)[f] = wert;
   }
 };
 
@@ -48,10 +49,17 @@ TEST_F(App, DescriptorOfAnEmptyProjectHasEmptySections) {
                 "<camsector>\r\n</camsector>\r\n</zavappdescriptor>\r\n");
 }
 
-// What stands between two comments.
-std::string Teil(const std::string& xml, const std::string& name) {
+// What stands between two comments: the level of each line and its text.
+std::string Teil(const std::string& name) {
+  const std::string xml = App_xml_bauen(projekt);
   const auto beginn = xml.find("\r\n", xml.find("<!-- " + name + " ab hier")) + 2;
-  return xml.substr(beginn, xml.find("<!-- " + name + " bis hier") - beginn);
+  std::istringstream zeilen(xml.substr(beginn, xml.find("<!-- " + name + " bis hier") - beginn));
+  std::string text;
+  for (std::string zeile; std::getline(zeilen, zeile, '\r') && zeilen.ignore();) {
+    const auto ebene = zeile.find_first_not_of(' ') / 2;
+    text += std::to_string(ebene) + zeile.substr(2 * ebene);
+  }
+  return text;
 }
 
 TEST_F(App, ButtonsStandWhereTheirPropertiesPutThem) {
@@ -63,7 +71,6 @@ TEST_F(App, ButtonsStandWhereTheirPropertiesPutThem) {
   taste(3, 2, 0, "Licht & Lärm");
   taste(3, 2, 5, "Store");
   taste(3, 2, 6, "Szene");
-  setzen(52, {});  // no text: never exported
   setzen(48, {{App_geraet, "3"},
               {App_bereich, "2"},
               {App_mit_icon, "1"},
@@ -83,76 +90,33 @@ TEST_F(App, ButtonsStandWhereTheirPropertiesPutThem) {
               {App_nein2, "N"}});
   setzen(54, {{App_geraet, "1"}, {App_bereich, "1"}, {App_als_szene, "1"}});
   setzen(49, {{App_geraet, "3"}});
-  const std::string xml = App_xml_bauen(projekt);
   EXPECT_EQ(
-      Teil(xml, "Normale Tasten"),
-      "  <node type=\"collection\">\r\n"
-      "    <node type=\"section\">\r\n"
-      "      <title>dach</title>\r\n"
-      "      <subtitle></subtitle>\r\n"
-      "      <node type=\"collection\">\r\n"
-      "        <node type=\"section\">\r\n"
-      "          <title>Estrich</title>\r\n"
-      "          <subtitle></subtitle>\r\n"
-      "          <node type=\"collection\">\r\n"
-      "          </node>\r\n"
-      "        </node>\r\n"
-      "      </node>\r\n"
-      "    </node>\r\n"
-      "    <node type=\"section\">\r\n"
-      "      <title>Erdgeschoss</title>\r\n"
-      "      <subtitle>hell</subtitle>\r\n"
-      "      <node type=\"collection\">\r\n"
-      "        <node type=\"section\">\r\n"
-      "          <title>Küche&apos;s</title>\r\n"
-      "          <subtitle></subtitle>\r\n"
-      "          <node type=\"collection\">\r\n"
-      "            <node type=\"button\" class=\"light\">\r\n"
-      "              <title>Licht &amp; Lärm</title>\r\n"
-      "              <address>I12-1</address>\r\n"
-      "              <icon>Licht</icon>\r\n"
-      "              <feedbackaddress>D0-1</feedbackaddress>\r\n"
-      "            </node>\r\n"
-      "            <node type=\"button\" class=\"light\" fordevice=\"tablet\">\r\n"
-      "              <title>Stra\xDF"
-      "e</title>\r\n"
-      "              <address>I13-2</address>\r\n"
-      "              <confirmation forstate =\"off\" keyok=\"Ja\" keyabort=\"Nein\">Zu?</confirmation>\r\n"
-      "              <confirmation forstate =\"on\" keyok=\"J\" "
-      "keyabort=\"N\">&quot;Auf&quot;?</confirmation>\r\n"
-      "            </node>\r\n"
-      "          </node>\r\n"
-      "        </node>\r\n"
-      "      </node>\r\n"
-      "    </node>\r\n"
-      "  </node>\r\n");
-  EXPECT_NE(Teil(xml, "Globale Tasten")
-                .find("      <title>Globale Tasten</title>\r\n"
-                      "      <node type=\"button\" domain=\"global\" class=\"light\">\r\n"
-                      "        <title>Licht &amp; Lärm</title>\r\n"
-                      "        <address>I12-1</address>\r\n"
-                      "        <icon>Licht</icon>\r\n"
-                      "        <feedbackaddress>D0-1</feedbackaddress>\r\n"
-                      "      </node>\r\n"
-                      "    </node>\r\n"),
-            std::string::npos);
-  EXPECT_NE(Teil(xml, "Globale Szenen")
-                .find("      <node type=\"button\" domain=\"global\" class=\"scene\" fordevice=\"phone\">\r\n"
-                      "        <title>Szene</title>\r\n"
-                      "        <address>I13-3</address>\r\n"
-                      "      </node>\r\n"),
-            std::string::npos);
+      Teil("Normale Tasten"),
+      "1<node type=\"collection\">2<node type=\"section\">3<title>dach</title>3<subtitle></subtitle>"
+      "3<node type=\"collection\">4<node type=\"section\">5<title>Estrich</title>5<subtitle></subtitle>"
+      "5<node type=\"collection\">5</node>4</node>3</node>2</node>2<node type=\"section\">"
+      "3<title>Erdgeschoss</title>3<subtitle>hell</subtitle>3<node type=\"collection\">"
+      "4<node type=\"section\">5<title>Küche&apos;s</title>5<subtitle></subtitle>"
+      "5<node type=\"collection\">6<node type=\"button\" class=\"light\">7<title>Licht &amp; Lärm</title>"
+      "7<address>I12-1</address>7<icon>Licht</icon>7<feedbackaddress>D0-1</feedbackaddress>6</node>"
+      "6<node type=\"button\" class=\"light\" fordevice=\"tablet\">7<title>Stra\xDF"
+      "e</title>7<address>I13-2</address>"
+      "7<confirmation forstate =\"off\" keyok=\"Ja\" keyabort=\"Nein\">Zu?</confirmation>"
+      "7<confirmation forstate =\"on\" keyok=\"J\" keyabort=\"N\">&quot;Auf&quot;?</confirmation>"
+      "6</node>5</node>4</node>3</node>2</node>1</node>");
+  EXPECT_TRUE(Teil("Globale Tasten")
+                  .ends_with("3<node type=\"button\" domain=\"global\" class=\"light\">"
+                             "4<title>Licht &amp; Lärm</title>4<address>I12-1</address>4<icon>Licht</icon>"
+                             "4<feedbackaddress>D0-1</feedbackaddress>3</node>2</node>1</node>"));
+  EXPECT_TRUE(Teil("Globale Szenen")
+                  .ends_with("3<node type=\"button\" domain=\"global\" class=\"scene\" fordevice=\"phone\">"
+                             "4<title>Szene</title>4<address>I13-3</address>3</node>2</node>1</node>"));
 }
 
 TEST_F(App, QuestionsAndFeedbackFollowTheirKind) {
   projekt.Komb_text[0] = "EG";
   apparat(0, 0, 14, 0);
   taste(0, 0, 0, "x");
-  const auto zeile = [](const char* name) {
-    const std::string xml = App_xml_bauen(projekt);
-    const auto n = xml.find(name);
-    return n == std::string::npos ? "" : xml.substr(n, xml.find("\r\n", n) - n);
-  };
   setzen(0, {{App_geraet, "3"},
              {App_mit_bestaetigung, "1"},
              {App_mit_rueckmeldung, "1"},
@@ -161,36 +125,32 @@ TEST_F(App, QuestionsAndFeedbackFollowTheirKind) {
   for (const auto& [art, zustand, frage] :
        {std::tuple{"0", "", "A"}, {"1", " forstate =\"off\"", "A"}, {"2", " forstate =\"on\"", "B"}}) {
     setzen(0, {{App_frage_art, art}});
-    EXPECT_EQ(zeile("<confirmation"), "<confirmation" + std::string(zustand) + " keyok=\"\" keyabort=\"\">" +
-                                          frage + "</confirmation>");
+    EXPECT_NE(Teil("Normale Tasten")
+                  .find("<confirmation" + std::string(zustand) + " keyok=\"\" keyabort=\"\">" + frage +
+                        "</confirmation>6</node>"),
+              std::string::npos);
   }
   const std::pair<const char*, const char*> ausgaenge[] = {
       {"0", "O0-0"}, {"511", "O63-7"}, {"512", "D0-0"}, {"639", "D31-3"}, {"640", "-"}, {"", "-"}};
   for (const auto& [nummer, text] : ausgaenge) {
     setzen(0, {{App_rueckmeldung, nummer}});
-    EXPECT_EQ(zeile("<feedbackaddress"), "<feedbackaddress>" + std::string(text) + "</feedbackaddress>");
+    EXPECT_NE(Teil("Normale Tasten").find(">" + std::string(text) + "</feedbackaddress>"), std::string::npos);
   }
   setzen(0, {{App_geraet, "0"}});
-  EXPECT_EQ(zeile("<node type=\"button\""), "");
+  EXPECT_EQ(Teil("Normale Tasten").find("button"), std::string::npos);
 }
 
 TEST_F(App, StoreysAreSortedWithoutCaseAndKeepTheirOrder) {
-  const auto titel = [] {
-    std::string folge;
-    const std::string xml = App_xml_bauen(projekt);
-    for (auto n = xml.find("          <title>"); n != std::string::npos;
-         n = xml.find("          <title>", n + 1)) {
-      folge += xml.substr(n + 17, 1);
-    }
-    return folge;
-  };
   int k = 7;
   for (const char* standort : {"Ober", "erd", "ÄUSSERES", "ober", "äUSSERES", "Erd", "", "Ober"}) {
     projekt.Komb_text[k] = standort;
     projekt.Komb_text2[k] = std::to_string(k - 6);
     ++k;
   }
-  EXPECT_EQ(titel(), "2614835");
+  std::string folge;
+  const std::string tasten = Teil("Normale Tasten");
+  for (std::size_t n = 0; (n = tasten.find("5<title>", n)) != std::string::npos; ++n) folge += tasten[n + 8];
+  EXPECT_EQ(folge, "2614835");
 }
 
 TEST_F(App, SlotsBehindAnOccupiedPlaceAreNotExported) {
@@ -219,26 +179,25 @@ TEST_F(App, CamerasAreWrittenWithTheirKeys) {
   projekt.Kamera_tastentext1[2] = "Öffnen";
   projekt.Kamera_taste2[2] = "0";
   setzen(57, {{App_geraet, "3"}});
-  const std::string xml = App_xml_bauen(projekt);
-  const auto n = xml.find("<camsector>");
-  EXPECT_EQ(xml.substr(n),
-            "<camsector>\r\n"
-            "  <node type=\"cameraview\" usecase=\"63\" cid=\"2\">\r\n"
-            "    <title>Tür &amp; Tor</title> \r\n"
-            "    <subtitle></subtitle> \r\n"
-            "    <mediaserver forstream=\"audio_video\" ipaddress=\"10.0.0.7\" httpport=\"80\" "
-            "controlport=\"81\" streamportpool=\"5000-5005\" devicemodel=\"axis.m1054.w\"/>\r\n"
-            "    <node type=\"button\" class=\"light\">\r\n"
-            "      <title>Öffnen</title>\r\n"
-            "      <address>I14-2</address>\r\n"
-            "    </node>\r\n"
-            "  </node>\r\n"
-            "</camsector>\r\n"
-            "</zavappdescriptor>\r\n");
-  projekt.Kamera_stream_von[2] = "";
-  EXPECT_NE(App_xml_bauen(projekt).find("streamportpool=\"0-5\""), std::string::npos);
-  projekt.Kamera_stream_von[2] = "2147483647";  // the largest that a file can hold
-  EXPECT_NE(App_xml_bauen(projekt).find("streamportpool=\"2147483647-2147483652\""), std::string::npos);
+  EXPECT_TRUE(App_xml_bauen(projekt).ends_with(
+      "<camsector>\r\n"
+      "  <node type=\"cameraview\" usecase=\"63\" cid=\"2\">\r\n"
+      "    <title>Tür &amp; Tor</title> \r\n"
+      "    <subtitle></subtitle> \r\n"
+      "    <mediaserver forstream=\"audio_video\" ipaddress=\"10.0.0.7\" httpport=\"80\" "
+      "controlport=\"81\" streamportpool=\"5000-5005\" devicemodel=\"axis.m1054.w\"/>\r\n"
+      "    <node type=\"button\" class=\"light\">\r\n"
+      "      <title>Öffnen</title>\r\n"
+      "      <address>I14-2</address>\r\n"
+      "    </node>\r\n"
+      "  </node>\r\n"
+      "</camsector>\r\n"
+      "</zavappdescriptor>\r\n"));
+  // Empty, and the largest that a file can hold.
+  for (const auto& [von, ports] : {std::pair{"", "\"0-5\""}, {"2147483647", "\"2147483647-2147483652\""}}) {
+    projekt.Kamera_stream_von[2] = von;
+    EXPECT_NE(App_xml_bauen(projekt).find(std::string("streamportpool=") + ports), std::string::npos);
+  }
 }
 
 TEST_F(App, TextsPassAsBytes) {
@@ -297,25 +256,21 @@ TEST_F(App, AutomaticFillFindsIconAndFeedback) {
   projekt.Dev_adr[5000] = 30;  // an LED shows it
   setzen(20, {{App_rueckmeldung, "17"}, {App_frage1, "bleibt"}, {App_tastentext, "alt"}});
   const App_automatik automatik(projekt);
-  for (int j = 0; j < 4; ++j) automatik.fuellen(0, j, projekt.App_eigenschaften.zeile(20 + j));
-  const auto satz = [](int e) {
-    std::string text;
-    for (const App_feld f : {App_geraet, App_bereich, App_eigener_text, App_mit_icon, App_mit_rueckmeldung,
-                             App_tastentext, App_icon_name, App_rueckmeldung, App_frage1}) {
-      text += feld(e, f) + "|";
-    }
-    return text;
-  };
-  EXPECT_EQ(satz(20), "3|0|0|1|0|0|Store|17|bleibt|");
-  EXPECT_EQ(satz(21), "3|0|0|1|1|0|Licht|30||");
-  EXPECT_EQ(satz(22), "3|0|0|1|1|0|Dimmer|519||");
-  EXPECT_EQ(satz(23), "3|0|0|1|0|0|Taste|640||");
-  projekt.App_typ[0] = 45;
+  Projekt vorher = projekt;
+  for (int j = 0; j < 5; ++j) automatik.fuellen(0, j, projekt.App_eigenschaften.zeile(20 + j));
+  EXPECT_EQ(Geaendert(vorher),
+            "App_eigenschaften(20,0)=3 App_eigenschaften(20,3)=1 App_eigenschaften(20,7)=0 "
+            "App_eigenschaften(20,8)=3 App_eigenschaften(20,9)=Store App_eigenschaften(21,0)=3 "
+            "App_eigenschaften(21,3-4)=1 App_eigenschaften(21,7)=0 App_eigenschaften(21,8)=1 "
+            "App_eigenschaften(21,9)=Licht App_eigenschaften(21,11)=30 App_eigenschaften(22,0)=3 "
+            "App_eigenschaften(22,3-4)=1 App_eigenschaften(22,7)=0 App_eigenschaften(22,8)=2 "
+            "App_eigenschaften(22,9)=Dimmer App_eigenschaften(22,11)=519 App_eigenschaften(23,0)=3 "
+            "App_eigenschaften(23,3)=1 App_eigenschaften(23,7)=0 App_eigenschaften(23,9)=Taste")
+      << "the fifth key is beyond the device";
+  projekt.App_typ[0] = 45;  // nobody presses a motion sensor
+  vorher = projekt;
   automatik.fuellen(0, 0, projekt.App_eigenschaften.zeile(20));
-  EXPECT_EQ(feld(20, App_geraet), "0");
-  automatik.fuellen(0, 4, projekt.App_eigenschaften.zeile(24));  // beyond the device
-  EXPECT_EQ(feld(24, App_geraet), "0");
-  EXPECT_EQ(feld(24, App_icon_name), "0");
+  EXPECT_EQ(Geaendert(vorher), "App_eigenschaften(20,0)=0");
 }
 
 TEST_F(App, PageEditsACopyOfTheDevicesRecords) {

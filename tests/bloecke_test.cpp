@@ -23,32 +23,19 @@ std::string Ab(const Block& b, std::size_t von, std::size_t n) { return Hex(b).s
 
 std::string Null(std::size_t n) { return std::string(2 * n, '0'); }
 
-template <class... A>
-Block Gepackt(void (*packer)(A..., Block&), std::type_identity_t<A>... a) {
+// What a packer makes of its arguments.
+Block Gepackt(auto packer, const auto&... argumente) {
   Block b;
-  packer(a..., b);
-  return b;
-}
-Block Gepackt(void (*packer)(const Projekt&, Block&), const Projekt& p) {
-  Block b;
-  packer(p, b);
-  return b;
-}
-Block Gepackt(void (*packer)(const Projekt&, int, Block&), const Projekt& p, int zeile) {
-  Block b;
-  packer(p, zeile, b);
+  packer(argumente..., b);
   return b;
 }
 
 TEST(Parameterbloecke, NeustartDerAktoren) {
   Projekt p;
   EXPECT_EQ(Hex(Gepackt(Block_a, p)), Null(128));
-  p.Relais_neustart[0] = 1;
-  p.Relais_neustart[9] = 1;
-  p.Relais_neustart[15] = 2;
-  p.Relais_neustart[16] = 2;
+  for (const int ein : {0, 9, 511}) p.Relais_neustart[ein] = 1;
+  for (const int vorher : {15, 16}) p.Relais_neustart[vorher] = 2;
   p.Relais_neustart[17] = 3;  // no such state
-  p.Relais_neustart[511] = 1;
   const Block b = Gepackt(Block_a, p);
   EXPECT_EQ(Ab(b, 0, 8), "0201800000000001");
   EXPECT_EQ(Ab(b, 124, 4), "80000000");
@@ -104,14 +91,7 @@ TEST(Parameterbloecke, Wetter) {
   EXPECT_EQ(Gepackt(Block_w, p).laenge(), 242);
   // Function 0 as reset: output 1, thresholds 1, no comparison, no waiting, no repeating.
   EXPECT_EQ(Ab(Gepackt(Block_w, p), 0, 32),
-            "FC00"
-            "000002FF"
-            "0AB4"
-            "0101010101"
-            "000A"
-            "00000000"
-            "00000000FFFFFFFF"
-            "0000000000");
+            "FC00000002FF0AB40101010101000A0000000000000000FFFFFFFF0000000000");
 
   p.App_typ[0] = 75;  // the first Kombination is none for devices
   p.App_text[0] = "7";
@@ -131,26 +111,16 @@ TEST(Parameterbloecke, Wetter) {
   p.Wetter_licht[f] = "249";
   p.Wetter_innen[f] = "50";
   p.Wetter_wind[f] = "20";
-  p.Wetter_v_regen[f] = 1;
-  p.Wetter_undoder[f] = 1;
-  p.Wetter_start[f] = 1;
-  p.Wetter_v_defekt[f] = 1;
-  p.Wetter_v_wind[f] = 2;
-  p.Wetter_v_aussen[f] = 2;
-  p.Wetter_v_innen[f] = 1;
-  p.Wetter_v_sued[f] = 1;
+  for (auto* eins : {&p.Wetter_v_regen, &p.Wetter_undoder, &p.Wetter_start, &p.Wetter_v_defekt,
+                     &p.Wetter_v_innen, &p.Wetter_v_sued}) {
+    (*eins)[f] = 1;
+  }
+  p.Wetter_v_wind[f] = p.Wetter_v_aussen[f] = 2;
   p.Wetter_warte1[f] = "00.00.30";
   p.Wetter_warte2[f] = "00.00.01";
   p.Wetter_wiederh1[f] = "01.00.00";
   p.Wetter_wiederh2[f] = "";
-  EXPECT_EQ(Ab(Gepackt(Block_w, p), 212, 30),
-            "018000FF"
-            "09E2"
-            "0A0B0CF932"
-            "00C8"
-            "E1410022"
-            "001D00000E0FFFFF"
-            "0000000000");
+  EXPECT_EQ(Ab(Gepackt(Block_w, p), 212, 30), "018000FF09E20A0B0CF93200C8E1410022001D00000E0FFFFF0000000000");
   p.Wetter_aktiv[f] = "0";
   p.Wetter_v_regen[f] = 2;
   EXPECT_EQ(Ab(Gepackt(Block_w, p), 225, 4), "00000000");
@@ -178,8 +148,7 @@ TEST(Zeitbloecke, Datentabelle) {
   p.Seq_flag[5] = 1;
   p.Seq_uhr[5] = 1;
   p.Seq_mo_so[5] = 1;
-  Block b;
-  Datentabelle(p, e.Richt_modus, e.Sowi_datum, b);
+  const Block b = Gepackt(Datentabelle, p, e.Richt_modus, e.Sowi_datum);
   EXPECT_EQ(b.laenge(), 83);
   EXPECT_EQ(Ab(b, 0, 5), "022622FFFF");             // 26 x 372 + 2 x 31 + 28 = 9762
   EXPECT_EQ(Ab(b, 39, 2 + 23), "340B" + Null(23));  // 35 x 372 + 9 x 31 + 24 = 13323
@@ -188,8 +157,7 @@ TEST(Zeitbloecke, Datentabelle) {
   EXPECT_EQ(Ab(b, 80, 3), "05E173");        // 0xE000 + 11 x 31 + 30
 
   e.Sowi_datum[1] = "kein Tag";  // before the first day: negative, fits nowhere
-  Block kurz;
-  Datentabelle(p, 1, e.Sowi_datum, kurz);
+  const Block kurz = Gepackt(Datentabelle, p, 1, e.Sowi_datum);
   EXPECT_TRUE(kurz.zu_breit());
   EXPECT_EQ(Hex(kurz), "012622");
   EXPECT_EQ(Hex(Gepackt(Aufholbyte, p)), "07");
@@ -201,16 +169,13 @@ TEST(Zeitbloecke, Schaltzeitenseite) {
   Uhr_tafel t{schaltet_nicht};
   t(11, 30, 0) = 0x0102;
   t(11, 30, 255) = 0;
-  Block b;
-  Schaltzeitenseite(t, 11, 30, b);
+  const Block b = Gepackt(Schaltzeitenseite, t, 11, 30);
   EXPECT_EQ(b.laenge(), 528);
   EXPECT_EQ(Ab(b, 0, 4), "0102FFFF");
   EXPECT_EQ(Ab(b, 510, 18), "0000" + std::string(32, 'F'));
   t(0, 0, 3) = 65536;
-  Block kurz;
-  Schaltzeitenseite(t, 0, 0, kurz);
-  EXPECT_TRUE(kurz.zu_breit());
-  EXPECT_EQ(Hex(kurz), "FFFFFFFFFFFF");
+  EXPECT_TRUE(Gepackt(Schaltzeitenseite, t, 0, 0).zu_breit());
+  EXPECT_EQ(Hex(Gepackt(Schaltzeitenseite, t, 0, 0)), "FFFFFFFFFFFF");
 }
 
 TEST(Zeitbloecke, Stempel) {
@@ -306,18 +271,15 @@ TEST(Ereignistabellen, Dimmerseiten) {
   for (int n = 0; n < 32; ++n) leer += "0001010101000000";
   EXPECT_EQ(Hex(Gepackt(Dimmerseite_eingang, p, 5)), leer);
 
-  const auto setzen = [](auto& feld, int e, int d, std::array<int, 4> werte) {
-    for (int n = 0; n < 4; ++n) feld(e, d, n) = static_cast<i16>(werte[static_cast<std::size_t>(n)]);
-  };
-  const std::pair<int, std::array<int, 4>> dimmer[] = {{0, {1, 17, 1, 15}},
+  const std::pair<int, std::array<i16, 4>> dimmer[] = {{0, {1, 17, 1, 15}},
                                                        {1, {16, 0, 2, 3}},
                                                        {2, {17, 1, 100, 0}},
                                                        {3, {0, 16, 0, 8}},
                                                        {127, {18, 2, 300, 0}}};
   for (const auto& [d, werte] : dimmer) {
-    setzen(p.Ein_dimmer, 5, d, werte);
-    setzen(p.Uhr_dimmer, 5, d, werte);
-    setzen(p.Tev_dimmer, 5, d, werte);
+    for (const auto zeile : {p.Ein_dimmer.zeile(5), p.Uhr_dimmer.zeile(5), p.Tev_dimmer.zeile(5)}) {
+      std::ranges::copy(werte, zeile.subspan(4 * d, 4).begin());
+    }
   }
   // Bits 0 (up 0), 1 (down 0), 4 (up 2), 5 (down 2); toggle 1 and 2, memory 0 and 3.
   EXPECT_EQ(Ab(Gepackt(Dimmerseite_eingang, p, 5), 0, 8), "3300026401F30896");
@@ -358,27 +320,26 @@ TEST(Plan, BloeckeFensterUndFortschritt) {
   const auto neu = zeilen({.nur_geaenderte = true});
   ASSERT_EQ(neu.size(), 8U + 1 + 256 + 1);
   EXPECT_EQ(neu[6].substr(0, 20), "W 006000 0060F1 FC00");
-  EXPECT_EQ(neu[7].substr(0, 16), "W 362000 362052 ");
-  EXPECT_EQ(neu[8], "LS 07");
-  EXPECT_EQ(neu[264], "W 3FFC00 3FFC01 3C00");
-  EXPECT_EQ(neu[265].substr(0, 32), "W 000800 00081F 00000000000000AA");
 
   p.Uhr_tabelle_geaendert = 1;
-  p.Ein_funktext[1023] = 1;
-  p.Uhr_funktext[255] = 1;
-  p.Tev_funktext[63] = 1;
+  p.Ein_funktext[1023] = p.Uhr_funktext[255] = p.Tev_funktext[63] = 1;
+  EXPECT_EQ(zeilen({.nur_geaenderte = true}).size(), 8U + 1 + 372 + 6 + 256 + 1);
+  // The last windows of the sections, the first of the timer events.
   const auto alle = zeilen({.nur_geaenderte = false, .sperren = true});
   ASSERT_EQ(alle.size(), 8U + 2 + 372 + 2 * (1024 + 256 + 64) + 256 + 1 + 1);
-  EXPECT_EQ(alle[8], "LD 01");
-  EXPECT_EQ(alle[10].substr(0, 16), "W 362800 362A0F ");
-  EXPECT_EQ(alle[381].substr(0, 16), "W 3BF400 3BF60F ");
-  EXPECT_EQ(alle[382 + 1023].substr(0, 16), "W 207800 2078CB ");
-  EXPECT_EQ(alle[382 + 2047].substr(0, 16), "W 207C00 207CFF ");
-  EXPECT_EQ(alle[382 + 2048 + 255].substr(0, 16), "W 2C7800 2C796B ");
-  EXPECT_EQ(alle[382 + 2560].substr(0, 16), "W 208000 2080CB ");
-  EXPECT_EQ(alle.back(), "LD 00");
-  const auto einzelne = zeilen({.nur_geaenderte = true});
-  EXPECT_EQ(einzelne.size(), 8U + 1 + 372 + 6 + 256 + 1);
+  const std::pair<std::size_t, const char*> fenster[] = {{7, "W 362000 362052 "},
+                                                         {8, "LD 01"},
+                                                         {9, "LS 07"},
+                                                         {10, "W 362800 362A0F "},
+                                                         {381, "W 3BF400 3BF60F "},
+                                                         {1405, "W 207800 2078CB "},
+                                                         {2429, "W 207C00 207CFF "},
+                                                         {2685, "W 2C7800 2C796B "},
+                                                         {2942, "W 208000 2080CB "},
+                                                         {3325, "W 3FFC00 3FFC01 3C00"},
+                                                         {3326, "W 000800 00081F 00000000000000AA"},
+                                                         {3327, "LD 00"}};
+  for (const auto& [n, anfang] : fenster) EXPECT_TRUE(alle.at(n).starts_with(anfang)) << alle.at(n);
 
   const auto plan = Plan();
   EXPECT_EQ(Fortschritt_bei(plan[2], 0), (Fortschritt{3, 33}));

@@ -108,35 +108,24 @@ TEST(Projektdatei, EveryValueStandsInItsLine) {
   } const faelle[] = {
       {7, [](Projekt& p) { p.Notizen = "a\r\nö"; }, "a\xFD\xFA\xF6"},
       {11, [](Projekt& p) { p.Sowi_modus[2] = -32768; }, "-32768"},
-      {243, [](Projekt& p) { p.Wetter_start[7] = 1; }, "1"},
       {215, [](Projekt& p) { p.Wetter_aktiv[7] = "€"; }, "\x80"},
       {755, [](Projekt& p) { p.Grp_led[255] = 0; }, "0"},
       {1779, [](Projekt& p) { p.Ein_funktext[1023] = 255; }, "255"},
       {2100, [](Projekt& p) { p.Uhr_tabelle_geaendert = 1; }, "1"},
-      {3380, [](Projekt& p) { p.Ein_text[1023] = "Küche"; },
-       "K\xFC"
-       "che"},
       {4404, [](Projekt& p) { p.Uhr_f7[255] = 1; }, "1"},
       {5684, [](Projekt& p) { p.Uhr_f5[255] = "00.10.00"; }, "00.10.00"},
-      {5690, [](Projekt& p) { p.Seq_flag[5] = 1; }, "1"},
       {7546, [](Projekt& p) { p.Relais_text[511] = " r "; }, " r "},
       {8192, [](Projekt& p) { p.Seq_datum[5] = "01.02.2026"; }, "01.02.2026"},
       {8256, [](Projekt& p) { p.Timer_zeit[47] = "17.59.59"; }, "17.59.59"},
-      {8257, [](Projekt&) {}, ""},
       {9280, [](Projekt& p) { p.Relais_neustart_a[511] = 2; }, "2"},
-      {10304, [](Projekt&) {}, ""},
       {10304, [](Projekt& p) { p.Ein_led[1023] = 0; }, "0"},
       {10305, [](Projekt&) {}, "1"},
       {10306, [](Projekt&) {}, ""},
       {10712, [](Projekt& p) { p.Grp_thermo[255] = 9; }, "9"},
-      {10858, [](Projekt&) {}, "0"},
-      {11114, [](Projekt&) {}, "5"},
       {11117, [](Projekt& p) { p.Seq_neustart = 1; }, "1"},
-      {11118, [](Projekt&) {}, "120"},
       {11122, [](Projekt&) {}, "6"},
       {11125, [](Projekt& p) { p.Enocean_empf_ort[0] = "Keller"; }, "Keller"},
       {11171, [](Projekt& p) { p.App_allgemein[0] = "Haus"; }, "Haus"},
-      {11281, [](Projekt& p) { p.Kamera_text[99] = ""; }, ""},
       // A Kombination in use adds its 307 lines behind the texts, and 128 lines of radio.
       {500 + 1, [](Projekt& p) { p.Komb_text[9] = "EG", p.Komb_text2[9] = "Bad"; }, "Bad"},
       {500 + 3 + 45, [](Projekt& p) { p.Komb_text[9] = "EG", p.App_typ[9 * 16 + 15] = 33; }, "33"},
@@ -162,13 +151,13 @@ TEST(Projektdatei, EveryValueStandsInItsLine) {
 
 TEST(Projektdatei, RoundTripIsExact) {
   for (const char* version : {"910", "900", "800"}) {
-    const Projekt p = Volles_projekt(version);
-    const std::string bytes = Projekt_schreiben(p);
-    Projekt gelesen;
-    ASSERT_TRUE(Projekt_lesen(bytes, gelesen));
-    EXPECT_TRUE(Projekt_schreiben(gelesen) == bytes) << version;
-    EXPECT_EQ(gelesen.App_text[3 * 16], "") << "devices of an unused slot are not kept";
-    EXPECT_EQ(gelesen.App_text[4 * 16], p.App_text[4 * 16]);
+    for (const Projekt& p : {Neues_projekt(version), Volles_projekt(version)}) {
+      const std::string bytes = Projekt_schreiben(p);
+      Projekt gelesen;
+      ASSERT_TRUE(Projekt_lesen(bytes, gelesen));
+      EXPECT_TRUE(Projekt_schreiben(gelesen) == bytes) << version;
+      EXPECT_EQ(gelesen.App_text[3 * 16], "") << "devices of an unused slot are not kept";
+    }
   }
   // The largest project: everything is in use, so everything comes back.
   Projekt p = Volles_projekt("910");
@@ -234,7 +223,7 @@ TEST(Projektdatei, EachFieldConvertsByItsRule) {
   EXPECT_EQ(p.App_eigenschaften(0, +App_rueckmeldung), "640");
 }
 
-TEST(Projektdatei, AnyCutAndAnyGarbageOpens) {
+TEST(Projektdatei, AFileOpensHoweverItIsCut) {
   Projekt voll = Volles_projekt("910");
   for (int i = 4; i < eingangsereignisse; ++i) voll.Ein_leer[i] = 0;
   for (int i = 4; i < uhrereignisse; ++i) voll.Uhr_leer[i] = 0;
@@ -249,24 +238,7 @@ TEST(Projektdatei, AnyCutAndAnyGarbageOpens) {
   Projekt p;
   ASSERT_TRUE(Projekt_lesen(std::string_view(bytes).substr(0, kennung + 4), p));
   EXPECT_EQ(p.Projekt_kennung, "0123");
-  EXPECT_EQ(p.Notizen, voll.Notizen);
-  EXPECT_EQ(p.Sowi_modus[0], 1);
-  EXPECT_EQ(p.Grp_typ[0], 5);
-  EXPECT_EQ(p.Kamera_text[0], "X");
-
-  std::mt19937 zufall(3);
-  for (int lauf = 0; lauf < 21; ++lauf) {
-    static constexpr const char* versionen[] = {"910", "900", "800", "710", "700", "600", "500"};
-    std::string muell = std::string("\r\n") + versionen[lauf % 7] + "\r\n";
-    static constexpr std::string_view zeichen = "01\r\n\n\r-9@#X\xFD\xFF\0";
-    for (int i = 0; i < 20000; ++i) {
-      muell += lauf % 3 == 0 ? static_cast<char>(zufall()) : zeichen[zufall() % zeichen.size()];
-      if (lauf % 3 == 2) muell += "\r\n";
-    }
-    Projekt q;
-    ASSERT_TRUE(Projekt_lesen(muell, q));
-    Projekt_schreiben(q);
-  }
+  EXPECT_EQ(Geaendert({}, p), "Datei_version=910 Notizen=" + voll.Notizen + " Projekt_kennung=0123");
   for (const std::string_view kurz : {"", "\r\n", "910", "910\r\n", "\n910\n", "x\r\n910 \r\n"}) {
     Projekt q = Neues_projekt();
     EXPECT_FALSE(Projekt_lesen(kurz, q));
@@ -305,7 +277,6 @@ class Befehle : public testing::Test {
     projekt.Projekt_name = ordner / name;
     return Projekt_laden();
   }
-  std::string Pfad_ohne_endung() const { return ordner / "haus"; }
 
   Testordner ordner;
   Meldungsskript skript;
@@ -313,23 +284,21 @@ class Befehle : public testing::Test {
 
 TEST_F(Befehle, SavesAndLoadsUnderOneName) {
   projekt = Volles_projekt("910");
-  projekt.Projekt_name = Pfad_ohne_endung();
+  projekt.Projekt_name = ordner / "haus";
   ASSERT_EQ(Projekt_speichern(), Speichern::gespeichert);
-  EXPECT_TRUE(Dateibytes(ordner / "haus.zav") == Projekt_schreiben(projekt));
-  EXPECT_EQ(einstellungen.last_file[0], Pfad_ohne_endung());
+  const std::string bytes = Projekt_schreiben(projekt);
+  EXPECT_TRUE(Dateibytes(ordner / "haus.zav") == bytes);
+  EXPECT_EQ(einstellungen.last_file[0], ordner / "haus");
 
-  const Projekt gespeichert = projekt;
   einstellungen = Einstellungen{};
   projekt.Notizen = "ungespeichert";
   sitzung.Projekt_geaendert = 1;
   sitzung.Master_neu_pruefen = 0;
   ASSERT_EQ(Oeffnen("haus.zav"), Laden::geladen);
-  EXPECT_EQ(projekt.Projekt_name + projekt.Projekt_kennung + projekt.Notizen,
-            gespeichert.Projekt_name + gespeichert.Projekt_kennung + gespeichert.Notizen);
-  EXPECT_EQ(sitzung.Projekt_geaendert, 0);
-  EXPECT_EQ(sitzung.Master_neu_pruefen, 1);
-  EXPECT_EQ(sitzung.Marke, "ETB");
-  EXPECT_EQ(einstellungen.last_file[0], Pfad_ohne_endung());
+  EXPECT_TRUE(Projekt_schreiben(projekt) == bytes);
+  EXPECT_EQ(projekt.Projekt_name, ordner / "haus");
+  EXPECT_TRUE(sitzung.Projekt_geaendert == 0 && sitzung.Master_neu_pruefen == 1 && sitzung.Marke == "ETB");
+  EXPECT_EQ(einstellungen.last_file[0], ordner / "haus");
   EXPECT_EQ(skript.zeiger(), Zeiger::normal);
 }
 
@@ -360,30 +329,22 @@ TEST_F(Befehle, SavingTellsWhatItMust) {
 }
 
 TEST_F(Befehle, LoadingTellsWhatItMust) {
-  const Meldung unbekannt{
-      "Öffnen nicht möglich: diese Datei wurde evtl. mit einer neueren Version von ZAVlink erstellt und "
-      "gespeichert.\r\n\r\n",
-      "Info", Knoepfe::OK, Symbol::Information};
-  projekt.Datei_version = "910";
-  Datei_anlegen(ordner / "kurz.zav", "nur eine Zeile\r\n");
-  skript.erwarte(unbekannt);
-  EXPECT_EQ(Oeffnen("kurz.zav"), Laden::unbekannt);
-  EXPECT_EQ(projekt.Datei_version, "910");
-  EXPECT_EQ(projekt.Projekt_name, "Namenlos");
-
-  Datei_anlegen(ordner / "neuer.zav", "x\r\n92\xFC\r\n");
-  Meldung mit_version = unbekannt;
-  mit_version.text += "Die Dateiversion ist: 92ü";
-  skript.erwarte(mit_version);
-  projekt.Notizen = "von vorher";
-  EXPECT_EQ(Oeffnen("neuer.zav"), Laden::unbekannt);
-  EXPECT_EQ(projekt.Datei_version, "92ü");
-  EXPECT_EQ(projekt.Notizen, "");
-
-  Datei_anlegen(ordner / "lang.zav", "x\r\n9100\r\n");
-  skript.erwarte(unbekannt);
-  EXPECT_EQ(Oeffnen("lang.zav"), Laden::unbekannt);
-
+  struct {
+    const char *bytes, *version, *genannt;
+  } const faelle[] = {{"nur eine Zeile\r\n", "", ""},
+                      {"x\r\n92\xFC\r\n", "92ü", "Die Dateiversion ist: 92ü"},
+                      {"x\r\n9100\r\n", "9100", ""}};
+  for (const auto& f : faelle) {
+    Datei_anlegen(ordner / "haus.zav", f.bytes);
+    projekt.Notizen = "von vorher";
+    skript.erwarte({std::string("Öffnen nicht möglich: diese Datei wurde evtl. mit einer neueren Version von "
+                                "ZAVlink erstellt und gespeichert.\r\n\r\n") +
+                        f.genannt,
+                    "Info", Knoepfe::OK, Symbol::Information});
+    EXPECT_EQ(Oeffnen("haus.zav"), Laden::unbekannt);
+    EXPECT_EQ(projekt.Datei_version, f.version);
+    EXPECT_EQ(projekt.Projekt_name + projekt.Notizen, "Namenlos");
+  }
   skript.erwarte({"Datei oder Ordner nicht gefunden", "ZAVlink: Fehler 2", Knoepfe::OK, Symbol::Stopp});
   EXPECT_EQ(Oeffnen("fehlt.zav"), Laden::nicht_geoeffnet);
   EXPECT_EQ(projekt.Projekt_name, "Namenlos");
@@ -405,25 +366,22 @@ TEST_F(Befehle, Generation800IsAnnouncedAndItsDimmersCorrectedWithoutTheMarker) 
   static constexpr i16 paare[][3] = {{1, 1, 1}, {1, 0, 1},   {17, 17, 17}, {17, 3, 4},
                                      {0, 2, 1}, {0, 18, 17}, {5, 7, 7}};
   for (int j = 0; j < 7; ++j) p.Ein_dimmer(2, j, 0) = paare[j][0], p.Ein_dimmer(2, j, 1) = paare[j][1];
-  auto zeilen = Zeilen(Projekt_schreiben(p));
-  Datei_anlegen(ordner / "haus.zav", Verbinden(zeilen));
-  zeilen[2] = "";
-  Datei_anlegen(ordner / "alt.zav", Verbinden(zeilen));
   const Meldung hinweis{
       "Diese Datei wurde mit ZAVlink 8 erstellt und wird weiterhin so gespeichert. Wenn Sie die neuen "
       "Funktionen von ZAVlink-Version 9.102 nutzen möchten, wählen Sie 'Speichern unter' und den Dateityp 9. "
       "Achtung: Das Betriebssystem des ZAVmasters muss auf die Version 9 aufgerüstet werden.",
       "Öffnen mit der neuen Version von ZAVlink", Knoepfe::OK, Symbol::Information};
-
-  skript.erwarte(hinweis);
-  ASSERT_EQ(Oeffnen("haus.zav"), Laden::geladen);
-  EXPECT_EQ(projekt.Ein_dimmer(2, 1, 1), 0);
-  EXPECT_EQ(projekt.Ein_funktext[2], 0);
-  skript.erwarte(hinweis);
-  ASSERT_EQ(Oeffnen("alt.zav"), Laden::geladen);
-  for (int j = 0; j < 7; ++j) EXPECT_EQ(projekt.Ein_dimmer(2, j, 1), paare[j][2]) << j;
-  EXPECT_EQ(projekt.Ein_funktext[2], 1);
-  EXPECT_EQ(sitzung.Marke, "");
+  auto zeilen = Zeilen(Projekt_schreiben(p));
+  for (const char* marke : {"ETB", ""}) {
+    zeilen[2] = marke;
+    Datei_anlegen(ordner / "haus.zav", Verbinden(zeilen));
+    skript.erwarte(hinweis);
+    ASSERT_EQ(Oeffnen("haus.zav"), Laden::geladen);
+    const bool alt = marke[0] == '\0';
+    for (int j = 0; j < 7; ++j) EXPECT_EQ(projekt.Ein_dimmer(2, j, 1), paare[j][alt ? 2 : 1]) << j;
+    EXPECT_EQ(projekt.Ein_funktext[2], alt);
+    EXPECT_EQ(sitzung.Marke, marke);
+  }
 }
 
 TEST_F(Befehle, LastFilesKeepTheNewestFirst) {
@@ -434,15 +392,12 @@ TEST_F(Befehle, LastFilesKeepTheNewestFirst) {
     for (const str& e : einstellungen.last_file.alle()) liste += e + " ";
     return liste;
   };
-  EXPECT_EQ(eintragen("a"), "a --- --- --- ");
-  EXPECT_EQ(eintragen("b"), "b a --- --- ");
-  EXPECT_EQ(eintragen("c"), "c b a --- ");
+  for (const char* name : {"a", "b", "c"}) eintragen(name);
   EXPECT_EQ(eintragen("a"), "a c b --- ");
   EXPECT_EQ(eintragen("a"), "a c b --- ");
   eintragen("d");
   EXPECT_EQ(eintragen("b"), "b d a c ");
   EXPECT_EQ(eintragen("e"), "e b d a ");
-  EXPECT_EQ(eintragen("b"), "b e d a ");
 }
 
 }  // namespace
