@@ -288,11 +288,11 @@ TEST_F(Funktionen, OutputTestNeedsTheNewestGeneration) {
   EXPECT_EQ(geoeffnet, 1);
   Funktionsmaske::ausgangssimulation_oeffnen = nullptr;
   projekt.Datei_version = "900";
-  d.erwarte_text(
+  druecken(
+      m.Ausgaenge_testen,
       "Wenn Sie die neuen Funktionen von ZAVlink-Version 9.102 nutzen möchten, wählen Sie 'Speichern unter' "
       "und den Dateityp 910. Achtung: Das Betriebssystem des ZAVmasters muss auf die Version 9 aufgerüstet "
       "werden.");
-  m.Ausgaenge_testen.druecken();
 }
 
 TEST(Funktionsworte, NamesAndWords) {

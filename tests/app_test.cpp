@@ -230,11 +230,11 @@ TEST_F(App, ExportAsksForTheFileAndKeepsTheOldOneOnFailure) {
   EXPECT_EQ(Dateibytes(ordner / "a.xml"), App_xml_bauen(projekt));
   EXPECT_EQ(f.Label2.titel, "Geschrieben: " + ordner / "a.xml");
   d.erwarte_datei(Dateiwahl{.pfad = ordner / "fehlt/a.xml"});
-  d.erwarte(
+  druecken(
+      f.Command1,
       {"Datei oder Ordner nicht gefunden. Die Datei mit diesem Namen ist möglicherweise schreibgeschützt. "
        "Speichern Sie sie mit einem anderen Namen oder in einen anderen Ordner.",
        "ZAVlink: Fehler 2", Knoepfe::OK, Symbol::Stopp});
-  f.Command1.druecken();
   EXPECT_EQ(f.Label2.titel, "");
   projekt.Datei_version = "900";
   d.erwarte_text(
@@ -342,21 +342,18 @@ TEST_F(App, CamerasAreEditedDeletedAndKeptAsLines) {
     f.Combo2.waehlen("I14-2:  - Tor");
     f.Text3.eingeben("192.168.1.256");
     f.Text4.eingeben("80");
-    d.erwarte({.text = "Zahl zu gross"});
-    f.Command5.druecken();
+    druecken(f.Command5, {.text = "Zahl zu gross"});
     EXPECT_EQ(f.Label1.titel, "Die IP-Adresse ist nicht in Ordnung");
     f.Text3.eingeben("192.168.001.020");
     f.Command5.druecken();
     EXPECT_EQ(f.Text3.text(), "192.168.1.20");
     f.TabStrip1.waehlen(0);
     EXPECT_EQ(f.Text1.text(), "");
-    d.erwarte_text("'65531' ist kein Port (0 bis 65530).");
-    f.Command1.druecken();
+    druecken(f.Command1, "'65531' ist kein Port (0 bis 65530).");
     EXPECT_EQ(f.TabStrip1.position(), 1);
     f.Text6.eingeben("6000");
     f.Text2.eingeben("a@03#b");
-    d.erwarte_text("'a@03#b' enthält die Zeichenfolge einer Feldmarkierung (@, zwei Ziffern, #).");
-    f.Command1.druecken();
+    druecken(f.Command1, "'a@03#b' enthält die Zeichenfolge einer Feldmarkierung (@, zwei Ziffern, #).");
     f.Text2.eingeben("a@3#b");
     EXPECT_EQ(projekt.Kamera_text[1], "X");
     f.Command1.druecken();
@@ -373,11 +370,9 @@ TEST_F(App, CamerasAreEditedDeletedAndKeptAsLines) {
   EXPECT_EQ(f.Combo1.text(), "Panasonic");
   const Meldung frage{"Wollen Sie diese Kamera und alle Einstellungen wirklich löschen?", "Löschen",
                       Knoepfe::Ja_Nein, Symbol::Warnung, 2};
-  d.erwarte(frage, Antwort::Nein);
-  f.Command3.druecken();
+  druecken(f.Command3, frage, Antwort::Nein);
   EXPECT_EQ(f.Text1.text(), "Eingang");
-  d.erwarte(frage, Antwort::Ja);
-  f.Command3.druecken();
+  druecken(f.Command3, frage, Antwort::Ja);
   EXPECT_EQ(f.Text1.text(), "");
   f.Command1.druecken();
   EXPECT_EQ(projekt.Kamera_text[1], "X");

@@ -43,8 +43,7 @@ TEST_F(Astro, FixedTimeWithRandomShiftGoesIntoTheProjectOnlyWithOk) {
   f.Check4.haken(true);
   EXPECT_EQ(f.Text19.text(), "Richtig: hh.mm.ss");
   f.Text19.eingeben("00.31.00");
-  d.erwarte({.text = "Maximalwert eingesetzt"});
-  f.Command7.druecken();
+  druecken(f.Command7, {.text = "Maximalwert eingesetzt"});
   ASSERT_TRUE(f.bild());
   EXPECT_EQ(f.bild()->marken, (std::vector<Marke>{{Rolle::schaltzeit, 5300, "12.00.00"}}));
   EXPECT_EQ(f.bild()->band, (Band{5300, 5500, "12.00.00", "12.30.00"}));
@@ -97,8 +96,7 @@ TEST_F(Astro, CheckStopsAtABadTimeAndGoesOnAfterABound) {
   projekt.Uhr_f4[e] = "00.60.00";
   const Projekt vorher = projekt;
   Uhr_Astro f(e, "", "Untergang + Zufall");
-  d.erwarte({.text = "Bitte Eingabe korrigieren"});
-  f.Command1.druecken();
+  druecken(f.Command1, {.text = "Bitte Eingabe korrigieren"});
   EXPECT_TRUE(f.offen());
   EXPECT_EQ(f.Text18.text(), "Minute zu gross");
   EXPECT_EQ(f.fokus(), &f.Text18);
@@ -106,8 +104,7 @@ TEST_F(Astro, CheckStopsAtABadTimeAndGoesOnAfterABound) {
   f.Text18.eingeben("00.10.00");
   d.erwarte_text("Maximalwert eingesetzt");
   d.erwarte_text("Minimalwert eingesetzt");
-  d.erwarte_text("Maximalwert eingesetzt");
-  f.Command1.druecken();
+  druecken(f.Command1, "Maximalwert eingesetzt");
   EXPECT_FALSE(f.offen());
   EXPECT_EQ(Geaendert(vorher),
             "Uhr_tabelle_geaendert=1 Uhr_f1(200)=02.00.00 Uhr_f2(200)=13.00.00 Uhr_f3(200)=23.00.00 "
@@ -184,7 +181,7 @@ TEST_F(Astro, StatusCountsOnlyTimesBeyondALimit) {
 
 TEST_F(Astro, SunInformationOfADayAndAYear) {
   Uhr_Astro astro(e, "", "");
-  d.erwarte_dialog<Uhr_Astro_Rechner>([this](Uhr_Astro_Rechner& f) {
+  druecken<Uhr_Astro_Rechner>(astro.Command5, [this](Uhr_Astro_Rechner& f) {
     EXPECT_EQ(f.Text1.text(), "29.03.2026");
     EXPECT_EQ(f.Text4.text() + " " + f.Text5.text() + " " + f.Text8.text(), "07.18.23 19.58.34 Sommerzeit");
     EXPECT_EQ(f.Text6.text() + " " + f.Text7.text(), "29.03.2026 25.10.2026");
@@ -209,7 +206,6 @@ TEST_F(Astro, SunInformationOfADayAndAYear) {
     EXPECT_EQ(f.Text4.text() + " " + f.Text8.text(), "07.13.42 Winterzeit");
     f.Command1.druecken();
   });
-  astro.Command5.druecken();
   EXPECT_EQ(Sonnenliste(2026).find("29.02.2026"), std::string::npos);
 }
 

@@ -59,13 +59,12 @@ TEST_F(Kleine_editoren, TimersAreNamedTimedAndGivenFunctions) {
   EXPECT_EQ(m.Tevent[60].farbe, Farbe::belegt);
   m.Txtbox_timerbez[1].eingeben("Treppenhaus");
   EXPECT_EQ(m.Tnr[1].farbe, Farbe::belegt);
-  d.erwarte_dialog<Actmask_timer>([](Actmask_timer& a) {
+  druecken<Actmask_timer>(m.Tevent[7], [](Actmask_timer& a) {
     EXPECT_EQ(a.titel(), "Funktionen für Timer-Ereignis: Treppenhaus");
     a.Check2[0].haken(true);
     a.Slider1[0].schieben(30);
     a.Command5.druecken();
   });
-  m.Tevent[7].druecken();
   EXPECT_EQ(m.Tevent[7].farbe, Farbe::belegt);
 
   // Enter goes on: name, times, next row; a wrong time holds it.
@@ -82,8 +81,7 @@ TEST_F(Kleine_editoren, TimersAreNamedTimedAndGivenFunctions) {
 
   m.Ttime[3].eingeben("");
   m.Ttime[4].eingeben("1.00.00");
-  d.erwarte({.text = "Eingabe im Format HH.MM.SS oder HH.MM, Maximalwert 17.59.59"});
-  m.OK.druecken();
+  druecken(m.OK, {.text = "Eingabe im Format HH.MM.SS oder HH.MM, Maximalwert 17.59.59"});
   EXPECT_TRUE(m.offen()) << "Enter does not get past a wrong time";
   m.Ttime[5].eingeben("01.30");
   m.schliessen_wuenschen();
@@ -250,13 +248,12 @@ TEST_F(Kleine_editoren, TheFlatEditorWorksOnAddressGroups) {
   m.Check_thermo.haken(true);
   EXPECT_EQ(Geaendert(vorher), "Grp_led(17)=1 Grp_thermo(17)=1 Ein_text(70)=Licht Ein_led(70)=641");
 
-  d.erwarte_dialog<Actmask>([](Actmask& a) {
+  druecken<Actmask>(m.Command_fkt[2], [](Actmask& a) {
     EXPECT_EQ(a.titel(), "Funktionen für Ereignis: Küche - Licht");
     a.Alle_8_ein.druecken();
     a.Text1[0].eingeben("Decke");
     a.Command5.druecken();
   });
-  m.Command_fkt[2].druecken();
   EXPECT_EQ(projekt.Ein_leer[70], 1);
   EXPECT_EQ(m.Command_fkt[2].farbe, Farbe::belegt);
   EXPECT_EQ(m.Combo_LED[0].eintrag(0).text, "O0-0: Decke");
@@ -270,11 +267,9 @@ TEST_F(Kleine_editoren, TheFlatEditorWorksOnAddressGroups) {
       "gesetzt.\nAusführen?",
       "Warnung vor dem Löschen", Knoepfe::Ja_Nein, Symbol::Warnung, 2};
   vorher = projekt;
-  d.erwarte(warnung, Antwort::Nein);
-  m.Command_loeschen.druecken();
+  druecken(m.Command_loeschen, warnung, Antwort::Nein);
   EXPECT_EQ(Geaendert(vorher), "");
-  d.erwarte(warnung, Antwort::Ja);
-  m.Command_loeschen.druecken();
+  druecken(m.Command_loeschen, warnung, Antwort::Ja);
   EXPECT_EQ(m.Text_ein[6].text(), "");
   EXPECT_EQ(m.Combo_LED[2].text(), "LED dauernd aus");
   EXPECT_EQ(Geaendert(vorher),
@@ -286,10 +281,10 @@ TEST_F(Kleine_editoren, AMultipleSenderTakesSixGroups) {
   projekt.Grp_text[40] = "@meZweiter";
   Einmask m;
   m.Nummer[11].druecken();
-  d.erwarte_text(
+  druecken(
+      m.Command_mehrfach,
       "Der Mehrfachsender belegt 6 aufeinanderfolgende ZAVnummern. Die höchste wählbare Nummer in dieser "
       "Gruppe ist somit die I10");
-  m.Command_mehrfach.druecken();
   m.Nummer[10].druecken();
   m.Command_mehrfach.druecken();
   EXPECT_EQ(projekt.Grp_typ[10], 70);
@@ -300,10 +295,10 @@ TEST_F(Kleine_editoren, AMultipleSenderTakesSixGroups) {
 
   m.TabStrip1.waehlen(2);
   m.Nummer[0].druecken();
-  d.erwarte_text(
+  druecken(
+      m.Command_mehrfach,
       "Es ist bereits ein Mehrfachsender ab I10 definiert. Wie Sie mehrere Mehrfachsender definieren können, "
       "finden Sie in der Anleitung zum IR-Empfänger.");
-  m.Command_mehrfach.druecken();
   EXPECT_EQ(projekt.Grp_typ[32], 5);
   d.erwarte_dialog<Auswahl_Taster>([](Auswahl_Taster& a) { a.Bilder.waehlen("26"); });  // Beo4, another kind
   m.Command_taster.druecken();
@@ -316,11 +311,9 @@ TEST_F(Kleine_editoren, AMultipleSenderTakesSixGroups) {
   m.Nummer[10].druecken();
   const Meldung frage{"Mehrfachsender löschen? Alle Texte und Funktionen bleiben erhalten.",
                       "Warnung vor dem Löschen", Knoepfe::Ja_Nein, Symbol::Warnung, 2};
-  d.erwarte(frage, Antwort::Nein);
-  m.Command_mehrfach.druecken();
+  druecken(m.Command_mehrfach, frage, Antwort::Nein);
   EXPECT_EQ(projekt.Grp_typ[10], 70);
-  d.erwarte(frage, Antwort::Ja);
-  m.Command_mehrfach.druecken();
+  druecken(m.Command_mehrfach, frage, Antwort::Ja);
   EXPECT_EQ(projekt.Grp_typ[10], 5);
 }
 

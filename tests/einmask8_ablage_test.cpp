@@ -9,12 +9,11 @@ namespace {
 class Umzug : public Installation {
  protected:
   void verschieben(Einmask8& m, int alt, int neu, bool einzeln, Antwort a = Antwort::Ja) {
-    d.erwarte_dialog<Dialog_Kombination>([=, this](Dialog_Kombination& k) {
+    druecken<Dialog_Kombination>(m.Command2, [=, this](Dialog_Kombination& k) {
       d.erwarte(wechsel(alt, neu, einzeln), a);
       k.Zellen.waehlen(neu);
       if (a != Antwort::Ja) k.Cancel.druecken();
     });
-    m.Command2.druecken();
   }
 };
 
@@ -104,12 +103,10 @@ TEST_F(Umzug, MovingADeviceTakesItsFunctionsAlong) {
   EXPECT_EQ(projekt.Grp_led[3] + projekt.Grp_led[7], 2);
 
   m.Image3[1].druecken();
-  erwarte("Ungültige Adressen-Anzahl");
-  m.Command2.druecken();
+  druecken(m.Command2, {.text = "Ungültige Adressen-Anzahl"});
   projekt.App_text2[16] = "";
   projekt.App_text2[1] = "";
-  erwarte("Apparat ohne Adresse");
-  m.Command2.druecken();
+  druecken(m.Command2, {.text = "Apparat ohne Adresse"});
 }
 
 TEST_F(Umzug, AThermostatLeavesOthersWhatIsTheirs) {
@@ -136,11 +133,9 @@ TEST_F(Installation, EmptyPlacesHaveNothingToCut) {
   Einmask8 m;
   const auto probieren = [&](Taste& t, const std::string& leer, const std::string& ohne) {
     m.Image3[0].druecken();
-    erwarte(leer);
-    t.druecken();
+    druecken(t, {.text = leer});
     projekt.App_text2[0] = "";
-    erwarte(ohne);
-    t.druecken();
+    druecken(t, {.text = ohne});
   };
   probieren(m.mnuCut, "Nichts zu auszuschneiden, kein Apparat an dieser Stelle", "Nichts auszuschneiden");
   probieren(m.Command12, "Nichts zu kopieren, kein Apparat an dieser Stelle", "Nichts zu kopieren");
@@ -166,8 +161,7 @@ TEST_F(Installation, CutAndPasteKeepsTheAddress) {
             "Dev_text(23)= App_enocean_text3(0)= App_enocean_empf(0)=255 App_eigenschaften(1023,7)=");
 
   m.TreeView1.waehlen("1key1547852");
-  erwarte("Bitte wählen Sie für diesen Apparat die Kombination 'Diverse'");
-  m.Command4.druecken();
+  druecken(m.Command4, {.text = "Bitte wählen Sie für diesen Apparat die Kombination 'Diverse'"});
   m.TreeView1.waehlen("0key1547852");
   m.mnuPaste.druecken();
   EXPECT_EQ(Geaendert(vorher), "Ein_funktext(1000-1023)=1 Ein_led(1023)=640 App_text2(16)=0");
@@ -184,7 +178,7 @@ TEST_F(Installation, CopiesTakeAddressesOfTheirOwn) {
   const auto einfuegen = [&](int alt, int neu) {
     d.erwarte({.text = "Der Apparat in der Zwischenablage hat Adresse i" + std::to_string(alt) +
                        ". Bitte wählen Sie für die einzufügende Kopie eine neue Adresse aus."});
-    d.erwarte_dialog<Dialog_Kombination>([this, alt, neu](Dialog_Kombination& k) {
+    druecken<Dialog_Kombination>(m.mnuPaste, [this, alt, neu](Dialog_Kombination& k) {
       if (neu >= 0) {
         d.erwarte(wechsel(alt, neu, true), Antwort::Ja);
         k.Zellen.waehlen(neu);
@@ -192,11 +186,9 @@ TEST_F(Installation, CopiesTakeAddressesOfTheirOwn) {
         k.Cancel.druecken();
       }
     });
-    m.mnuPaste.druecken();
   };
   const Projekt vorher = projekt;
-  erwarte("Bitte löschen Sie zuerst den alten Apparat.");
-  m.mnuPaste.druecken();
+  druecken(m.mnuPaste, {.text = "Bitte löschen Sie zuerst den alten Apparat."});
   EXPECT_EQ(projekt, vorher);
   m.Image3[1].druecken();
   einfuegen(3, 7);
@@ -226,8 +218,7 @@ TEST_F(Installation, WhatWasCutFindsItsAddressTaken) {
   erwarte(
       "Der Apparat in der Zwischenablage hat Adresse i3. Bitte wählen Sie für die einzufügende Kopie eine "
       "neue Adresse aus.");
-  d.erwarte_dialog<Dialog_Kombination>([](Dialog_Kombination& k) { k.Cancel.druecken(); });
-  m.mnuPaste.druecken();
+  druecken<Dialog_Kombination>(m.mnuPaste, [](Dialog_Kombination& k) { k.Cancel.druecken(); });
   EXPECT_EQ(Belegung(14), 5);
   EXPECT_EQ(m.mnuPaste.frei, true) << "it is nowhere else";
 }
@@ -238,15 +229,12 @@ TEST_F(Installation, DeletedDevicesDoNotComeBack) {
   apparat(0, 0, 75, 60);
   apparat(1, 3, 33, -1);
   Einmask8 m;
-  d.erwarte(loeschfrage("Der Apparat"), Antwort::Nein);
-  m.mnuDelete.druecken();
+  druecken(m.mnuDelete, loeschfrage("Der Apparat"), Antwort::Nein);
   EXPECT_EQ(projekt.App_typ[0], 75);
   m.mnuCopy.druecken();
-  erwarte(
-      "Es ist bereits ein Wettersensor definiert. Pro ZAVmaster kann nur EIN Wettersensor definiert werden.");
-  m.mnuPaste.druecken();
-  d.erwarte(loeschfrage("Der Apparat"), Antwort::Ja);
-  m.Command3.druecken();
+  druecken(m.mnuPaste, {.text = "Es ist bereits ein Wettersensor definiert. Pro ZAVmaster kann nur EIN "
+                                "Wettersensor definiert werden."});
+  druecken(m.Command3, loeschfrage("Der Apparat"), Antwort::Ja);
   EXPECT_EQ(projekt.App_typ[0], 80);
   EXPECT_EQ(m.mnuPaste.frei, false);
   m.TreeView1.waehlen("1key1547852");

@@ -24,6 +24,7 @@
 #include <cmath>
 #include <map>
 #include <optional>
+#include <set>
 
 #include "fenster_bedienen.h"
 #include "fenster_hilfen.h"
@@ -53,10 +54,23 @@ class Alle_fenster : public Fenster {
 
 // ---- what a window looks like ----
 
-void Jedes_element_hat_sein_widget(const Formfenster& f) {
-  for (const Steuerelement* e : f.formular().elemente()) {
+// Each control has a name of its own, stands in the layout once and has its widget; each key does something.
+void Jedes_element_steht_an_einer_stelle(const Formfenster& f) {
+  const auto& elemente = f.formular().elemente();
+  const Anordnung baum = f.formular().anordnung();
+  std::map<const Steuerelement*, int> platziert;
+  for (const Steuerelement* e : Platzierte(baum)) ++platziert[e];
+  EXPECT_EQ(platziert.size(), elemente.size()) << "places what is not its own";
+  std::set<std::string> namen;
+  for (const Steuerelement* e : elemente) {
+    EXPECT_TRUE(namen.insert(e->name()).second) << e->name() << " twice";
+    EXPECT_EQ(platziert[e], 1) << e->name();
     const bool da = Widget_von(f, *e) != nullptr || f.findChild<QAction*>(Q(e->name())) != nullptr;
     EXPECT_TRUE(da) << e->name() << " has no widget";
+    if (const auto* const t = dynamic_cast<const Taste*>(e)) {
+      EXPECT_TRUE(t->wenn_gedrueckt || t->wenn_rechts_gedrueckt || !t->frei || !t->sichtbar)
+          << e->name() << " does nothing";
+    }
   }
 }
 
@@ -156,7 +170,7 @@ TEST_F(Alle_fenster, SindLesbarVollstaendigUndOhneMausBedienbar) {
   for (const Schaustueck& stueck : Formenschau()) {
     SCOPED_TRACE(stueck.name);
     const bool gesehen = Vorfuehren(stueck, still, [](const Formfenster& f) {
-      Jedes_element_hat_sein_widget(f);
+      Jedes_element_steht_an_einer_stelle(f);
       Passt_auf_einen_kleinen_schirm(f);
       Alles_laesst_sich_vorlesen(f);
       Kuerzel_sind_eindeutig(f);

@@ -3,7 +3,9 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <string>
+#include <utility>
 
 #include "form/drehbuch.h"
 #include "link/leitung.h"
@@ -43,6 +45,21 @@ class Pruefstand : public testing::Test {
     projekt.App_typ[16 * k + p] = static_cast<i16>(typ);
     projekt.App_text[16 * k + p] = adresse < 0 ? "" : std::to_string(adresse);
     projekt.App_text2[16 * k + p] = std::to_string(Apparat_art(typ)->adressen);
+  }
+  // Presses the key: this box comes, to the letter, and gets that answer; of a text alone the rest is free.
+  void druecken(Taste& t, const Meldung& box, Antwort a = Antwort::OK) {
+    d.erwarte(box, a);
+    t.druecken();
+  }
+  void druecken(Taste& t, const std::string& text, Antwort a = Antwort::OK) {
+    d.erwarte_text(text, a);
+    t.druecken();
+  }
+  // Presses the key: a form of class F opens, in which spiel acts.
+  template <class F>
+  void druecken(Taste& t, std::function<void(F&)> spiel) {
+    d.erwarte_dialog<F>(std::move(spiel));
+    t.druecken();
   }
 
   Drehbuch d;

@@ -239,7 +239,7 @@ TEST(Projektdatei, AFileOpensHoweverItIsCut) {
   ASSERT_TRUE(Projekt_lesen(std::string_view(bytes).substr(0, kennung + 4), p));
   EXPECT_EQ(p.Projekt_kennung, "0123");
   EXPECT_EQ(Geaendert({}, p), "Datei_version=910 Notizen=" + voll.Notizen + " Projekt_kennung=0123");
-  for (const std::string_view kurz : {"", "\r\n", "910", "910\r\n", "\n910\n", "x\r\n910 \r\n"}) {
+  for (const std::string_view kurz : {"", "\r\n", "910", "910\r\n", "x\r\n\n910\r\n", "x\r\n910 \r\n"}) {
     Projekt q = Neues_projekt();
     EXPECT_FALSE(Projekt_lesen(kurz, q));
   }

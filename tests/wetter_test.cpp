@@ -62,14 +62,12 @@ TEST_F(Wetter, DisplayShowsLiveValuesAndLimitsOnlyTheBars) {
 
   // Nothing of the former values stays when there are none any more.
   sim.wetter_setzen({.gueltig = false});
-  d.erwarte({.text = "Wetterstation defekt"});
-  f.Command2.druecken();
+  druecken(f.Command2, {.text = "Wetterstation defekt"});
   EXPECT_EQ(f.Label24[sonne_ost].titel, "---");
   EXPECT_EQ(f.Label24[8].titel, "Trocken");
   EXPECT_EQ(f.ProgressBar[sonne_ost].wert, 0.0);
   sim.wetter_setzen({.station = simulator::Station::ohne_daten});
-  d.erwarte({.text = "Keine Daten von der Wetterstation"});
-  f.Command2.druecken();
+  druecken(f.Command2, {.text = "Keine Daten von der Wetterstation"});
 }
 
 TEST_F(Wetter, SilentMasterLeavesTheDisplayOpen) {
@@ -85,8 +83,7 @@ TEST_F(Wetter, SilentMasterLeavesTheDisplayOpen) {
   sim.stop();
   d.erwarte_text("TCP-Fehler -111: Fehler beim Öffnen\r\n\r\n127.0.0.1 (Port " +
                  std::to_string(einstellungen.Host_port) + ") nimmt keine Verbindung an.");
-  d.erwarte({.text = "SIO: Fehler 1 bei Open Port"});
-  f.Command2.druecken();
+  druecken(f.Command2, {.text = "SIO: Fehler 1 bei Open Port"});
 }
 
 TEST_F(Wetter, FunctionIsEditedOnBothPages) {
@@ -163,16 +160,14 @@ TEST_F(Wetter, TimesAreTestedWhenLeftAndWhenClosed) {
   d.erwarte({.text = "Bitte Eingabe korrigieren"});
   f.TabStrip1.waehlen(3);
   EXPECT_EQ(f.TabStrip1.position(), 0);
-  d.erwarte({.text = "Bitte Eingabe korrigieren"});
-  f.Command1.druecken();
+  druecken(f.Command1, {.text = "Bitte Eingabe korrigieren"});
   EXPECT_TRUE(f.offen());
   EXPECT_EQ(Geaendert(vorher), "");
   f.Command9.druecken();
   EXPECT_EQ(f.Text13.text(), "nicht wiederholen");
   // A broken bound is put in on the way, and closing goes on.
   f.Text12.eingeben("02.00.00");
-  d.erwarte({.text = "Maximalwert eingesetzt"});
-  f.Command1.druecken();
+  druecken(f.Command1, {.text = "Maximalwert eingesetzt"});
   EXPECT_FALSE(f.offen());
   EXPECT_EQ(Geaendert(vorher), "Wetter_warte1(0)=00.00.01 Wetter_wiederh1(0)= Wetter_warte2(0)=01.59.59");
 }
@@ -216,8 +211,7 @@ TEST_F(Wetter, ConditionPageShowsTheLiveBars) {
   EXPECT_EQ(f.ProgressBar[aussentemperatur].wert, 32.5);
   EXPECT_EQ(f.ProgressBar[aussentemperatur].hinweis, "Aussentemperatur: 12.5 °C");
   sim.wetter_setzen({.station = simulator::Station::fehlt});
-  d.erwarte({.text = "Keine oder defekte Wetterstation"});
-  f.Command10.druecken();
+  druecken(f.Command10, {.text = "Keine oder defekte Wetterstation"});
   EXPECT_EQ(f.ProgressBar[aussentemperatur].wert, 0.0);
 }
 

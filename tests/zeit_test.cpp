@@ -20,8 +20,7 @@ class Zeit : public Pruefstand {
   Zeit() { Heute_setzen({2026, 3, 29}); }
 
   void Schliessen(Uhr& f) {
-    d.erwarte({.text = "Bitte wenn nötig den Schaltuhr-Sequenzer anpassen"});
-    f.OK.druecken();
+    druecken(f.OK, {.text = "Bitte wenn nötig den Schaltuhr-Sequenzer anpassen"});
     EXPECT_FALSE(f.offen());
   }
   // Texts of the first rows of the page, separated by "|".
@@ -46,26 +45,23 @@ TEST_F(Zeit, RowGetsTimeAndFunctionsAndTheTextsComeAtClose) {
   EXPECT_EQ(f.Schaltzweck_txt[3].text(), "Storen im Wohnzimmer öffn") << "25 characters";
   EXPECT_EQ(f.Label1[3].farbe, Farbe::uhr2);
 
-  d.erwarte_dialog<Uhr_Astro>([](Uhr_Astro& a) {
+  druecken<Uhr_Astro>(f.Zeitsetz[3], [](Uhr_Astro& a) {
     EXPECT_EQ(a.titel(), "Beeinflussung der Schaltzeit: Storen im Wohnzimmer öffn");
     a.Combo_Astro.waehlen("Sonnenaufgang");
     a.Command1.druecken();
   });
-  f.Zeitsetz[3].druecken();
   EXPECT_EQ(f.Schaltzeit_txt[3].text(), "Aufgang");
-  d.erwarte_dialog<Actmask_uhr>([](Actmask_uhr& a) {
+  druecken<Actmask_uhr>(f.Funktion[3], [](Actmask_uhr& a) {
     EXPECT_EQ(a.titel(), "Funktionen für Schaltzeit: Storen im Wohnzimmer öffn - Aufgang");
     a.Check1[5].haken(true);
     a.Combo1[5].waehlen(2);
     a.Command5.druecken();
   });
-  f.Funktion[3].druecken();
   EXPECT_EQ(f.Funktion[3].titel, "O");
   const int e = 243;
   EXPECT_TRUE(projekt.Uhr_astro[e] == 2 && projekt.Uhr_relais(e, 5) == 2 && projekt.Uhr_zeit[e].empty());
   // A cancelled rule leaves the row; another row takes the tint, this one shows that it is in use.
-  d.erwarte_dialog<Uhr_Astro>([](Uhr_Astro& a) { a.Command4.druecken(); });
-  f.Zeitsetz[4].druecken();
+  druecken<Uhr_Astro>(f.Zeitsetz[4], [](Uhr_Astro& a) { a.Command4.druecken(); });
   EXPECT_EQ(f.Schaltzeit_txt[4].text(), "");
   EXPECT_EQ(f.Label1[3].farbe, Farbe::belegt);
   projekt.Uhr_relais(7, 0) = 1;  // Monday, clock 1: was in the file without its flag
@@ -125,11 +121,9 @@ TEST_F(Zeit, DayClipboardSharesItsFirstRowWithTheRowClipboard) {
   const Meldung frage{
       "Mit 'Einfügen' werden alle bestehenden Einträge dieses Tages unwiderruflich überschrieben!", "Info",
       Knoepfe::OK_Abbrechen, Symbol::Information};
-  d.erwarte(frage, Antwort::Abbrechen);
-  f.Paste_day.druecken();
+  druecken(f.Paste_day, frage, Antwort::Abbrechen);
   EXPECT_EQ(f.Schaltzweck_txt[9].text(), "z");
-  d.erwarte(frage, Antwort::OK);
-  f.Paste_day.druecken();
+  druecken(f.Paste_day, frage, Antwort::OK);
   EXPECT_EQ(Zeilen(f, 4), "z=|b=|c=|=|");
   EXPECT_EQ(f.Schaltzweck_txt[8].text() + f.Schaltzweck_txt[9].text(), "");
   EXPECT_EQ(Markiert(), 16);
@@ -143,13 +137,11 @@ TEST_F(Zeit, DeleteAsksAndMarksTheTableWhateverTheAnswer) {
       "Alle Schalt-, Dimm- und Sperrfunktionen dieses Ereignisses werden unwiderruflich gelöscht.\n\nMöchten "
       "Sie das?",
       "Warnung vor dem Löschen", Knoepfe::Ja_Nein_Abbrechen, Symbol::Stopp, 2};
-  d.erwarte(frage, Antwort::Nein);
-  f.Delete.druecken();
+  druecken(f.Delete, frage, Antwort::Nein);
   EXPECT_EQ(projekt.Uhr_relais(0, 1), 2);
   EXPECT_EQ(projekt.Uhr_tabelle_geaendert, 1);
   EXPECT_EQ(Markiert(), 0);
-  d.erwarte(frage, Antwort::Ja);
-  f.Delete.druecken();
+  druecken(f.Delete, frage, Antwort::Ja);
   EXPECT_EQ(projekt.Uhr_relais(0, 1), 0);
   EXPECT_EQ(f.Schaltzeit_txt[0].text(), "");
   EXPECT_EQ(Markiert(), 1);
@@ -211,11 +203,9 @@ TEST_F(Zeit, SequencerSortsChecksAndCommitsOnOkOnly) {
       "Die Schaltuhr wird aus der Sequenz gelöscht. Alle programmieren Zeiten und Funktionen bleiben aber in "
       "der Schaltuhr selber erhalten.Möchten Sie die Schaltuhr aus der Sequenz löschen?",
       "Warnung vor dem Löschen", Knoepfe::Ja_Nein, Symbol::Warnung, 2};
-  d.erwarte(frage, Antwort::Nein);
-  f.Command1[0].druecken();
+  druecken(f.Command1[0], frage, Antwort::Nein);
   EXPECT_TRUE(f.Check1[0].an());
-  d.erwarte(frage, Antwort::Ja);
-  f.Command1[0].druecken();
+  druecken(f.Command1[0], frage, Antwort::Ja);
   EXPECT_TRUE(f.Text_dat[0].text().empty() && !f.Check1[0].an());
 
   f.Check4.haken(true);
@@ -289,11 +279,9 @@ TEST_F(Zeit, ChangeOverDatesAreComputedOrTypedByHand) {
   EXPECT_EQ(einstellungen.Richt_modus, 1);
   const Meldung frage{"Für die nächsten 10 Jahre die Daten für die Zeitumstellung berechnen?",
                       "Sommer-/Winterzeit", Knoepfe::Ja_Nein_Abbrechen, Symbol::Frage, 3};
-  d.erwarte(frage, Antwort::Nein);
-  f.Command8.druecken();
+  druecken(f.Command8, frage, Antwort::Nein);
   EXPECT_EQ(einstellungen.Sowi_datum[0], "02.02.2002");
-  d.erwarte(frage, Antwort::Ja);
-  f.Command8.druecken();
+  druecken(f.Command8, frage, Antwort::Ja);
   EXPECT_EQ(einstellungen.Sowi_datum[0] + einstellungen.Sowi_datum[1], "29.03.202625.10.2026");
   EXPECT_EQ(f.Dat[11].text(), "30.03.2031");
   EXPECT_EQ(f.Dat[20].text(), "28.10.2035");
@@ -308,8 +296,7 @@ TEST_F(Zeit, ChangeOverDatesAreComputedOrTypedByHand) {
   EXPECT_EQ(f.Wotag[3].titel, "Montag");
   f.Dat[4].eingeben("31.02.2027");
   EXPECT_EQ(f.Dat[4].farbe, Farbe::belegt);
-  d.erwarte_text("'31.02.2027' ist kein Datum. Bitte das Datum im Format TT.MM.JJJJ eingeben.");
-  f.Command3.druecken();
+  druecken(f.Command3, "'31.02.2027' ist kein Datum. Bitte das Datum im Format TT.MM.JJJJ eingeben.");
   EXPECT_EQ(f.fokus(), &f.Dat[4]);
 }
 
@@ -333,8 +320,7 @@ TEST_F(Zeit_am_master, ClockPageSetsTheClockAndTheDates) {
   f.Akt_zeit.ausfuellen("12.30.05");
   d.erwarte_text("Eingabe in Stunden, Minuten und Sekunden im Format HH.MM.SS oder HH.MM");
   f.Akt_zeit.ausfuellen("24.00.00");
-  d.erwarte(neustartfrage, Antwort::Nein);
-  f.Command3.druecken();
+  druecken(f.Command3, neustartfrage, Antwort::Nein);
   EXPECT_EQ(sim.uhr(), "0530121629032600") << "the last good time, a Sunday in summer time";
   EXPECT_EQ(sim.speicher(0x362000, 5), (simulator::Bytes{0x01, 0x26, 0x22, 0xFF, 0xFF}));
   EXPECT_EQ(sim.neustarts(), 0);
@@ -345,8 +331,7 @@ TEST_F(Zeit_am_master, ClockPageSetsTheClockAndTheDates) {
   f.MonthView1.waehlen({2026, 10, 26});
   f.Akt_zeit.eingeben("07.00");
   d.erwarte(neustartfrage, Antwort::Ja);
-  d.erwarte_text("F99: Neustart im ZAVmaster war erfolgreich");
-  f.Command3.druecken();
+  druecken(f.Command3, "F99: Neustart im ZAVmaster war erfolgreich");
   EXPECT_EQ(sim.uhr(), "0000071029032600");
   EXPECT_EQ(sim.neustarts(), 1);
 }
