@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <concepts>
 #include <functional>
 #include <string>
 #include <utility>
@@ -51,7 +52,8 @@ class Pruefstand : public testing::Test {
     d.erwarte(box, a);
     t.druecken();
   }
-  void druecken(Taste& t, const std::string& text, Antwort a = Antwort::OK) {
+  template <std::convertible_to<std::string> T>
+  void druecken(Taste& t, const T& text, Antwort a = Antwort::OK) {
     d.erwarte_text(text, a);
     t.druecken();
   }
