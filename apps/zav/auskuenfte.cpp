@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "argumente.h"
 #include "basis/text.h"
 #include "befehl.h"
 #include "editor/ereignissuche.h"
@@ -70,15 +71,12 @@ Ausfuehrung Befehl_suche(CLI::App& app) {
     std::string datei, ausgang;
   };
   const auto a = std::make_shared<Argumente>();
-  app.add_option("DATEI", a->datei, "Projekt; .zav wird ergänzt")->required();
+  Projektargument(app, a->datei);
   app.add_option("AUSGANG", a->ausgang,
                  "Relaisausgang O0-0 bis O63-7, Dimmer D0-0 bis D31-3 oder Timer T0 bis T15")
       ->required()
-      ->each([](const std::string& t) {
-        if (!Ziel_lesen(t)) {
-          throw CLI::ValidationError("\"" + t + "\" ist kein Ausgang wie O3-5, D1-2 oder T4",
-                                     CLI::ExitCodes::ValidationError);
-        }
+      ->check([](const std::string& t) {
+        return Ziel_lesen(t) ? "" : "\"" + t + "\" ist kein Ausgang wie O3-5, D1-2 oder T4";
       });
   return [a](Lauf& lauf) {
     if (!Projekt_oeffnen(lauf, a->datei)) return false;
@@ -89,7 +87,7 @@ Ausfuehrung Befehl_suche(CLI::App& app) {
 
 Ausfuehrung Befehl_touchpanel(CLI::App& app) {
   const auto datei = std::make_shared<std::string>();
-  app.add_option("DATEI", *datei, "Projekt; .zav wird ergänzt")->required();
+  Projektargument(app, *datei);
   return [datei](Lauf& lauf) {
     if (!Projekt_oeffnen(lauf, *datei)) return false;
     Bericht_ausgeben(lauf, Touchpanel_text());

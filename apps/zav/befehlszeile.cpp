@@ -103,11 +103,7 @@ std::string Pruefe_zufall(const std::string& t) {
 // An option whose value is checked when it is read, with a message of ours.
 void Geprueft(CLI::App& app, const char* name, std::string& ziel, const char* wert, const char* hilfe,
               std::string (*pruefen)(const std::string&)) {
-  CLI::Option* o = app.add_option(name, ziel, hilfe)->type_name(wert)->take_last();
-  o->each([pruefen](const std::string& t) {
-    const std::string fehler = pruefen(t);
-    if (!fehler.empty()) throw CLI::ValidationError(fehler, CLI::ExitCodes::ValidationError);
-  });
+  app.add_option(name, ziel, hilfe)->type_name(wert)->take_last()->check(pruefen);
 }
 
 void Optionen_anmelden(CLI::App& app, Optionen& o) {

@@ -8,6 +8,7 @@
 #include <string>
 #include <vector>
 
+#include "argumente.h"
 #include "basis/text.h"
 #include "basis/zahl.h"
 #include "befehl.h"
@@ -120,11 +121,7 @@ Ausfuehrung Befehl_protokoll(CLI::App& app) {
   app.add_option("--dauer", a->dauer, "nach so vielen Sekunden aufhören (sonst mit Ctrl-C)")
       ->type_name("SEKUNDEN")
       ->take_last()
-      ->each([](const std::string& t) {
-        if (!Zahl_lesen(t, 0, 1000000)) {
-          throw CLI::ValidationError("möglich sind 0 bis 1000000", CLI::ExitCodes::ValidationError);
-        }
-      });
+      ->check(Ganze_zahl_bis(1000000));
   return [a](Lauf& lauf) { return Protokollieren(lauf, *a); };
 }
 

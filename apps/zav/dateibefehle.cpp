@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "app/deskriptor.h"
+#include "argumente.h"
 #include "basis/text.h"
 #include "befehl.h"
 #include "platform/datei.h"
@@ -37,11 +38,7 @@ Ausfuehrung Befehl_umwandeln(CLI::App& app) {
   app.add_option("--als", a->als, "Generation der neuen Datei: 910, 900 oder 800 (sonst die eigene)")
       ->type_name("910|900|800")
       ->take_last()
-      ->each([](const std::string& g) {
-        if (g != "910" && g != "900" && g != "800") {
-          throw CLI::ValidationError("möglich sind 910, 900 und 800", CLI::ExitCodes::ValidationError);
-        }
-      });
+      ->check(Eines_von({"910", "900", "800"}));
   return [a](Lauf& lauf) {
     const auto ziel = Projektpfad(a->ziel);
     if (!Projekt_oeffnen(lauf, a->quelle) || !Ersetzen_erlaubt(ziel)) return false;
@@ -78,7 +75,7 @@ Ausfuehrung Befehl_abbild(CLI::App& app) {
     bool nur_geaenderte = false, sperren = false;
   };
   const auto a = std::make_shared<Argumente>();
-  app.add_option("DATEI", a->datei, "Projekt; .zav wird ergänzt")->required();
+  Projektargument(app, a->datei);
   app.add_option("-o", a->ausgabe, "in diese Datei schreiben statt auf die Standardausgabe")
       ->type_name("AUSGABE")
       ->take_last();
@@ -108,7 +105,7 @@ Ausfuehrung Befehl_app(CLI::App& app) {
     std::string datei, ausgabe;
   };
   const auto a = std::make_shared<Argumente>();
-  app.add_option("DATEI", a->datei, "Projekt; .zav wird ergänzt")->required();
+  Projektargument(app, a->datei);
   app.add_option("-o", a->ausgabe, "in diese Datei schreiben, sie wird ersetzt (sonst zavappdescriptor.xml)")
       ->type_name("AUSGABE")
       ->take_last();

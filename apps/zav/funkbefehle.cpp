@@ -6,6 +6,7 @@
 #include <ostream>
 #include <string>
 
+#include "argumente.h"
 #include "basis/text.h"
 #include "befehl.h"
 #include "enocean/programmieren.h"
@@ -85,7 +86,7 @@ Ausfuehrung Befehl_enocean(CLI::App& app) {
     bool alle = false;
   };
   const auto a = std::make_shared<Argumente>();
-  app.add_option("DATEI", a->datei, "Projekt; .zav wird ergänzt")->required();
+  Projektargument(app, a->datei);
   app.add_flag("--alle", a->alle, "alle eingebauten Empfänger, nicht nur geänderte");
   return [a](Lauf& lauf) {
     if (!Projekt_oeffnen(lauf, a->datei)) return false;

@@ -5,9 +5,11 @@
 #include <memory>
 #include <nlohmann/json.hpp>
 #include <ostream>
+#include <ranges>
 #include <string>
 #include <string_view>
 
+#include "argumente.h"
 #include "basis/text.h"
 #include "basis/zahl.h"
 #include "befehl.h"
@@ -90,7 +92,7 @@ bool Uebertragen(Lauf& lauf, const Sendeargumente& a) {
 
 Ausfuehrung Befehl_senden(CLI::App& app) {
   const auto a = std::make_shared<Sendeargumente>();
-  app.add_option("DATEI", a->datei, "Projekt; .zav wird ergänzt")->required();
+  Projektargument(app, a->datei);
   app.add_flag("--initialisieren", a->initialisieren, "den ZAVmaster vorher löschen (fragt nach)");
   app.add_flag("--sperren", a->sperren, "Eingänge und Wetter während der Übertragung sperren");
   app.add_flag("--neustart", a->neustart, "den ZAVmaster am Schluss neu starten");
@@ -148,11 +150,7 @@ Ausfuehrung Befehl_uhr(CLI::App& app) {
                  "Zeitumstellung: 0 keine, 1 nach den Daten, 2 Funkuhr (sonst wie eingestellt)")
       ->type_name("0|1|2")
       ->take_last()
-      ->each([](const std::string& m) {
-        if (m != "0" && m != "1" && m != "2") {
-          throw CLI::ValidationError("möglich sind 0, 1 und 2", CLI::ExitCodes::ValidationError);
-        }
-      });
+      ->check(Eines_von({"0", "1", "2"}));
   return [modus](Lauf& lauf) {
     const Datum heute = Heute();
     Uhrstellung u{.Akt_zeit_text = Zeit_text(Tageszeit()),
@@ -180,21 +178,11 @@ struct Tastenaktion {
   std::string_view name;
   int nummer;
 };
-constexpr std::array tastenaktionen{Tastenaktion{"loesen", 0}, Tastenaktion{"druecken", 1},
+constexpr std::array tastenaktionen{Tastenaktion{"druecken", 1}, Tastenaktion{"loesen", 0},
                                     Tastenaktion{"kurz", 2}};
 
 constexpr int erste_geraetenummer = 1024;  // of an input module on the bus; two for each address
 constexpr int groesster_versatz = 23;      // of a device with six addresses
-
-// An argument that is a whole number of that range.
-void Zahlargument(CLI::App& app, const char* name, std::string& ziel, const char* hilfe, int bis) {
-  app.add_option(name, ziel, hilfe)->required()->each([bis](const std::string& t) {
-    if (!Zahl_lesen(t, 0, bis)) {
-      throw CLI::ValidationError("möglich sind 0 bis " + std::to_string(bis),
-                                 CLI::ExitCodes::ValidationError);
-    }
-  });
-}
 
 }  // namespace
 
@@ -203,20 +191,17 @@ Ausfuehrung Befehl_ereignis(CLI::App& app) {
     std::string adresse, taste, aktion;
   };
   const auto a = std::make_shared<Argumente>();
-  Zahlargument(app, "ADRESSE", a->adresse, "erste Adresse des Apparats, 0 bis 255", adressen - 1);
-  Zahlargument(app, "TASTE", a->taste, "Taste des Apparats, von 0 an gezählt", groesster_versatz);
-  const auto aktion_von = [](const std::string& t) {
-    return std::ranges::find(tastenaktionen, t, &Tastenaktion::name);
-  };
+  app.add_option("ADRESSE", a->adresse, "erste Adresse des Apparats, 0 bis 255")
+      ->required()
+      ->check(Ganze_zahl_bis(adressen - 1));
+  app.add_option("TASTE", a->taste, "Taste des Apparats, von 0 an gezählt")
+      ->required()
+      ->check(Ganze_zahl_bis(groesster_versatz));
+  const auto namen = tastenaktionen | std::views::transform(&Tastenaktion::name);
   app.add_option("AKTION", a->aktion, "druecken, loesen oder kurz")
       ->required()
-      ->each([aktion_von](const std::string& t) {
-        if (aktion_von(t) == tastenaktionen.end()) {
-          throw CLI::ValidationError("möglich sind druecken, loesen und kurz",
-                                     CLI::ExitCodes::ValidationError);
-        }
-      });
-  return [a, aktion_von](Lauf& lauf) {
+      ->check(Eines_von({namen.begin(), namen.end()}));
+  return [a](Lauf& lauf) {
     const int taste = *Zahl_lesen(a->taste);
     const int adresse = *Zahl_lesen(a->adresse) + taste / 4;
     if (adresse >= adressen) {
@@ -224,8 +209,8 @@ Ausfuehrung Befehl_ereignis(CLI::App& app) {
                           " dieser Taste gibt es nicht, die höchste ist 255.");
       return false;
     }
-    Ereignis_erzeugen(Hex4(2 * adresse + erste_geraetenummer), Hex2(aktion_von(a->aktion)->nummer),
-                      Hex2(taste % 4 + 1));
+    const int aktion = std::ranges::find(tastenaktionen, a->aktion, &Tastenaktion::name)->nummer;
+    Ereignis_erzeugen(Hex4(2 * adresse + erste_geraetenummer), Hex2(aktion), Hex2(taste % 4 + 1));
     return leitung.Port_fehler == 0 && Antwort_ist_gut();
   };
 }

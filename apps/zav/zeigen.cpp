@@ -6,6 +6,7 @@
 #include <utility>
 #include <vector>
 
+#include "argumente.h"
 #include "basis/text.h"
 #include "befehl.h"
 #include "projektzugriff.h"
@@ -57,7 +58,7 @@ std::vector<Zeile> Kennzahlen_zeilen(const Projekt& p) {
 
 Ausfuehrung Befehl_zeigen(CLI::App& app) {
   const auto datei = std::make_shared<std::string>();
-  app.add_option("DATEI", *datei, "Projekt; .zav wird ergänzt")->required();
+  Projektargument(app, *datei);
   return [datei](Lauf& lauf) {
     if (!Projekt_oeffnen(lauf, *datei)) return false;
     if (lauf.json) {
