@@ -5,7 +5,7 @@
 
 #include "app/app_eigenschaften_seite.h"
 #include "editor/actmask.h"
-#include "editor/apparatwahl.h"
+#include "editor/bilderseite.h"
 #include "editor/dialog_kombination.h"
 #include "editor/layoutwahl.h"
 #include "enocean/enocean_definition.h"
@@ -89,8 +89,8 @@ Apparat apparat(Raum r, int art) {
   fordern(frei != e.Image3.end(), "Kein Platz mehr: " + *e.Frame1.titel);
   frei->druecken();
   zav::Taste& bilderseite = Apparat_funkart(art) > 0 ? e.mnuChooseEnocean : e.mnuChoose;
-  arbeitsplatz().dialog<Apparatwahl>(bilderseite,
-                                     [&](Apparatwahl& w) { w.Bilder.waehlen(std::to_string(art)); });
+  arbeitsplatz().dialog<Bilderseite>(bilderseite,
+                                     [&](Bilderseite& w) { w.Bilder.waehlen(std::to_string(art)); });
   if (const int anzahl = Apparat_art(art)->adressen; anzahl > 0) {
     arbeitsplatz().dialog<Dialog_Kombination>(
         e.Command2, [&](Dialog_Kombination& d) { d.Zellen.waehlen(freie_adressen(d.Zellen, anzahl)); });

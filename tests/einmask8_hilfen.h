@@ -14,7 +14,7 @@ class Installation : public Pruefstand {
  protected:
   // The device picture is chosen, the dialog shown next picks the kind.
   void setzen(Einmask8& m, int typ) {
-    d.erwarte_dialog<Apparatwahl>([typ](Apparatwahl& w) { w.Bilder.waehlen(std::to_string(typ)); });
+    d.erwarte_dialog<Bilderseite>([typ](Bilderseite& w) { w.Bilder.waehlen(std::to_string(typ)); });
     (typ >= 52 && typ != 65 && (typ < 65 || (typ > 80 && typ < 90)) ? m.mnuChooseEnocean : m.mnuChoose)
         .druecken();
   }

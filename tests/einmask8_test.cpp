@@ -167,7 +167,7 @@ TEST_F(Installation, PlacingRulesKeepAddressesTogether) {
     m.TreeView1.waehlen(std::to_string(f.k) + "key1547852");
     sitzung.Projekt_geaendert = 0;
     if (!f.verweigert.empty()) {
-      d.erwarte_dialog<Apparatwahl>([&](Apparatwahl& w) { w.Bilder.waehlen(std::to_string(f.neu)); });
+      d.erwarte_dialog<Bilderseite>([&](Bilderseite& w) { w.Bilder.waehlen(std::to_string(f.neu)); });
       erwarte(f.verweigert);
       const Projekt vorher = projekt;
       m.mnuChoose.druecken();
@@ -188,9 +188,9 @@ TEST_F(Installation, PicturePagesOfferTheirKinds) {
     const auto& bilder = static_cast<const Auswahl&>(*f.element("Bilder"));
     return std::to_string(bilder.anzahl()) + ": " + bilder.eintrag(n).hinweis;
   };
-  EXPECT_EQ(bild(Apparatwahl("Feller", Apparate_feller()), 50), "71: Alte Feller-Taster (Bild:51)");
-  EXPECT_EQ(bild(Apparatwahl("Feller", Apparate_feller()), 59), "71:  (Bild:73)");
-  EXPECT_EQ(bild(Apparatwahl("Enocean", Apparate_enocean()), 16), "25: Zweifachtaster EnOcean (Bild:81)");
+  EXPECT_EQ(bild(Apparatwahl_Feller(), 50), "71: Alte Feller-Taster (Bild:51)");
+  EXPECT_EQ(bild(Apparatwahl_Feller(), 59), "71:  (Bild:73)");
+  EXPECT_EQ(bild(Apparatwahl_Enocean(), 16), "25: Zweifachtaster EnOcean (Bild:81)");
   EXPECT_EQ(Auswahl_Taster_2().Bilder.eintrag(0).hinweis, "Feller: Einfachtaster ohne LED");
 }
 

@@ -75,7 +75,7 @@ TEST_F(Geschichte, EinTagMitDemBeispielhaus) {
   });
   schritte.antworten("Der Apparat wird endgültig gelöscht. Wollen Sie das?", "Ja");
   schritt("Einmask8", "place another device", [](Formfenster& f) { Menuebefehl(f, "mnuChoose"); });
-  schritt("Apparatwahl", "choose the device", [](Formfenster& f) {
+  schritt("Apparatwahl_Feller", "choose the device", [](Formfenster& f) {
     QWidget& bilder = Teil(f, "Bilder");
     bilder.setFocus();
     QTest::keyClick(&bilder, Qt::Key_Right);

@@ -1,8 +1,6 @@
 #include "zavlink/adressplanfeld.h"
 
-#include <QLabel>
 #include <QPainter>
-#include <QVBoxLayout>
 #include <algorithm>
 
 #include "editor/dialog_kombination.h"
@@ -27,7 +25,7 @@ class Adressplanfeld final : public Kartenfeld {
     return "Adresse i" + Q(e.text) + "   (" + Q(e.hinweis) + ")";
   }
   // The run that the device would take from this cell on, in words.
-  QString lauftext(int i) const {
+  QString zeilentext(int i) const override {
     if (form_.anzahl() < 2 || ist_gegenwaertige(i)) return zelltext(i);
     const QString von = "i" + QString::number(i) + " - i" + QString::number(i + form_.anzahl() - 1);
     return zelltext(i) +
@@ -81,25 +79,8 @@ class Adressplanfeld final : public Kartenfeld {
 
 QWidget* Adressplanfeld_bauen(const Anordnung& a, Auffrischer& auf, QWidget* eltern, Gebautes& ergebnis) {
   auto& zellen = static_cast<Auswahl&>(*a.kinder.at(0).element);
-  auto* const w = new QWidget(eltern);
-  auto* const spalte = new QVBoxLayout(w);
-  spalte->setContentsMargins(0, 0, 0, 0);
-  spalte->setSpacing(raster);
-  auto* const karte =
-      new Adressplanfeld(dynamic_cast<const Dialog_Kombination&>(*zellen.formular()), zellen, w);
-  auto* const zeile = new QLabel(QStringLiteral(" "), w);
-  zeile->setTextFormat(Qt::PlainText);
-  spalte->addWidget(karte, 1);
-  spalte->addWidget(zeile);
-  QObject::connect(karte, &Kartenfeld::gezeigt, zeile, [karte, zeile](int i) {
-    zeile->setText(i < 0 ? QStringLiteral(" ") : karte->lauftext(i));
-  });
-  ergebnis.widgets[&zellen] = karte;
-  auf.binden(zellen, [&zellen, karte] {
-    Gemeinsames(*karte, zellen);
-    karte->auffrischen();
-  });
-  return w;
+  const auto& form = dynamic_cast<const Dialog_Kombination&>(*zellen.formular());
+  return Karte_mit_zeile(*new Adressplanfeld(form, zellen, eltern), auf, ergebnis);
 }
 
 }  // namespace zav::fenster

@@ -18,11 +18,10 @@ Besonderer_bau Besonderer_bau_von(const std::string& name) {
     Besonderer_bau bau;
   };
   static constexpr std::array tabelle{
-      Eintrag{"adressplan", Adressplanfeld_bauen},     Eintrag{"apparatebilder", Bilderwahl_bauen},
+      Eintrag{"adressplan", Adressplanfeld_bauen},     Eintrag{"bilderwahl", Bilderwahl_bauen},
       Eintrag{"apparaterahmen", Apparaterahmen_bauen}, Eintrag{"apparatseite", Apparatseitenfeld_bauen},
       Eintrag{"hauptansicht", Hauptansicht_bauen},     Eintrag{"tafel", Tafel_bauen},
-      Eintrag{"tasterbilder", Bilderwahl_bauen},       Eintrag{"Tagesskala", Tagesskala_bauen},
-      Eintrag{"jahresplan", Jahresplan_bauen},
+      Eintrag{"Tagesskala", Tagesskala_bauen},         Eintrag{"jahresplan", Jahresplan_bauen},
   };
   for (const Eintrag& e : tabelle) {
     if (e.name == name) return e.bau;

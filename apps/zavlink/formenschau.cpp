@@ -134,9 +134,8 @@ std::vector<Schaustueck> Formenschau() {
          }
        })},
       {"layoutwahl", Stueck<Layoutwahl>(0)},
-      {"apparatwahl", Stueck<Apparatwahl>(std::string("Feller + Diverse auswählen"), Apparate_feller())},
-      {"apparatwahl-enocean",
-       Stueck<Apparatwahl>(std::string("Enocean + Diverse auswählen"), Apparate_enocean())},
+      {"apparatwahl", Stueck<Apparatwahl_Feller>()},
+      {"apparatwahl-enocean", Stueck<Apparatwahl_Enocean>()},
       {"adressen", Stueck<Dialog_Kombination>(std::string("12"), 2)},
       {"funktionen-schalten", Stueck<Actmask>(ereignis, std::string("Erdgeschoss - Küche - Licht"))},
       {"funktionen-dimmen",

@@ -2,8 +2,10 @@
 
 #include <QHelpEvent>
 #include <QKeyEvent>
+#include <QLabel>
 #include <QPainter>
 #include <QToolTip>
+#include <QVBoxLayout>
 #include <algorithm>
 
 #include "zavlink/bindung.h"
@@ -17,6 +19,13 @@ constexpr double rundung = 4;
 }  // namespace
 
 Kartenfeld::Kartenfeld(Auswahl& auswahl, QWidget* eltern) : Zellenfeld(eltern), auswahl_(auswahl) {}
+
+void Kartenfeld::binden(Auffrischer& auf) {
+  auf.binden(auswahl_, [this] {
+    Gemeinsames(*this, auswahl_);
+    auffrischen();
+  });
+}
 
 void Kartenfeld::auffrischen() {
   // A cell that the form has refused keeps the keyboard.
@@ -174,6 +183,26 @@ bool Kartenfeld::event(QEvent* e) {
     return true;
   }
   return QWidget::event(e);
+}
+
+QWidget* Karte_mit_zeile(Kartenfeld& karte, Auffrischer& auf, Gebautes& ergebnis) {
+  auto* const w = new QWidget(karte.parentWidget());
+  auto* const spalte = new QVBoxLayout(w);
+  spalte->setContentsMargins(0, 0, 0, 0);
+  spalte->setSpacing(raster);
+  auto* const zeile = new QLabel(QStringLiteral(" "), w);
+  zeile->setTextFormat(Qt::PlainText);
+  QFont schrift = zeile->font();
+  schrift.setBold(true);
+  zeile->setFont(schrift);
+  spalte->addWidget(&karte, 1);
+  spalte->addWidget(zeile);
+  QObject::connect(&karte, &Kartenfeld::gezeigt, zeile, [&karte, zeile](int i) {
+    zeile->setText(i < 0 ? QStringLiteral(" ") : karte.zeilentext(i));
+  });
+  ergebnis.widgets[&karte.auswahl()] = &karte;
+  karte.binden(auf);
+  return w;
 }
 
 }  // namespace zav::fenster

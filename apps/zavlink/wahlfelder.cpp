@@ -135,6 +135,30 @@ QWidget* Liste_bauen(Auswahl& a, Auffrischer& auf, QWidget* eltern) {
   return w;
 }
 
+// Keeps the buttons of a group, one an entry, at the state of their control; a used entry has a dot. Gives
+// the widget that holds them.
+QWidget* Gruppe_binden(Auswahl& a, Auffrischer& auf, QButtonGroup& gruppe) {
+  auto* const w = static_cast<QWidget*>(gruppe.parent());
+  QObject::connect(&gruppe, &QButtonGroup::idClicked, w,
+                   [&a](int i) { Handeln(a, [&a, i] { a.waehlen(i); }); });
+  auf.binden(a, [&a, w, &gruppe] {
+    Gemeinsames(*w, a);
+    gruppe.setExclusive(false);  // so that none may be chosen
+    for (int i = 0; i < a.anzahl() && gruppe.button(i) != nullptr; ++i) {
+      auto* const knopf = gruppe.button(i);
+      const QSignalBlocker stumm(knopf);
+      const auto& e = a.eintrag(i);
+      knopf->setText(Q(e.text) + (e.farbe == Farbe::belegt ? QStringLiteral("•") : QString()));
+      knopf->setToolTip(Tipp(Q(e.hinweis)));
+      knopf->setEnabled(a.frei && e.frei);
+      knopf->setChecked(i == a.position());
+      Einfaerben(*knopf, e.farbe);
+    }
+    gruppe.setExclusive(true);
+  });
+  return w;
+}
+
 QWidget* Optionen_bauen(Auswahl& a, Auffrischer& auf, QWidget* eltern) {
   static constexpr qsizetype eine_zeile = 44;  // characters of all texts that still stand side by side
   auto* const w = new QWidget(eltern);
@@ -151,24 +175,7 @@ QWidget* Optionen_bauen(Auswahl& a, Auffrischer& auf, QWidget* eltern) {
     reihe->addWidget(knopf);
   }
   if (nebeneinander) reihe->addStretch(1);
-  QObject::connect(gruppe, &QButtonGroup::idClicked, w,
-                   [&a](int i) { Handeln(a, [&a, i] { a.waehlen(i); }); });
-  auf.binden(a, [&a, w, gruppe] {
-    Gemeinsames(*w, a);
-    gruppe->setExclusive(false);  // so that none may be chosen
-    for (int i = 0; i < a.anzahl() && gruppe->button(i) != nullptr; ++i) {
-      auto* const knopf = gruppe->button(i);
-      const QSignalBlocker stumm(knopf);
-      const auto& e = a.eintrag(i);
-      knopf->setText(Q(e.text));
-      knopf->setToolTip(Tipp(Q(e.hinweis)));
-      knopf->setEnabled(a.frei && e.frei);
-      knopf->setChecked(i == a.position());
-      Einfaerben(*knopf, e.farbe);
-    }
-    gruppe->setExclusive(true);
-  });
-  return w;
+  return Gruppe_binden(a, auf, *gruppe);
 }
 
 QWidget* Reiter_bauen(Auswahl& a, Auffrischer& auf, QWidget* eltern) {
@@ -197,8 +204,7 @@ QWidget* Reiter_bauen(Auswahl& a, Auffrischer& auf, QWidget* eltern) {
   return w;
 }
 
-// A strip of small buttons, sixteen a row: relay and dimmer groups, clocks. A used one is coloured and has a
-// dot.
+// A strip of small buttons, sixteen a row: relay and dimmer groups, clocks.
 QWidget* Leiste_bauen(Auswahl& a, Auffrischer& auf, QWidget* eltern) {
   auto* const w = new QWidget(eltern);
   auto* const gitter = new QGridLayout(w);
@@ -217,25 +223,7 @@ QWidget* Leiste_bauen(Auswahl& a, Auffrischer& auf, QWidget* eltern) {
     gitter->addWidget(knopf, i / 16, i % 16);
   }
   if (!breit) gitter->setColumnStretch(16, 1);
-  QObject::connect(gruppe, &QButtonGroup::idClicked, w,
-                   [&a](int i) { Handeln(a, [&a, i] { a.waehlen(i); }); });
-  auf.binden(a, [&a, w, gruppe] {
-    Gemeinsames(*w, a);
-    gruppe->setExclusive(false);
-    for (int i = 0; i < a.anzahl() && gruppe->button(i) != nullptr; ++i) {
-      auto* const knopf = gruppe->button(i);
-      const QSignalBlocker stumm(knopf);
-      const auto& e = a.eintrag(i);
-      const bool belegt = e.farbe == Farbe::belegt;
-      knopf->setText(Q(e.text) + (belegt ? QStringLiteral("•") : QString()));
-      knopf->setToolTip(Tipp(Q(e.hinweis)));
-      knopf->setEnabled(a.frei && e.frei);
-      knopf->setChecked(i == a.position());
-      Einfaerben(*knopf, e.farbe);
-    }
-    gruppe->setExclusive(true);
-  });
-  return w;
+  return Gruppe_binden(a, auf, *gruppe);
 }
 
 }  // namespace
@@ -250,10 +238,7 @@ QWidget* Wahlfeld_bauen(Auswahl& a, Auffrischer& auf, QWidget* eltern) {
     case Auswahl::Form::Raster: break;
   }
   auto* const w = new Kartenfeld(a, eltern);
-  auf.binden(a, [&a, w] {
-    Gemeinsames(*w, a);
-    w->auffrischen();
-  });
+  w->binden(auf);
   return w;
 }
 

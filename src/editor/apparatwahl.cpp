@@ -1,6 +1,6 @@
 #include "editor/apparatwahl.h"
 
-#include <utility>
+#include <initializer_list>
 
 #include "store/katalog.h"
 
@@ -11,40 +11,23 @@ namespace {
 struct Bereich {
   int von, bis;
 };
-std::vector<int> Aufzaehlen(std::initializer_list<Bereich> bereiche) {
-  std::vector<int> typen;
+std::vector<Bilderseite::Bild> Apparate(std::initializer_list<Bereich> bereiche) {
+  std::vector<Bilderseite::Bild> bilder;
   for (const Bereich& b : bereiche) {
-    for (int t = b.von; t <= b.bis; ++t) typen.push_back(t);
+    for (int t = b.von; t <= b.bis; ++t) {
+      const std::string tag(Apparat_art(t)->tag);
+      bilder.push_back({.nummer = t, .typ = t, .hinweis = tag + " (Bild:" + std::to_string(t) + ")"});
+    }
   }
-  return typen;
+  return bilder;
 }
 
 }  // namespace
 
-std::vector<int> Apparate_feller() { return Aufzaehlen({{1, 51}, {65, 80}, {90, 93}}); }
-std::vector<int> Apparate_enocean() { return Aufzaehlen({{49, 64}, {81, 89}}); }
-
-Apparatwahl::Apparatwahl(std::string titel, std::vector<int> typen)
-    : Formular("Apparatwahl", std::move(titel)), typen_(std::move(typen)) {
-  anmelden("Bilder", Bilder);
-  anmelden("Cancel", Cancel);
-
-  std::vector<std::string> nummern;
-  nummern.reserve(typen_.size());
-  for (const int t : typen_) nummern.push_back(std::to_string(t));
-  Bilder.fuellen(std::move(nummern));
-  for (int i = 0; i < Bilder.anzahl(); ++i) {
-    const Apparatart& art = *Apparat_art(typen_.at(static_cast<std::size_t>(i)));
-    Bilder.hinweisen(i, std::string(art.tag) + " (Bild:" + std::to_string(art.typ) + ")");
-  }
-  Bilder.wenn_angeklickt = [this](int i) {
-    gewaehlt_ = typen_.at(static_cast<std::size_t>(i));
-    schliessen();
-  };
-  Cancel.abbruch = true;
-  Cancel.wenn_gedrueckt = [this] { schliessen(); };
-}
-
-Anordnung Apparatwahl::anordnung() { return Spalte(Besonders("apparatebilder", Bilder), Knopfzeile(Cancel)); }
+Apparatwahl_Feller::Apparatwahl_Feller()
+    : Bilderseite("Apparatwahl_Feller", "Feller + Diverse auswählen",
+                  Apparate({{1, 51}, {65, 80}, {90, 93}})) {}
+Apparatwahl_Enocean::Apparatwahl_Enocean()
+    : Bilderseite("Apparatwahl_Enocean", "Enocean + Diverse auswählen", Apparate({{49, 64}, {81, 89}})) {}
 
 }  // namespace zav

@@ -1,34 +1,19 @@
-// A page of device pictures to choose a kind from.
+// The pages to choose a kind of device from: those on the bus, and radio senders. A picture's number is its
+// kind.
 #pragma once
 
-#include <optional>
-#include <string>
-#include <vector>
-
-#include "form/formular.h"
+#include "editor/bilderseite.h"
 
 namespace zav {
 
-// The kinds on the page of `mnuChoose` and on that of `mnuChooseEnocean`.
-std::vector<int> Apparate_feller();
-std::vector<int> Apparate_enocean();
-
-class Apparatwahl final : public Formular {
+class Apparatwahl_Feller final : public Bilderseite {
  public:
-  Apparatwahl(std::string titel, std::vector<int> typen);
+  Apparatwahl_Feller();
+};
 
-  // One cell a kind; the text is its number, the tool tip tells what it is.
-  Auswahl Bilder{Auswahl::Form::Raster};
-  Taste Cancel{"&Abbrechen"};
-
-  // The chosen kind; nothing when the page was cancelled.
-  const std::optional<int>& gewaehlt() const { return gewaehlt_; }
-
-  Anordnung anordnung() override;
-
- private:
-  std::vector<int> typen_;
-  std::optional<int> gewaehlt_;
+class Apparatwahl_Enocean final : public Bilderseite {
+ public:
+  Apparatwahl_Enocean();
 };
 
 }  // namespace zav

@@ -99,10 +99,8 @@ void Einmask8::Handler_setzen() {
     bild.wenn_gedrueckt = [this, p] { Platz_waehlen(p); };
     bild.wenn_rechts_gedrueckt = [this, p] { Platz_waehlen(p); };
   }
-  mnuChoose.wenn_gedrueckt = [this] { Apparat_auswaehlen(mnuChoose.titel, Apparate_feller()); };
-  mnuChooseEnocean.wenn_gedrueckt = [this] {
-    Apparat_auswaehlen(mnuChooseEnocean.titel, Apparate_enocean());
-  };
+  mnuChoose.wenn_gedrueckt = [this] { Apparat_auswaehlen(Apparatwahl_Feller()); };
+  mnuChooseEnocean.wenn_gedrueckt = [this] { Apparat_auswaehlen(Apparatwahl_Enocean()); };
   for (Taste* t : {&mnuCut, &Command11}) t->wenn_gedrueckt = [this] { Ausschneiden(); };
   for (Taste* t : {&mnuCopy, &Command12}) t->wenn_gedrueckt = [this] { Kopieren(); };
   for (Taste* t : {&mnuPaste, &Command4}) t->wenn_gedrueckt = [this] { Einfuegen(); };

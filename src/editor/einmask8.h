@@ -19,6 +19,8 @@
 
 namespace zav {
 
+class Bilderseite;
+
 class Einmask8 final : public Formular {
  public:
   explicit Einmask8(Tueren tueren = {});
@@ -129,7 +131,7 @@ class Einmask8 final : public Formular {
   void Leds_zeigen(const Apparatseite& seite);
   void Ereignisse_faerben();
   void Led_listen_fuellen();
-  void Apparat_auswaehlen(const std::string& titel, std::vector<int> typen);
+  void Apparat_auswaehlen(Bilderseite&& wahl);
   int Text_slot(int n) const;
   int Led_slot(int n) const;
   void Text_geaendert(int n);

@@ -4,7 +4,7 @@
 
 #include "basis/melder.h"
 #include "editor/apparat.h"
-#include "editor/apparatwahl.h"
+#include "editor/bilderseite.h"
 #include "editor/einmask8.h"
 #include "form/oberflaeche.h"
 #include "store/funktionen.h"
@@ -145,8 +145,7 @@ void Einmask8::Led_listen_fuellen() {
   }
 }
 
-void Einmask8::Apparat_auswaehlen(const std::string& titel, std::vector<int> typen) {
-  Apparatwahl wahl(titel, std::move(typen));
+void Einmask8::Apparat_auswaehlen(Bilderseite&& wahl) {
   oberflaeche().Zeigen(wahl);
   if (!wahl.gewaehlt()) return;
   const std::string verweigert = Setzen_verweigert(apparat(), *wahl.gewaehlt());
