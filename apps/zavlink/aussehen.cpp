@@ -238,7 +238,6 @@ void Stil::drawPrimitive(PrimitiveElement e, const QStyleOption* o, QPainter* p,
 
 void Aussehen_setzen(Thema thema) {
   const bool dunkel = thema == Thema::dunkel || (thema == Thema::wie_arbeitsplatz && Dunkel_gewuenscht());
-  // NOLINTNEXTLINE(clang-analyzer-cplusplus.NewDeleteLeaks): the application takes it
   QApplication::setStyle(new Stil);
   QApplication::setPalette(dunkel ? Palette_dunkel() : Palette_hell());
   QLocale::setDefault(QLocale(QLocale::German, QLocale::Switzerland));

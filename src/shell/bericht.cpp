@@ -117,10 +117,8 @@ void Kopf(Tabelle& t) {
 
 // ---- inputs -----------------------------------------------------------------------------------------------
 
-// A damaged file may give each device all addresses. No device has more events than that, and what an event
-// does is told with two devices, as many as share an address at a thermostat: the report stays as long as the
-// project.
-constexpr int ereignisse_hoechstens = 24;
+// A damaged file may give each device the same addresses. What an event does is told with two devices, as many
+// as share an address at a thermostat: the report stays as long as the project.
 constexpr int apparate_je_ereignis = 2;
 
 // Marks the addresses that devices hold.
@@ -141,7 +139,7 @@ std::array<bool, adressen> Kombinationen(Tabelle& t, const std::vector<std::stri
       t.Zeile(kopf);
       continue;
     }
-    for (int j = 0; j < std::min(lauf->ereignisse(), ereignisse_hoechstens); ++j) {
+    for (int j = 0; j < lauf->ereignisse(); ++j) {
       const int adresse = lauf->von + j / 4;
       const int n = Slot_von_versatz(art->typ, j);
       const int textslot = Apparat_textslot(projekt, d, n);

@@ -114,6 +114,7 @@ constexpr std::array<Apparatart, apparat_arten> arten{{
     {93, "Bedientasten für Kameraseiten", "Bedientasten für Kameraseiten", 6, "", "", diverse},
 }};
 // clang-format on
+static_assert(std::ranges::max(arten, {}, &Apparatart::adressen).adressen == adressen_je_apparat);
 
 constexpr std::string_view waagrecht = "Waagrecht";
 constexpr std::string_view quadratisch = "Quadratisch";
@@ -196,7 +197,7 @@ std::optional<Adresslauf> Apparat_adressen(const Projekt& p, int d) {
   const auto von = Zahl_lesen(p.App_text[d], 0, adressen - 1);
   if (!von) return std::nullopt;
   const int anzahl = Zahl_lesen(p.App_text2[d], 0, adressen).value_or(0);
-  return Adresslauf{*von, std::min(anzahl, adressen - *von)};
+  return Adresslauf{*von, std::min({anzahl, adressen_je_apparat, adressen - *von})};
 }
 
 int Apparat_slot(const Projekt& p, int d, int n) {

@@ -38,11 +38,14 @@ enum Apparat_gruppe : u8 {
   gruppe_funk = 16,         // radio sender
 };
 
+// No kind takes more addresses than that.
+inline constexpr int adressen_je_apparat = 6;
+
 struct Apparatart {
   i16 typ;
   std::string_view tag;    // caption of its picture, "" for 73 and 74
   std::string_view titel;  // title of its page
-  int adressen;            // how many it takes, 0 to 6
+  int adressen;            // how many it takes, 0 to adressen_je_apparat
   Slots tasten;            // slots with a text field
   Slots leds;              // slots with an LED list
   u8 gruppen = gruppe_keine;
@@ -76,7 +79,7 @@ std::optional<int> Thermostat_adresse(int typ);
 // ---- placed devices; d = 16 x Kombination + place ---------------------------------------------------------
 
 // The run of addresses a device takes, from the texts App_text and App_text2. What a damaged file puts there
-// is cut to the addresses that exist; nothing without a first address.
+// is cut to what a device can have and to the addresses that exist; nothing without a first address.
 struct Adresslauf {
   int von = 0;
   int anzahl = 0;
