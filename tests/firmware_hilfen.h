@@ -10,38 +10,31 @@
 #include <unistd.h>
 
 #include <chrono>
-#include <cstdio>
+#include <cstdint>
+#include <cstdlib>
+#include <numeric>
 #include <string>
 #include <thread>
-#include <vector>
 
 #include "hilfen.h"
 #include "platform/csc.h"
+#include "simulator/hex.h"
 
 namespace zav {
 
 // S1 records of 16 bytes each, and the closing one.
 inline std::string Firmwaredatei(int saetze) {
-  const auto satz = [](char typ, const std::vector<int>& bytes) {
-    std::string text = {'S', typ};
-    int summe = static_cast<int>(bytes.size()) + 1;
-    const auto hex = [&text](int b) {
-      char ziffern[3];
-      std::snprintf(ziffern, sizeof ziffern, "%02X", b & 0xFF);
-      text += ziffern;
-    };
-    hex(summe);
-    for (const int b : bytes) {
-      summe += b;
-      hex(b);
-    }
-    hex(~summe);
-    return text + "\r\n";
+  const auto satz = [](char typ, simulator::Bytes bytes) {
+    bytes.insert(bytes.begin(), static_cast<std::uint8_t>(bytes.size() + 1));
+    bytes.push_back(static_cast<std::uint8_t>(~std::accumulate(bytes.begin(), bytes.end(), 0U)));
+    return std::string{'S', typ} + simulator::hex(bytes) + "\r\n";
   };
   std::string text = satz('0', {0, 0, 'Z', 'A', 'V'});
   for (int n = 0; n < saetze; ++n) {
-    std::vector<int> bytes{n / 16 % 256, n * 16 % 256};
-    for (int i = 0; i < 16; ++i) bytes.push_back((n + i) % 256);
+    simulator::Bytes bytes(18);
+    bytes[0] = static_cast<std::uint8_t>(n / 16);
+    bytes[1] = static_cast<std::uint8_t>(n * 16);
+    std::iota(bytes.begin() + 2, bytes.end(), static_cast<std::uint8_t>(n));
     text += satz('1', bytes);
   }
   return text + satz('9', {0, 0});
@@ -49,7 +42,7 @@ inline std::string Firmwaredatei(int saetze) {
 
 // A line whose other end the test holds itself, raw from the start.
 struct Pty {
-  Pty() {
+  explicit Pty(int art = 0) : master(posix_openpt(O_RDWR | O_NOCTTY | O_CLOEXEC | art)) {
     grantpt(master);
     unlockpt(master);
     name = ptsname(master);
@@ -66,28 +59,33 @@ struct Pty {
   Pty(const Pty&) = delete;
   Pty& operator=(const Pty&) = delete;
 
-  int master = posix_openpt(O_RDWR | O_NOCTTY | O_CLOEXEC);
+  int master;
   int geraet = -1;
   std::string name;
 };
 
-// A real device server in front of a pseudo-terminal, on a loopback address of this process's own: its TCP
-// port is fixed, and several tests may run at once.
+// A loopback address of this process's own: the TCP port of a device server is fixed, and several tests may
+// run at once.
+inline std::string Eigene_adresse() {
+  const int pid = getpid();
+  return "127." + std::to_string(pid / 65536 % 200 + 20) + "." + std::to_string(pid / 256 % 256) + "." +
+         std::to_string(pid % 254 + 1);
+}
+
+// A real device server in front of a pseudo-terminal.
 class Geraeteserver {
  public:
   Geraeteserver(const Testordner& ordner, const std::string& geraet) {
-    const int pid = getpid();
-    adresse = "127." + std::to_string(pid / 65536 % 200 + 20) + "." + std::to_string(pid / 256 % 256) + "." +
-              std::to_string(pid % 254 + 1);
     const std::string datei = ordner / "ser2net.yaml";
     Datei_anlegen(datei, "%YAML 1.1\n---\nconnection: &zav\n  accepter: telnet(rfc2217),tcp," + adresse +
-                             ",4001\n  connector: serialdev(nouucplock=true)," + geraet + ",9600n71,local\n");
+                             ",4001\n  connector: serialdev(nouucplock=true)," + geraet +
+                             ",9600n71,local\n  options:\n    kickolduser: true\n");
     prozess_ = fork();
     if (prozess_ == 0) {
       execlp("ser2net", "ser2net", "-n", "-c", datei.c_str(), nullptr);
       _exit(127);
     }
-    for (int n = 0; n < 200; ++n) {
+    for (int n = 0; n < 3000; ++n) {  // a minute: a loaded machine takes its time
       const int s = cscClient(adresse, 4001);
       if (s >= 0) {
         cscClose(s);
@@ -107,7 +105,7 @@ class Geraeteserver {
     return std::system("command -v ser2net >/dev/null 2>&1") == 0;
   }
 
-  std::string adresse;
+  const std::string adresse = Eigene_adresse();
 
  private:
   pid_t prozess_ = -1;

@@ -23,16 +23,21 @@
 
 namespace zav {
 
-// A socket that listens on a free port of this machine, with that many connections waiting at the most.
-inline int Lauscher(int& port, int warteschlange = 4) {
+// A socket that listens on a port of this machine, 0 = a free one, which comes back, with that many
+// connections waiting at the most.
+inline int Lauscher(int& port, const std::string& adresse = "127.0.0.1", int warteschlange = 4) {
   const int fd = socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0);
+  const int ja = 1;
+  setsockopt(fd, SOL_SOCKET, SO_REUSEADDR, &ja, sizeof ja);
   sockaddr_in ort{};
   ort.sin_family = AF_INET;
-  ort.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+  ort.sin_port = htons(static_cast<std::uint16_t>(port));
+  ort.sin_addr.s_addr = inet_addr(adresse.c_str());
   socklen_t laenge = sizeof ort;
-  auto* const adresse = reinterpret_cast<sockaddr*>(&ort);
-  EXPECT_TRUE(bind(fd, adresse, laenge) == 0 && listen(fd, warteschlange) == 0 &&
-              getsockname(fd, adresse, &laenge) == 0);
+  auto* const name = reinterpret_cast<sockaddr*>(&ort);
+  EXPECT_TRUE(bind(fd, name, laenge) == 0 && listen(fd, warteschlange) == 0 &&
+              getsockname(fd, name, &laenge) == 0)
+      << adresse;
   port = ntohs(ort.sin_port);
   return fd;
 }
@@ -93,6 +98,7 @@ class Gegenstelle {
     einstellungen.Com_geraet = geraet_;
   }
   void Lauschen() {
+    einstellungen.Host_port = 0;
     lauscher_ = Lauscher(einstellungen.Host_port);
     einstellungen.Host_ip = "127.0.0.1";
   }

@@ -388,6 +388,7 @@ TEST_P(Jeder_austausch, DesLoeschens) {
 TEST(Flut, EndetDasLoeschen) {
   einstellungen.Com_art = 1;
   einstellungen.Host_ip = "127.0.0.1";
+  einstellungen.Host_port = 0;
   const int lauscher = Lauscher(einstellungen.Host_port);
   Com_art_setzen();
   std::thread master([lauscher] {

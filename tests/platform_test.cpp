@@ -187,7 +187,7 @@ TEST(Csc, FailedConnectionNamesItsCause) {
 TEST(Csc, HostThatDoesNotAnswerLeavesTheFrontEndAliveAndEnds) {
   // A listener whose queue is full leaves further connections without an answer, as a switched-off host does.
   int port = 0;
-  const int lauscher = Lauscher(port, 0);
+  const int lauscher = Lauscher(port, "127.0.0.1", 0);
   Zaehlt_runden front;
   Zeitraffer_setzen(20);
   int ergebnis = 0;
