@@ -2,7 +2,6 @@
 
 #include "basis/datum.h"
 #include "basis/feld.h"
-#include "basis/sonne.h"
 #include "basis/text.h"
 #include "basis/windows1252.h"
 #include "basis/zahl.h"
@@ -79,13 +78,6 @@ TEST(Datum, TextsRollOverAndDayNumbers) {
   EXPECT_EQ(Zeit_sekunden("07.30.05 mit Zufall"), 27005);
   EXPECT_EQ(Zeit_sekunden("07:30:05"), 27005);
   EXPECT_EQ(Zeit_text(27005), "07.30.05");
-}
-
-TEST(Sonne, DayEightyMatchesTheHandCalculation) {
-  const Datum d{2026, 3, 21};  // day 80 of the year
-  EXPECT_NEAR(Sonnenaufgang(laenge_grad, breite_grad, d) * 24.0, 7.581, 0.001);
-  EXPECT_NEAR(Sonnenuntergang(laenge_grad, breite_grad, d) * 24.0, 19.783, 0.001);
-  EXPECT_NEAR(Sonnenzeiten_am(d).aufgang, (7.581 - 1.0) * 3600, 3) << "winter time: one hour less";
 }
 
 }  // namespace

@@ -82,11 +82,17 @@ Projekt Feindlich(unsigned saat) {
   return q;
 }
 
-// Opens the form and lays it out.
+// Opens the form with each of the arguments and lays it out.
 template <class F, class... A>
-void Oeffnen(A... argumente) {
-  F form(argumente...);
-  form.anordnung();
+void Oeffnen(std::initializer_list<int> stellen, A... argumente) {
+  for (const int stelle : stellen) {
+    F form(stelle, argumente...);
+    form.anordnung();
+  }
+}
+template <class... F>
+void Oeffnen() {
+  (F().anordnung(), ...);
 }
 
 TEST(Feindliches_projekt, HaeltWederSendenNochBerichteNochFensterAn) {
@@ -95,26 +101,15 @@ TEST(Feindliches_projekt, HaeltWederSendenNochBerichteNochFensterAn) {
     projekt = Feindlich(saat);
     EXPECT_NE(Abbild(projekt, einstellungen, {.nur_geaenderte = false}), "");
     Drehbuch d;  // boxes answer themselves; what they say does not matter here
-    for (const int e : {0, 1, 511, 1023}) Oeffnen<Actmask>(e, "");
-    for (const int e : {0, 255}) Oeffnen<Actmask_uhr>(e, "");
-    for (const int e : {0, 63}) Oeffnen<Actmask_timer>(e, "");
-    Oeffnen<Actmask_init>();
-    Oeffnen<Dimmermode>();
-    Oeffnen<Timer_trepp>();
-    Oeffnen<Backref>();
-    Oeffnen<Einmask>();
-    Oeffnen<Touchpanel_Referenz>();
-    Oeffnen<Dialog_Kombination>("7", 1);
-    Oeffnen<Uhr>();
-    Oeffnen<Form_Setup_uhr>();
-    for (const int a : {0, 252}) Oeffnen<Wetterlogik>(a, [](int, const std::string&) {});
-    Oeffnen<Wetterdisplay>();
-    for (const int a : {0, 4095}) Oeffnen<Enocean_Definition>(a);
-    Oeffnen<Enocean_Send>();
-    for (const int a : {0, 4080}) Oeffnen<App_eigenschaften_seite>(a, 3);
-    Oeffnen<IP_Kameras>();
-    Oeffnen<ZAVapp_Form>();
-    Oeffnen<Storentimer>();
+    Oeffnen<Actmask>({0, 1, 511, 1023}, "");
+    Oeffnen<Actmask_uhr>({0, 255}, "");
+    Oeffnen<Actmask_timer>({0, 63}, "");
+    Oeffnen<Wetterlogik>({0, 252}, [](int, const std::string&) {});
+    Oeffnen<Enocean_Definition>({0, 4095});
+    Oeffnen<App_eigenschaften_seite>({0, 4080}, 3);
+    Oeffnen<Actmask_init, Dimmermode, Timer_trepp, Backref, Einmask, Touchpanel_Referenz, Uhr, Form_Setup_uhr,
+            Wetterdisplay, Enocean_Send, IP_Kameras, ZAVapp_Form, Storentimer>();
+    Dialog_Kombination("7", 1).anordnung();
     EXPECT_NE(App_xml_bauen(projekt), "");
     EXPECT_LE(Kennzahlen_von(projekt).adressen, apparate * adressen);
     {
