@@ -291,8 +291,8 @@ TEST_F(App, PageEditsACopyOfTheDevicesRecords) {
   f.Combo4.waehlen(29);
   f.Check8.haken(true);
   f.Option1.waehlen(3);
-  EXPECT_EQ(f.Label25.titel, "Frage 1, wenn Rückmeldung aus ist");
-  EXPECT_EQ(f.Label26.titel, "Frage 2, wenn Rückmeldung ein ist");
+  EXPECT_EQ(zeigt(f.Label25, f.Label26),
+            "Frage 1, wenn Rückmeldung aus ist|Frage 2, wenn Rückmeldung ein ist");
   f.Text18.eingeben("Wirklich?");
   f.Check9.haken(true);
   EXPECT_FALSE(f.Check6.frei);
@@ -314,8 +314,7 @@ TEST_F(App, PageEditsACopyOfTheDevicesRecords) {
   App_eigenschaften_seite g(33, 2);
   g.Option2.waehlen(1);
   g.Command1.druecken();
-  EXPECT_EQ(g.Combo1.text(), "Licht");
-  EXPECT_EQ(g.Text12.text(), "0");
+  EXPECT_EQ(zeigt(g.Combo1, g.Text12), "Licht|0");
   g.Command2.druecken();
   EXPECT_EQ(g.Combo2.position(), 0);
   EXPECT_EQ(g.Combo4.position(), 640);
@@ -335,8 +334,7 @@ TEST_F(App, CamerasAreEditedDeletedAndKeptAsLines) {
     f.Check1.haken(true);
     f.Text1.eingeben("Eingang");
     f.Combo1.waehlen("Panasonic");
-    EXPECT_EQ(f.Text7.text(), "panasonic.bb.hcm5xx");
-    EXPECT_TRUE(f.Check2[5].an());
+    EXPECT_EQ(zeigt(f.Text7, f.Check2[5]), "panasonic.bb.hcm5xx|an");
     f.Check2[5].haken(false);
     f.Text6.eingeben("65531");
     f.Combo2.waehlen("I14-2:  - Tor");

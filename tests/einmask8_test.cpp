@@ -125,9 +125,7 @@ TEST_F(Installation, DeletingAKombinationClosesTheGap) {
   EXPECT_EQ(projekt.Komb_text2[1], "1");
   Projekt soll = projekt;
   druecken(m.Command13, frage, Antwort::Ja);
-  EXPECT_EQ(m.Label1.titel, "Kombination gelöscht");
-  EXPECT_EQ(m.Frame1.titel, "Kombination");
-  EXPECT_EQ(m.Text7.text(), "255");
+  EXPECT_EQ(zeigt(m.Label1, m.Frame1, m.Text7), "Kombination gelöscht|Kombination|255");
   for (int k = 1; k < 255; ++k) {
     soll.Komb_text2[k] = std::to_string(k + 1);
     soll.Komb_layout[k] = static_cast<i16>((k + 1) % 16);

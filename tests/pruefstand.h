@@ -5,6 +5,7 @@
 
 #include <concepts>
 #include <functional>
+#include <sstream>
 #include <string>
 #include <utility>
 
@@ -62,6 +63,26 @@ class Pruefstand : public testing::Test {
   void druecken(Taste& t, std::function<void(F&)> spiel) {
     d.erwarte_dialog<F>(std::move(spiel));
     t.druecken();
+  }
+  // What controls show, separated by "|": text, chosen entry, "an" or "aus", number, or else the caption.
+  static std::string zeigt(const auto&... elemente) {
+    std::ostringstream aus;
+    const auto eines = [&aus]<class E>(const E& e) {
+      if constexpr (requires { e.text(); }) {
+        aus << e.text();
+      } else if constexpr (requires { e.an(); }) {
+        aus << (e.an() ? "an" : "aus");
+      } else if constexpr (requires { e.wert(); }) {
+        aus << e.wert();
+      } else if constexpr (requires { *e.wert; }) {
+        aus << *e.wert;
+      } else {
+        aus << *e.titel;
+      }
+      aus << '|';
+    };
+    (eines(elemente), ...);
+    return aus.str().substr(0, aus.str().size() - 1);
   }
 
   Drehbuch d;
