@@ -1,10 +1,8 @@
 #include "zavlink/apparaterahmen.h"
 
 #include <QContextMenuEvent>
-#include <QHelpEvent>
 #include <QKeyEvent>
 #include <QPainter>
-#include <QToolTip>
 #include <algorithm>
 
 #include "editor/einmask8.h"
@@ -35,6 +33,7 @@ class Apparaterahmen final : public Zellenfeld {
   int zellenzahl() const override { return form_.kombination() < 0 ? 0 : plaetze; }
   QRectF zelle(int i) const override { return da(i) ? ort(i) : QRectF(); }
   QString zelltext(int i) const override { return "Platz " + QString::number(i + 1) + ": " + titel(i); }
+  QString tipptext(int i) const override { return titel(i); }
   bool zelle_gewaehlt(int i) const override { return i == form_.platz(); }
   int zeiger() const override { return form_.platz(); }
   void zelle_nehmen(int i) override {
@@ -76,9 +75,6 @@ class Apparaterahmen final : public Zellenfeld {
     }
   }
 
-  void mousePressEvent(QMouseEvent* e) override {
-    if (e->button() == Qt::LeftButton) zelle_nehmen(zelle_bei(e->position()));
-  }
   void mouseDoubleClickEvent(QMouseEvent* e) override {
     if (zelle_bei(e->position()) >= 0) weiter();
   }
@@ -114,17 +110,6 @@ class Apparaterahmen final : public Zellenfeld {
   void focusInEvent(QFocusEvent* e) override {
     QWidget::focusInEvent(e);
     beschreiben();
-  }
-  void focusOutEvent(QFocusEvent* e) override {
-    QWidget::focusOutEvent(e);
-    update();
-  }
-  bool event(QEvent* e) override {
-    if (e->type() != QEvent::ToolTip) return QWidget::event(e);
-    auto* const hilfe = static_cast<QHelpEvent*>(e);
-    const int i = zelle_bei(hilfe->pos());
-    QToolTip::showText(hilfe->globalPos(), i < 0 ? QString() : Tipp(titel(i)), this);
-    return true;
   }
 
  private:

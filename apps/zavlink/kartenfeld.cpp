@@ -1,10 +1,8 @@
 #include "zavlink/kartenfeld.h"
 
-#include <QHelpEvent>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QPainter>
-#include <QToolTip>
 #include <QVBoxLayout>
 #include <algorithm>
 
@@ -124,10 +122,6 @@ void Kartenfeld::zelle_malen(QPainter& p, const QRectF& r, int i) {
   p.drawText(r.adjusted(3, 0, -3, 0), Qt::AlignCenter | Qt::TextWordWrap, Q(auswahl_.eintrag(i).text));
 }
 
-void Kartenfeld::mousePressEvent(QMouseEvent* e) {
-  if (e->button() == Qt::LeftButton) zelle_nehmen(zelle_bei(e->position()));
-}
-
 void Kartenfeld::mouseMoveEvent(QMouseEvent* e) {
   const int i = zelle_bei(e->position());
   if (i == ueber_) return;
@@ -164,25 +158,6 @@ void Kartenfeld::keyPressEvent(QKeyEvent* e) {
 void Kartenfeld::focusInEvent(QFocusEvent* e) {
   QWidget::focusInEvent(e);
   if (zeiger_ < auswahl_.anzahl()) zeigen(zeiger_);
-}
-
-void Kartenfeld::focusOutEvent(QFocusEvent* e) {
-  QWidget::focusOutEvent(e);
-  update();
-}
-
-bool Kartenfeld::event(QEvent* e) {
-  if (e->type() == QEvent::ToolTip) {
-    auto* const hilfe = static_cast<QHelpEvent*>(e);
-    const int i = zelle_bei(hilfe->pos());
-    if (i >= 0) {
-      QToolTip::showText(hilfe->globalPos(), Tipp(zelltext(i)), this, zelle(i).toRect());
-    } else {
-      QToolTip::hideText();
-    }
-    return true;
-  }
-  return QWidget::event(e);
 }
 
 QWidget* Karte_mit_zeile(Kartenfeld& karte, Auffrischer& auf, Gebautes& ergebnis) {

@@ -45,13 +45,10 @@ class Kartenfeld : public Zellenfeld {
   QColor schriftfarbe(int i) const;
 
   void paintEvent(QPaintEvent* e) override;
-  void mousePressEvent(QMouseEvent* e) override;
   void mouseMoveEvent(QMouseEvent* e) override;
   void leaveEvent(QEvent* e) override;
   void keyPressEvent(QKeyEvent* e) override;
   void focusInEvent(QFocusEvent* e) override;
-  void focusOutEvent(QFocusEvent* e) override;
-  bool event(QEvent* e) override;
 
  private:
   int zeilen() const;

@@ -3,8 +3,12 @@
 #include <QAccessible>
 #include <QAccessibleWidget>
 #include <QHash>
+#include <QHelpEvent>
 #include <QPointer>
 #include <QScrollArea>
+#include <QToolTip>
+
+#include "zavlink/qt_text.h"
 
 namespace zav::fenster {
 
@@ -109,6 +113,24 @@ int Zellenfeld::zelle_bei(QPointF p) const {
     if (zelle(i).contains(p)) return i;
   }
   return -1;
+}
+
+void Zellenfeld::mousePressEvent(QMouseEvent* e) {
+  if (e->button() == Qt::LeftButton) zelle_nehmen(zelle_bei(e->position()));
+}
+
+void Zellenfeld::focusOutEvent(QFocusEvent* e) {
+  QWidget::focusOutEvent(e);
+  update();
+}
+
+bool Zellenfeld::event(QEvent* e) {
+  if (e->type() != QEvent::ToolTip) return QWidget::event(e);
+  auto* const hilfe = static_cast<QHelpEvent*>(e);
+  const int i = zelle_bei(hilfe->pos());
+  if (i < 0) QToolTip::hideText();
+  else QToolTip::showText(hilfe->globalPos(), Tipp(tipptext(i)), this, zelle(i).toRect());
+  return true;
 }
 
 // On a small screen the page scrolls under the keyboard.

@@ -17,13 +17,18 @@ class Zellenfeld : public QWidget {
   virtual bool zelle_gewaehlt(int i) const = 0;
   // The cell of the keyboard, -1 = none.
   virtual int zeiger() const = 0;
-  // What a click on the cell does.
+  // What a click on the cell does; -1: beside all cells.
   virtual void zelle_nehmen(int i) = 0;
+  virtual QString tipptext(int i) const { return zelltext(i); }
 
  protected:
   int zelle_bei(QPointF p) const;  // -1: none
   // Says where the keyboard has come to: after every step, and when the focus comes.
   void zeiger_melden();
+
+  void mousePressEvent(QMouseEvent* e) override;
+  void focusOutEvent(QFocusEvent* e) override;
+  bool event(QEvent* e) override;
 
  private:
   void in_sicht_bringen(const QRect& r);
