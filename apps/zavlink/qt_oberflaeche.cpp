@@ -9,7 +9,9 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <algorithm>
+#include <utility>
 
+#include "platform/uhrwerk.h"
 #include "zavlink/formfenster.h"
 #include "zavlink/qt_text.h"
 
@@ -66,33 +68,35 @@ void Einrichten(QFileDialog& d, const Dateifrage& f) {
   if (!f.titel.empty()) d.setWindowTitle(Q(f.titel));
 }
 
-// A window with a bar tells by itself how far its work has come.
+// A window with a bar of progress tells by itself how far its work has come.
 bool Hat_balken(const Formular& f) {
-  return std::ranges::any_of(f.elemente(),
-                             [](const Steuerelement* e) { return e->art == Art::Balken && e->sichtbar; });
+  return std::ranges::any_of(f.elemente(), [](const Steuerelement* e) {
+    return e->art == Art::Balken && e->sichtbar &&
+           static_cast<const Balken*>(e)->zeigt == Balken::Zeigt::fortschritt;
+  });
 }
-
-// A box or a file dialog over a command that shows the busy pointer has the ordinary one.
-class Freier_zeiger {
- public:
-  Freier_zeiger() : wartet_(QApplication::overrideCursor() != nullptr) {
-    if (wartet_) QApplication::changeOverrideCursor(Qt::ArrowCursor);
-  }
-  ~Freier_zeiger() {
-    if (wartet_ && QApplication::overrideCursor() != nullptr)
-      QApplication::changeOverrideCursor(Qt::WaitCursor);
-  }
-  Freier_zeiger(const Freier_zeiger&) = delete;
-  Freier_zeiger& operator=(const Freier_zeiger&) = delete;
-
- private:
-  bool wartet_;
-};
 
 }  // namespace
 
+// While a box, a file dialog or another form is open, the user is waited for, and not the work below it.
+class Qt_oberflaeche::Wartepause {
+ public:
+  explicit Wartepause(Qt_oberflaeche& o) : o_(o), wartet_(o.wartezeit_.isValid()) {
+    o_.Zeiger_setzen(Zeiger::normal);
+  }
+  ~Wartepause() {
+    if (wartet_) o_.Zeiger_setzen(Zeiger::warten);
+  }
+  Wartepause(const Wartepause&) = delete;
+  Wartepause& operator=(const Wartepause&) = delete;
+
+ private:
+  Qt_oberflaeche& o_;
+  bool wartet_;
+};
+
 std::optional<Dateiwahl> Qt_oberflaeche::Fragen(QFileDialog& d, const QCheckBox* schutz) {
-  const Freier_zeiger zeiger;
+  const Wartepause pause(*this);
   if (d.exec() != QDialog::Accepted || d.selectedFiles().isEmpty()) return std::nullopt;
   return Dateiwahl{
       .pfad = S(d.selectedFiles().first()),
@@ -117,7 +121,7 @@ Antwort Qt_oberflaeche::Melden(const Meldung& m) {
     if (++nummer == m.standard) kasten.setDefaultButton(knopf);
     if (k.antwort == Vorsichtige_antwort(m.knoepfe)) kasten.setEscapeButton(knopf);
   }
-  const Freier_zeiger zeiger;
+  const Wartepause pause(*this);
   const int gedrueckt = kasten.exec();
   for (const Knopf& k : knoepfe) {
     if (k.qt == gedrueckt) return k.antwort;
@@ -131,10 +135,9 @@ void Qt_oberflaeche::Zeiger_setzen(Zeiger z) {
   if ((z == Zeiger::warten) == wartezeit_.isValid()) return;
   if (z == Zeiger::warten) {
     wartezeit_.start();
-    QApplication::setOverrideCursor(Qt::WaitCursor);
   } else {
     wartezeit_.invalidate();
-    QApplication::restoreOverrideCursor();
+    if (std::exchange(zeiger_wartet_, false)) QApplication::restoreOverrideCursor();
     if (!hinweis_da_) Hinweis_zeigen("");
   }
 }
@@ -149,16 +152,22 @@ void Qt_oberflaeche::Hinweis_zeigen(const std::string& text) {
 }
 
 void Qt_oberflaeche::DoEvents() {
+  const auto laenger_als = [this](double sekunden) {
+    return wartezeit_.isValid() && wartezeit_.elapsed() > Echte_millisekunden(sekunden);
+  };
+  if (!zeiger_wartet_ && laenger_als(0.5)) {
+    zeiger_wartet_ = true;
+    QApplication::setOverrideCursor(Qt::WaitCursor);
+  }
   // What has no words of its own gets some when it takes long.
-  static constexpr qint64 stille_ms = 1000;
-  if (wartezeit_.isValid() && wartezeit_.elapsed() > stille_ms && !hinweis_da_ && !offene_.empty() &&
-      !Hat_balken(offene_.back()->formular())) {
+  if (laenger_als(1) && !hinweis_da_ && !offene_.empty() && !Hat_balken(offene_.back()->formular())) {
     Hinweis_zeigen("Einen Moment bitte, der ZAVmaster wird gefragt...");
   }
   QApplication::processEvents();
 }
 
 void Qt_oberflaeche::Zeigen(Formular& f) {
+  const Wartepause pause(*this);
   Formfenster fenster(f, vorne());
   offene_.push_back(&fenster);
   fenster.laufen();
@@ -188,6 +197,7 @@ std::optional<Dateiwahl> Qt_oberflaeche::Datei_speichern(const Dateifrage& f) {
 }
 
 std::optional<std::string> Qt_oberflaeche::Ordner_waehlen(const std::string& beginn) {
+  const Wartepause pause(*this);
   const QString ordner = QFileDialog::getExistingDirectory(
       vorne(), "Ordner wählen", QDir(Q(beginn)).exists() ? Q(beginn) : QDir::homePath());
   if (ordner.isEmpty()) return std::nullopt;

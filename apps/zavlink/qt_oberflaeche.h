@@ -18,6 +18,7 @@ class Qt_oberflaeche final : public Oberflaeche {
  public:
   Antwort Melden(const Meldung& m) override;
   void Piep() override;
+  // The busy pointer comes with a turn, once the work has taken longer than half a second.
   void Zeiger_setzen(Zeiger z) override;
   void Hinweis(const std::string& text) override;
   void DoEvents() override;
@@ -29,12 +30,14 @@ class Qt_oberflaeche final : public Oberflaeche {
   void Zwischenablage(const std::string& text) override;
 
  private:
+  class Wartepause;
   // The window in front: what opens next stands over it, also while another program has the keyboard.
   QWidget* vorne() const;
   void Hinweis_zeigen(const std::string& text);
   std::optional<Dateiwahl> Fragen(QFileDialog& d, const QCheckBox* schutz);
   std::vector<Formfenster*> offene_;
-  QElapsedTimer wartezeit_;  // valid while the pointer is busy
+  QElapsedTimer wartezeit_;  // valid while a longer work is under way
+  bool zeiger_wartet_ = false;
   bool hinweis_da_ = false;
 };
 
