@@ -1,13 +1,21 @@
 // The pointer and the theme of the window program, as they change while it runs.
 #include <QApplication>
 #include <QDialog>
+#include <QIcon>
+#include <QLabel>
+#include <QLineEdit>
 #include <QTimer>
+#include <QWindow>
 #include <chrono>
 #include <thread>
 
 #include "fenster_hilfen.h"
 #include "platform/uhrwerk.h"
+#include "weather/wetterdisplay.h"
+#include "zavlink/aussehen.h"
+#include "zavlink/farben.h"
 #include "zavlink/qt_oberflaeche.h"
+#include "zavlink/symbole.h"
 
 namespace zav::fenster {
 
@@ -50,6 +58,46 @@ TEST_F(Aussehen, DerZeigerWartetErstBeiLangerArbeitUndNieUeberEinerFrage) {
   EXPECT_FALSE(wartet());
   arbeiten(10);
   EXPECT_FALSE(wartet()) << "nothing waits";
+}
+
+bool Zeigt(const QPixmap& bild, QPalette::ColorRole rolle) {
+  const QImage punkte = bild.toImage();
+  const QRgb farbe = QApplication::palette().color(rolle).rgba();
+  for (int y = 0; y < punkte.height(); ++y) {
+    for (int x = 0; x < punkte.width(); ++x) {
+      if (punkte.pixel(x, y) == farbe) return true;
+    }
+  }
+  return false;
+}
+
+TEST_F(Aussehen, FolgtDemArbeitsplatzAuchInBildernUndFeldern) {
+  Aussehen_setzen(Thema::wie_arbeitsplatz);
+  Wetterdisplay form;
+  Formfenster f(form, nullptr);
+  f.show();
+  const QIcon symbol = Symbolbild("haus");
+  const auto bild = [&symbol](QIcon::Mode modus) { return symbol.pixmap(48, 48, modus); };
+  const auto erwarte = [&](bool dunkel) {
+    for (int runde = 0; runde < 4; ++runde) QApplication::processEvents();
+    EXPECT_EQ(Ist_dunkel(QApplication::palette()), dunkel);
+    EXPECT_EQ(QApplication::palette().color(QPalette::Base), Palette(dunkel).color(QPalette::Base));
+    EXPECT_TRUE(Zeigt(bild(QIcon::Normal), QPalette::WindowText));
+    EXPECT_TRUE(Zeigt(bild(QIcon::Selected), QPalette::HighlightedText)) << "readable on the highlight";
+    EXPECT_FALSE(Zeigt(bild(QIcon::Selected), QPalette::WindowText));
+    for (const auto* schild : f.findChildren<QLabel*>()) {
+      const QPixmap gezeigt = schild->pixmap();
+      EXPECT_TRUE(gezeigt.isNull() || Zeigt(gezeigt, QPalette::WindowText));
+    }
+    for (const auto* feld : f.findChildren<QLineEdit*>())
+      EXPECT_EQ(feld->palette().color(QPalette::Base), QApplication::palette().color(QPalette::Window));
+  };
+  erwarte(false);
+  QApplication::setPalette(QPalette(Qt::black));  // as a desktop does that has turned dark
+  erwarte(true);
+  QEvent neues_thema(QEvent::ThemeChange);  // the desktop of the tests is light
+  QApplication::sendEvent(f.windowHandle(), &neues_thema);
+  erwarte(false);
 }
 
 }  // namespace

@@ -61,7 +61,7 @@ class Apparaterahmen final : public Zellenfeld {
     for (int i = 0; i < plaetze; ++i) {
       if (da(i)) rahmen = rahmen.united(ort(i));
     }
-    const bool dunkel = palette().color(QPalette::Window).lightness() < 128;
+    const bool dunkel = Ist_dunkel(palette());
     p.setPen(QPen(palette().color(QPalette::Mid), 1));
     p.setBrush(dunkel ? QColor(70, 76, 84) : QColor(232, 234, 237));
     p.drawRoundedRect(rahmen.adjusted(-rahmenrand, -rahmenrand, rahmenrand, rahmenrand), 8, 8);

@@ -1,12 +1,15 @@
 #include "zavlink/aussehen.h"
 
 #include <QApplication>
+#include <QEvent>
 #include <QLibraryInfo>
 #include <QLocale>
 #include <QPainter>
 #include <QStyleOption>
+#include <QTimer>
 #include <QTranslator>
 #include <algorithm>
+#include <utility>
 
 #include "zavlink/farben.h"
 
@@ -48,8 +51,7 @@ QPen Linie(const QStyleOption& o) {
   const bool hier = o.state.testFlag(QStyle::State_Enabled) && o.state.testFlag(QStyle::State_HasFocus);
   QColor farbe = QApplication::palette().color(hier ? QPalette::Highlight : QPalette::Mid);
   if (!hier && o.state.testFlag(QStyle::State_Enabled)) {
-    const bool dunkel = QApplication::palette().color(QPalette::Window).lightness() < 128;
-    farbe = dunkel ? farbe.lighter(130) : farbe.darker(115);
+    farbe = Ist_dunkel(QApplication::palette()) ? farbe.lighter(130) : farbe.darker(115);
   }
   return {farbe, hier ? 1.6 : 1.0};
 }
@@ -202,6 +204,15 @@ void Stil::drawControl(ControlElement e, const QStyleOption* o, QPainter* p, con
                  o->state.testFlag(State_Enabled), knopf.text, QPalette::ButtonText);
     return;
   }
+  if (const auto* const zeile = qstyleoption_cast<const QStyleOptionMenuItem*>(o);
+      e == CE_MenuItem && zeile != nullptr && o->state.testFlag(State_Selected) && !zeile->icon.isNull()) {
+    // The line in hand is filled with the highlight's colour, as a chosen line of a list is.
+    const int mass = pixelMetric(PM_SmallIconSize, o, w);
+    const auto modus = o->state.testFlag(State_Enabled) ? QIcon::Selected : QIcon::Disabled;
+    QStyleOptionMenuItem gewaehlt = *zeile;
+    gewaehlt.icon = zeile->icon.pixmap(QSize(mass, mass), p->device()->devicePixelRatio(), modus);
+    return QProxyStyle::drawControl(e, &gewaehlt, p, w);
+  }
   if (e == CE_ProgressBar) return Balken_malen(*p, *qstyleoption_cast<const QStyleOptionProgressBar*>(o));
   if (e == CE_TabBarTabShape) {
     // The chosen page is underlined; the strip itself is one line.
@@ -236,10 +247,45 @@ void Stil::drawPrimitive(PrimitiveElement e, const QStyleOption* o, QPainter* p,
   QProxyStyle::drawPrimitive(e, o, p, w);
 }
 
+namespace {
+
+// Answers a palette of the desktop's with the program's own in the same tone, now and whenever it changes.
+class Arbeitsplatzfolger final : public QObject {
+ public:
+  explicit Arbeitsplatzfolger(QObject* eltern) : QObject(eltern) {
+    folgen();
+    eltern->installEventFilter(this);
+  }
+
+ protected:
+  bool eventFilter(QObject* o, QEvent* e) override {
+    if (e->type() == QEvent::ThemeChange && !std::exchange(gefragt_, true)) {
+      // Each window is told. Our palette lies over the desktop's; without it that one shows.
+      QTimer::singleShot(0, this, [this] {
+        gefragt_ = false;
+        QApplication::setPalette(QPalette());
+      });
+    }
+    if (e->type() == QEvent::ApplicationPaletteChange && o == parent() && QApplication::palette() != eigene_)
+      folgen();
+    return false;
+  }
+
+ private:
+  void folgen() {
+    QApplication::setPalette(Palette(Ist_dunkel(QApplication::palette())));
+    eigene_ = QApplication::palette();
+  }
+  QPalette eigene_;
+  bool gefragt_ = false;
+};
+
+}  // namespace
+
 void Aussehen_setzen(Thema thema) {
-  const bool dunkel = thema == Thema::dunkel || (thema == Thema::wie_arbeitsplatz && Dunkel_gewuenscht());
   QApplication::setStyle(new Stil);
-  QApplication::setPalette(dunkel ? Palette_dunkel() : Palette_hell());
+  if (thema == Thema::wie_arbeitsplatz) new Arbeitsplatzfolger(qApp);
+  else QApplication::setPalette(Palette(thema == Thema::dunkel));
   QLocale::setDefault(QLocale(QLocale::German, QLocale::Switzerland));
   static QTranslator texte;
   if (texte.load("qtbase_de", QLibraryInfo::path(QLibraryInfo::TranslationsPath)))

@@ -19,7 +19,8 @@ class Stil final : public QProxyStyle {
 
 enum class Thema { wie_arbeitsplatz, hell, dunkel };
 
-// Style, palette, Qt's own texts in German. Once, before the first window.
+// Style, palette, Qt's own texts in German. Once, before the first window; a theme like the desktop's follows
+// it while the program runs.
 void Aussehen_setzen(Thema thema = Thema::wie_arbeitsplatz);
 
 }  // namespace zav::fenster

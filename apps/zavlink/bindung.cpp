@@ -52,6 +52,10 @@ void Auffrischer::vormerken(Eintrag& e) {
   QTimer::singleShot(0, this, [this] { nachholen(); });
 }
 
+void Auffrischer::alles_vormerken() {
+  for (const auto& e : eintraege_) vormerken(*e);
+}
+
 void Auffrischer::nachholen() {
   bestellt_ = false;
   for (const auto& e : eintraege_) {

@@ -26,6 +26,8 @@ class Auffrischer final : public QObject {
   void binden(Steuerelement& e, std::function<void()> auffrischen);
   // Refreshes what is waiting now.
   void nachholen();
+  // Refreshes everything on the next turn: what widgets have taken over from the palette has changed.
+  void alles_vormerken();
 
  private:
   struct Eintrag {

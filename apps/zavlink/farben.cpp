@@ -1,8 +1,6 @@
 #include "zavlink/farben.h"
 
-#include <QApplication>
 #include <array>
-#include <utility>
 
 namespace zav::fenster {
 
@@ -22,7 +20,7 @@ void Einfaerben(QWidget& w, Farbe f) {
     w.setAutoFillBackground(false);
     return;
   }
-  QPalette p = QApplication::palette(&w);
+  QPalette p;  // what is not set here follows the program's
   for (const auto rolle : {QPalette::Base, QPalette::Button, QPalette::Window})
     p.setColor(rolle, Farbe_qt(f));
   for (const auto rolle : {QPalette::Text, QPalette::ButtonText, QPalette::WindowText}) {
@@ -36,60 +34,41 @@ void Einfaerben(QWidget& w, Farbe f) {
 
 namespace {
 
-using Tabelle = std::array<std::pair<QPalette::ColorRole, const char*>, 15>;
-
-QPalette Aus(const Tabelle& farben, const char* gesperrt) {
-  QPalette p;
-  for (const auto& [rolle, farbe] : farben) p.setColor(rolle, QColor(farbe));
-  for (const auto rolle : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
-    p.setColor(QPalette::Disabled, rolle, QColor(gesperrt));
-  }
-  return p;
-}
+struct Ton {
+  QPalette::ColorRole rolle;
+  const char* hell;
+  const char* dunkel;
+};
+constexpr std::array toene{
+    Ton{QPalette::Window, "#f4f5f7", "#22262b"},
+    Ton{QPalette::WindowText, "#1f2328", "#e6e8eb"},
+    Ton{QPalette::Base, "#ffffff", "#191c20"},
+    Ton{QPalette::AlternateBase, "#f7f8fa", "#1e2226"},
+    Ton{QPalette::Text, "#1f2328", "#e6e8eb"},
+    Ton{QPalette::Button, "#ffffff", "#2e343a"},
+    Ton{QPalette::ButtonText, "#1f2328", "#e6e8eb"},
+    Ton{QPalette::Highlight, "#1d6fb8", "#3f8fd6"},
+    Ton{QPalette::HighlightedText, "#ffffff", "#ffffff"},
+    Ton{QPalette::PlaceholderText, "#79808a", "#8b929b"},
+    Ton{QPalette::ToolTipBase, "#ffffff", "#2e343a"},
+    Ton{QPalette::ToolTipText, "#1f2328", "#e6e8eb"},
+    Ton{QPalette::Link, "#1d6fb8", "#6cb2ec"},
+    Ton{QPalette::Mid, "#c3c8cf", "#4a525b"},
+    Ton{QPalette::Midlight, "#e3e6ea", "#363d44"},
+};
+constexpr const char* gesperrt_hell = "#8d949d";
+constexpr const char* gesperrt_dunkel = "#7c848d";
 
 }  // namespace
 
-QPalette Palette_hell() {
-  return Aus({{{QPalette::Window, "#f4f5f7"},
-               {QPalette::WindowText, "#1f2328"},
-               {QPalette::Base, "#ffffff"},
-               {QPalette::AlternateBase, "#f7f8fa"},
-               {QPalette::Text, "#1f2328"},
-               {QPalette::Button, "#ffffff"},
-               {QPalette::ButtonText, "#1f2328"},
-               {QPalette::Highlight, "#1d6fb8"},
-               {QPalette::HighlightedText, "#ffffff"},
-               {QPalette::PlaceholderText, "#79808a"},
-               {QPalette::ToolTipBase, "#ffffff"},
-               {QPalette::ToolTipText, "#1f2328"},
-               {QPalette::Link, "#1d6fb8"},
-               {QPalette::Mid, "#c3c8cf"},
-               {QPalette::Midlight, "#e3e6ea"}}},
-             "#8d949d");
+QPalette Palette(bool dunkel) {
+  QPalette p;
+  for (const Ton& t : toene) p.setColor(t.rolle, QColor(dunkel ? t.dunkel : t.hell));
+  for (const auto rolle : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+    p.setColor(QPalette::Disabled, rolle, QColor(dunkel ? gesperrt_dunkel : gesperrt_hell));
+  return p;
 }
 
-QPalette Palette_dunkel() {
-  return Aus({{{QPalette::Window, "#22262b"},
-               {QPalette::WindowText, "#e6e8eb"},
-               {QPalette::Base, "#191c20"},
-               {QPalette::AlternateBase, "#1e2226"},
-               {QPalette::Text, "#e6e8eb"},
-               {QPalette::Button, "#2e343a"},
-               {QPalette::ButtonText, "#e6e8eb"},
-               {QPalette::Highlight, "#3f8fd6"},
-               {QPalette::HighlightedText, "#ffffff"},
-               {QPalette::PlaceholderText, "#8b929b"},
-               {QPalette::ToolTipBase, "#2e343a"},
-               {QPalette::ToolTipText, "#e6e8eb"},
-               {QPalette::Link, "#6cb2ec"},
-               {QPalette::Mid, "#4a525b"},
-               {QPalette::Midlight, "#363d44"}}},
-             "#7c848d");
-}
-
-bool Dunkel_gewuenscht() {
-  // The desktop's platform theme has put its own palette in place before ours.
-  return QApplication::palette().color(QPalette::Window).lightness() < 128;
-}
+bool Ist_dunkel(const QPalette& p) { return p.color(QPalette::Window).lightness() < 128; }
 
 }  // namespace zav::fenster

@@ -16,10 +16,9 @@ QColor Farbe_schrift();
 // Background of a widget by the form's colour; Farbe::normal gives the widget its own look back.
 void Einfaerben(QWidget& w, Farbe f);
 
-// The two palettes, and which of them the desktop asks for.
-QPalette Palette_hell();
-QPalette Palette_dunkel();
-bool Dunkel_gewuenscht();
+// The program's own palette.
+QPalette Palette(bool dunkel);
+bool Ist_dunkel(const QPalette& p);
 
 // Measures of the grid, in device-independent pixels.
 inline constexpr int raster = 8;

@@ -190,6 +190,7 @@ void Formfenster::reject() {
 
 bool Formfenster::event(QEvent* e) {
   if (e->type() == QEvent::WindowBlocked) ++unterbrechungen_;
+  if (e->type() == QEvent::ApplicationPaletteChange) auffrischer_->alles_vormerken();
   return QDialog::event(e);
 }
 

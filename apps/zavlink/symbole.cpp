@@ -1,14 +1,15 @@
 #include "zavlink/symbole.h"
 
 #include <QApplication>
-#include <QHash>
+#include <QIconEngine>
 #include <QPainter>
 #include <QPalette>
+#include <QPixmapCache>
 #include <QSvgRenderer>
 #include <algorithm>
 #include <array>
-#include <functional>
 #include <string_view>
+#include <utility>
 
 #include "zavlink/apparatbild.h"
 #include "zavlink/farben.h"
@@ -87,14 +88,6 @@ constexpr std::array zeichnungen{
     Zeichnung{"belegt", "", "M12 8a4 4 0 1 0 .1 0z"},
 };
 
-QPixmap Gemalt(int groesse, const std::function<void(QPainter&, const QRectF&)>& malen) {
-  QPixmap bild(groesse, groesse);
-  bild.fill(Qt::transparent);
-  QPainter p(&bild);
-  malen(p, QRectF(0, 0, groesse, groesse));
-  return bild;
-}
-
 // Number behind a prefix ("layout-" in "layout-3"); -1 when the name does not begin so.
 int Nummer_nach(const std::string& name, std::string_view vorsilbe) {
   return name.starts_with(vorsilbe) ? Q(name).mid(static_cast<qsizetype>(vorsilbe.size())).toInt() : -1;
@@ -125,26 +118,60 @@ void Symbol_malen(QPainter& p, const QRectF& r, std::string_view name, const QCo
   QSvgRenderer(svg.toUtf8()).render(&p, r);
 }
 
-QIcon Symbolbild(const std::string& name, bool auf_farbe) {
-  static QHash<QString, QIcon> fertige;
-  const QPalette palette = QApplication::palette();
-  const QColor linie = auf_farbe ? Farbe_schrift() : palette.color(QPalette::WindowText);
-  const QString schluessel = Q(name) + linie.name();
-  if (const auto i = fertige.constFind(schluessel); i != fertige.constEnd()) return *i;
-  const QColor akzent = palette.color(QPalette::Highlight);
-  const QColor blass = palette.color(QPalette::Disabled, QPalette::WindowText);
-  QIcon symbol;
-  // Frames of layouts are drawn on whole pixels, at the sizes in which they are shown.
-  const auto groessen = name.starts_with("layout-") ? std::array{20, 40, 60, 80} : std::array{18, 24, 36, 48};
-  for (const int groesse : groessen) {
-    symbol.addPixmap(
-        Gemalt(groesse, [&](QPainter& p, const QRectF& r) { Bild_malen(p, r, name, linie, akzent); }));
-    symbol.addPixmap(
-        Gemalt(groesse, [&](QPainter& p, const QRectF& r) { Bild_malen(p, r, name, blass, blass); }),
-        QIcon::Disabled);
+namespace {
+
+// Paints its symbol in the palette of the moment, at the size that is asked for.
+class Symbolmaler final : public QIconEngine {
+ public:
+  Symbolmaler(std::string name, bool auf_farbe) : name_(std::move(name)), auf_farbe_(auf_farbe) {}
+
+  QIconEngine* clone() const override { return new Symbolmaler(*this); }
+  QSize actualSize(const QSize& platz, QIcon::Mode /*modus*/, QIcon::State /*z*/) override {
+    const int mass = std::min(platz.width(), platz.height());
+    return {mass, mass};
   }
-  fertige.insert(schluessel, symbol);
-  return symbol;
+  void paint(QPainter* p, const QRect& r, QIcon::Mode modus, QIcon::State z) override {
+    p->drawPixmap(r, pixmap(r.size() * p->device()->devicePixelRatio(), modus, z));
+  }
+  QPixmap pixmap(const QSize& platz, QIcon::Mode modus, QIcon::State z) override {
+    const auto [linie, akzent] = toene(modus);
+    const int mass = actualSize(platz, modus, z).width();
+    const QString schluessel =
+        QString("symbol %1 %2 %3 %4").arg(Q(name_), linie.name(), akzent.name(), QString::number(mass));
+    QPixmap bild;
+    if (QPixmapCache::find(schluessel, &bild)) return bild;
+    bild = QPixmap(mass, mass);
+    bild.fill(Qt::transparent);
+    QPainter p(&bild);
+    Bild_malen(p, QRectF(0, 0, mass, mass), name_, linie, akzent);
+    p.end();
+    QPixmapCache::insert(schluessel, bild);
+    return bild;
+  }
+
+ private:
+  std::pair<QColor, QColor> toene(QIcon::Mode modus) const {
+    const QPalette p = QApplication::palette();
+    if (modus == QIcon::Disabled) {
+      const QColor blass = p.color(QPalette::Disabled, QPalette::WindowText);
+      return {blass, blass};
+    }
+    if (auf_farbe_) return {Farbe_schrift(), p.color(QPalette::Highlight)};
+    if (modus == QIcon::Selected)
+      return {p.color(QPalette::HighlightedText), p.color(QPalette::HighlightedText)};
+    return {p.color(QPalette::WindowText), p.color(QPalette::Highlight)};
+  }
+
+  std::string name_;
+  bool auf_farbe_;
+};
+
+}  // namespace
+
+QIcon Symbolbild(const std::string& name, bool auf_farbe) {
+  const bool bekannt = Nummer_nach(name, "apparat-") >= 0 || Nummer_nach(name, "layout-") >= 0 ||
+                       std::ranges::count(zeichnungen, name, &Zeichnung::name) > 0;
+  return bekannt ? QIcon(new Symbolmaler(name, auf_farbe)) : QIcon();
 }
 
 }  // namespace zav::fenster
