@@ -10,6 +10,7 @@
 #include <utility>
 
 #include "zavlink/farben.h"
+#include "zavlink/namensgeber.h"
 #include "zavlink/qt_text.h"
 #include "zavlink/spaltenlauf.h"
 #include "zavlink/textfelder.h"
@@ -100,6 +101,16 @@ bool Ist_befehlsliste(const std::vector<Anordnung>& kinder) {
   });
 }
 
+// A row that begins with a check box or options, and goes on with the field that they switch on.
+bool Ist_schaltzeile(const Anordnung& a) {
+  const auto ist_element = [](const Anordnung& k) { return k.art == Anordnung::Art::Element; };
+  if (a.kinder.size() < 2 || !std::ranges::all_of(std::span(a.kinder).first(2), ist_element)) return false;
+  const Steuerelement& schalter = *a.kinder[0].element;
+  const bool optionen = schalter.art == Art::Auswahl && schalter.titel->empty() &&
+                        static_cast<const Auswahl&>(schalter).form == Auswahl::Form::Optionen;
+  return (schalter.art == Art::Kaestchen || optionen) && a.kinder[1].element->art == Art::Textfeld;
+}
+
 // A part of the window: a widget or a layout.
 struct Teil {
   QWidget* widget = nullptr;
@@ -178,6 +189,7 @@ class Baumeister {
   }
 
   QHBoxLayout* Zeile_bauen(const Anordnung& a, QWidget* eltern) {
+    Linie* const linie = linie_;
     const Eigene_linie fuer_sich(*this);
     auto* const zeile = Ohne_rand(new QHBoxLayout);
     const bool hoch = std::ranges::any_of(a.kinder, Ist_hoch);
@@ -202,6 +214,7 @@ class Baumeister {
       Einsetzen(*zeile, t, waechst && !Hat_baum(k) ? 1 : 0, lage);
     }
     if (!gefuellt) zeile->addStretch(1);
+    if (linie != nullptr && Ist_schaltzeile(a)) linie->schalter.push_back(zeile->itemAt(0)->widget());
     return zeile;
   }
 
@@ -210,7 +223,7 @@ class Baumeister {
     const bool befehle = Ist_befehlsliste(kinder);
     if (befehle) spalte->setSpacing(2);
     const bool eigene_linie = linie_ == nullptr;
-    std::vector<QGridLayout*> linie;
+    Linie linie;
     if (eigene_linie) linie_ = &linie;
     QGridLayout* felder = nullptr;  // captions of neighbouring fields stand in line
     bool gefuellt = false;
@@ -248,7 +261,7 @@ class Baumeister {
           felder->setVerticalSpacing(raster / 2);
           felder->setColumnStretch(1, 1);
           spalte->addLayout(felder);
-          linie_->push_back(felder);
+          linie_->felder.push_back(felder);
         }
         const int zeile = felder->rowCount();
         QWidget* const feld = Element(*k.element, eltern);
@@ -273,16 +286,24 @@ class Baumeister {
     return spalte;
   }
 
-  // The fields of groups that stand below each other begin at the same place.
-  static void In_linie(const std::vector<QGridLayout*>& gitter) {
+  // The fields of groups that stand below each other begin at the same place: those with captions, and those
+  // that are switched on.
+  struct Linie {
+    std::vector<QGridLayout*> felder;
+    std::vector<QWidget*> schalter;
+  };
+  static void In_linie(const Linie& linie) {
     int breite = 0;
-    for (const QGridLayout* g : gitter) {
+    for (const QGridLayout* g : linie.felder) {
       for (int z = 0; z < g->rowCount(); ++z) {
         if (const QLayoutItem* const schild = g->itemAtPosition(z, 0))
           breite = std::max(breite, schild->sizeHint().width());
       }
     }
-    for (QGridLayout* g : gitter) g->setColumnMinimumWidth(0, breite);
+    for (QGridLayout* g : linie.felder) g->setColumnMinimumWidth(0, breite);
+    breite = 0;
+    for (const QWidget* s : linie.schalter) breite = std::max(breite, s->sizeHint().width());
+    for (QWidget* s : linie.schalter) s->setMinimumWidth(breite);
   }
 
   QHBoxLayout* Knopfzeile_bauen(const Anordnung& a, QWidget* eltern) {
@@ -446,77 +467,12 @@ class Baumeister {
 
    private:
     Baumeister& b_;
-    std::vector<QGridLayout*>* vorher_;
+    Linie* vorher_;
   };
 
   Auffrischer& auf_;
   Gebautes& ergebnis_;
-  std::vector<QGridLayout*>* linie_ = nullptr;  // grids of captions in the column that is being built
-};
-
-// Names to be read aloud for controls without a caption: the label or captioned control before them in their
-// row, the heading of their column, else the title of their group. They follow when a label's text changes.
-class Namensgeber {
- public:
-  Namensgeber(Auffrischer& auf, Gebautes& g, QString titel)
-      : auf_(auf), gebautes_(g), gruppe_(std::move(titel)) {}
-
-  void gehen(const Anordnung& a) {
-    const QString gruppe = gruppe_;
-    if (a.art == Anordnung::Art::Gruppe) {
-      const QString titel = Ohne_kuerzel(Q(a.element != nullptr ? *a.element->titel : a.titel));
-      if (!titel.isEmpty()) gruppe_ = titel;
-    }
-    if (a.art == Anordnung::Art::Reiter) benennen(*a.element, nullptr, nullptr);
-    Steuerelement* davor = nullptr;
-    for (std::size_t i = 0; i < a.kinder.size(); ++i) {
-      const Anordnung& k = a.kinder[i];
-      const bool zellen = a.art == Anordnung::Art::Raster;
-      const auto spalten = static_cast<std::size_t>(a.spalten);
-      if (zellen && i % spalten == 0) davor = nullptr;
-      if (k.art != Anordnung::Art::Element) {
-        gehen(k);
-        continue;
-      }
-      if (k.element->art == Art::Schild || !k.element->titel->empty()) {
-        davor = k.element;
-        continue;
-      }
-      Steuerelement* const kopf = zellen ? ueberschrift(a, i % spalten) : nullptr;
-      benennen(*k.element, davor, kopf);
-    }
-    gruppe_ = gruppe;
-  }
-
- private:
-  static Steuerelement* ueberschrift(const Anordnung& raster, std::size_t spalte) {
-    const Anordnung& oben = raster.kinder.at(spalte);
-    return oben.art == Anordnung::Art::Element && oben.element->art == Art::Schild ? oben.element : nullptr;
-  }
-
-  void benennen(Steuerelement& e, Steuerelement* davor, Steuerelement* kopf) {
-    const auto w = gebautes_.widgets.find(&e);
-    if (w == gebautes_.widgets.end()) return;
-    const auto nennen = [&e, davor, kopf, gruppe = gruppe_, feld = w->second] {
-      if (!e.titel->empty()) return;
-      QStringList teile;
-      for (const Steuerelement* t : {davor, kopf}) {
-        if (t != nullptr && !t->titel->empty()) teile << Ohne_kuerzel(Q(*t->titel));
-      }
-      // A key that is only a picture says what it does.
-      if (!e.hinweis->empty() && (e.art == Art::Taste || teile.isEmpty())) teile << Q(*e.hinweis);
-      if (teile.isEmpty()) teile << gruppe;
-      feld->setAccessibleName(teile.join(", "));
-    };
-    auf_.binden(e, nennen);
-    for (Steuerelement* t : {davor, kopf}) {
-      if (t != nullptr) auf_.binden(*t, nennen);
-    }
-  }
-
-  Auffrischer& auf_;
-  Gebautes& gebautes_;
-  QString gruppe_;
+  Linie* linie_ = nullptr;  // of the column that is being built
 };
 
 // `Command15` of `Command15(3)`.
@@ -569,7 +525,7 @@ void Aufbauen(const Anordnung& a, Auffrischer& auf, QWidget* eltern, Gebautes& e
   ergebnis.inhalt = meister.Als_widget(inhalt, eltern);
   if (knoepfe.art == Anordnung::Art::Knopfzeile) ergebnis.knopfzeile = meister.Als_widget(knoepfe, eltern);
   Kontextmenues_anhaengen(auf, ergebnis);
-  Namensgeber(auf, ergebnis, titel).gehen(a);
+  Namen_geben(a, auf, ergebnis, titel);
 }
 
 }  // namespace zav::fenster
