@@ -190,6 +190,13 @@ class Jeder_austausch : public ::testing::TestWithParam<Verbindung> {
     return m;
   }
 
+  // The same of a transfer, whose image is kept.
+  std::vector<std::string> Ablauf_der_uebertragung() {
+    bild = Bild(true);
+    Master_unberuehrt();
+    return Ablauf(Senden());
+  }
+
   void Master_unberuehrt() {
     vorgemerkt.einsetzen();
     sim.speicher_setzen(0x800, {0x00, 0x11, 0x22, 0x33, 0xAA, 0xBB, 0xCC, 0xDD});
@@ -256,9 +263,13 @@ class Jeder_austausch : public ::testing::TestWithParam<Verbindung> {
     u.Nach_initialisierung = 0;
     const Folge soll = Erwartet(ablauf, k, art, mal);
     const bool stille = Verstummt(art) || ((ablauf[k][0] == 'V' || ablauf[k][0] == 'R') && art[0] == 'F');
+    sim.mitschrift_leeren();
     EXPECT_EQ(Mit_fehler(art, k + 1, mal, stille, Senden()), soll.ergebnis);
     EXPECT_EQ(b.boxen, soll.box.empty() ? std::vector<std::string>() : std::vector{soll.box});
     EXPECT_EQ(b.korrigiert, art == "F07" && !stille ? mal : 0);
+    // Before each new try, and on a serial line before everything.
+    EXPECT_EQ(std::ranges::count(sim.mitschrift(), "%"),
+              std::min(b.korrigiert, 9) + (GetParam() == Verbindung::com));
     Vormerkung rest = vorgemerkt;
     for (std::size_t i = 0; i < soll.bis; ++i) Gesendet(ablauf, i, rest);
     EXPECT_TRUE(Vormerkung() == rest) << "flags";
@@ -288,9 +299,7 @@ class Jeder_austausch : public ::testing::TestWithParam<Verbindung> {
 };
 
 TEST_P(Jeder_austausch, DerUebertragung) {
-  bild = Bild(true);
-  Master_unberuehrt();
-  const auto ablauf = Ablauf(Senden());
+  const auto ablauf = Ablauf_der_uebertragung();
   ASSERT_EQ(ablauf.size(), 39U);
   for (std::size_t k = 0; k < ablauf.size(); ++k) {
     // All kinds on the network; on the serial line those that differ there, and one of the others by turns.
@@ -310,9 +319,7 @@ TEST_P(Jeder_austausch, DerUebertragung) {
 }
 
 TEST_P(Jeder_austausch, JederCodeDesMasters) {
-  bild = Bild(true);
-  Master_unberuehrt();
-  const auto ablauf = Ablauf(Senden());
+  const auto ablauf = Ablauf_der_uebertragung();
   // The sign of life, a direct block, a window, a page.
   const std::size_t stellen[] = {0, 5, 24, 25};
   for (int code = 1; code <= 99; ++code) {
@@ -331,9 +338,7 @@ TEST_P(Jeder_austausch, JederCodeDesMasters) {
 TEST_P(Jeder_austausch, DerSchaltzeiten) {
   vorgemerkt = {.ein = {}, .uhr = {}, .tev = {}, .grp = decltype(projekt.Grp_led)(i16{0}), .tabelle = 1};
   vorgemerkt.einsetzen();
-  bild = Bild(true);
-  Master_unberuehrt();
-  const auto ablauf = Ablauf(Senden());
+  const auto ablauf = Ablauf_der_uebertragung();
   const auto erste = static_cast<std::size_t>(
       std::ranges::find_if(ablauf, [](const auto& m) { return m.starts_with("D362800"); }) - ablauf.begin());
   static constexpr const char* arten[] = {"stumm", "lang", "F03", "F07", "trenn"};
