@@ -50,8 +50,8 @@ class Update : public Pruefstand {
     Datei_anlegen(ordner / name, inhalt);
     return ordner / name;
   }
-  // A whole update at the press of the key. The clock races but where other processes are waited for: while
-  // the line opens, and until the master's report is there.
+  // A whole update of 200 records at the press of the key. The clock races but where other processes are
+  // waited for: while the line opens, and until the master's report is there.
   void Updaten(Bootloader& f, Taste& taste, const std::string& inhalt) {
     d.erwarte_datei(Dateiwahl{.pfad = Datei(inhalt)});
     d.erwarte({.text = "ZAVmaster jetzt neu starten\r\n"});
@@ -62,6 +62,7 @@ class Update : public Pruefstand {
       Zeitraffer_setzen(oeffnet || bericht_fehlt ? 1 : 30);
     };
     taste.druecken();
+    Erwarte_ganzes_update(f);
   }
   static std::string Schritte(const Bootloader& f) {
     std::string text;
@@ -100,7 +101,6 @@ TEST_F(Update, OverComInSixSteps) {
   Bootloader f;
   Updaten(f, f.Command9, Firmwaredatei(200));
   EXPECT_EQ(d.dateifragen().front().filter.front(), (Dateifilter{"Update ZAVmaster (*.s19)", "*.s19"}));
-  Erwarte_ganzes_update(f);
   EXPECT_NE(f.Text1.text().find("ascStartTx 0\r\n"), std::string::npos);
   EXPECT_EQ(leitung.Link_art, Verbindung::tcp);
 }
@@ -158,7 +158,6 @@ TEST_F(Update, OverADeviceServerInSixSteps) {
   Bootloader f;
   const std::string inhalt = Firmwaredatei(200);
   Updaten(f, f.Command10, inhalt);
-  Erwarte_ganzes_update(f);
   EXPECT_NE(f.Text1.text().find(std::to_string(inhalt.size()) + " Zeichen übermittelt\r\n"),
             std::string::npos);
 }

@@ -341,6 +341,7 @@ TEST_P(Jeder_austausch, DerSchaltzeiten) {
   const auto ablauf = Ablauf_der_uebertragung();
   const auto erste = static_cast<std::size_t>(
       std::ranges::find_if(ablauf, [](const auto& m) { return m.starts_with("D362800"); }) - ablauf.begin());
+  ASSERT_GE(ablauf.size(), erste + 744);
   static constexpr const char* arten[] = {"stumm", "lang", "F03", "F07", "trenn"};
   std::size_t i = 0;
   for (const std::size_t k : {erste, erste + 1, erste + 400, erste + 742, erste + 743}) {

@@ -34,7 +34,10 @@ class LinkTest : public testing::TestWithParam<Verbindung> {
     // Twenty seconds of waiting in one: long enough for a slow machine, where something must come.
     Zeitraffer_setzen(20);
   }
-  ~LinkTest() override { Zeitraffer_setzen(1); }
+  ~LinkTest() override {
+    Port_schliessen();
+    Zeitraffer_setzen(1);
+  }
 
   bool ist_com() const { return GetParam() == Verbindung::com; }
   void oeffne() {
@@ -71,7 +74,6 @@ TEST_P(LinkTest, MessageCarriesItsChecksumAndTheReplyLosesIts) {
   EXPECT_FALSE(Antwort_ist_gut());
   EXPECT_EQ(sende("Wü00"), "F00\r");  // one byte a character on the wire
   EXPECT_EQ(leitung.Fehler_korrigiert, 0);
-  Port_schliessen();
 }
 
 TEST_P(LinkTest, SilenceAndAShortReplyCountAsNone) {
@@ -111,7 +113,6 @@ TEST_P(LinkTest, SurplusBytesBeginTheNextReplyUnlessTheyAreDropped) {
   Empfang_leeren();  // the rest of the stream is still under way
   EXPECT_EQ(sende("i"), "F00\r");
   EXPECT_EQ(Bytes_lesen(puffer.data(), 3, 10), 0);
-  Port_schliessen();
 }
 
 TEST_P(LinkTest, MasterThatVanishesIsSeenAtOnce) {
@@ -146,7 +147,6 @@ TEST_P(LinkTest, CancelEndsTheNextMessageBeforeItIsSent) {
   EXPECT_EQ(skript.pieptoene(), 1);
   EXPECT_EQ(sende("i"), "F00\r");
   EXPECT_EQ(leitung.Empfang_status, 0);
-  Port_schliessen();
 }
 
 TEST_P(LinkTest, RestartCountsOnlyWithTheMastersFirstSignOfLife) {
@@ -266,7 +266,6 @@ TEST_P(LeitungTest, WaitEndsAtMidnight) {
   const auto beginn = std::chrono::steady_clock::now();
   EXPECT_EQ(sende("i", 32000), "F98\r");
   EXPECT_LT(std::chrono::steady_clock::now() - beginn, std::chrono::seconds(8));
-  Port_schliessen();
 }
 
 TEST_P(LeitungTest, DeviceServerIsNoLinkOfMessages) {
@@ -275,7 +274,6 @@ TEST_P(LeitungTest, DeviceServerIsNoLinkOfMessages) {
   skript.erwarte({.text = "Es ist weder COMx- noch TCP-Schnittstelle ausgewählt"});
   Port_oeffnen();
   EXPECT_EQ(sende("i"), "wie vorher");
-  Port_schliessen();
 }
 
 TEST_P(LeitungTest, InterfaceDecidesLinkAndTimeOut) {
@@ -318,7 +316,6 @@ TEST_P(LeitungTest, SearchForPortsFindsTheFreeOnes) {
   Port_oeffnen();
   close(anderes_programm);
   oeffne();
-  Port_schliessen();
 }
 
 TEST(Protokoll, NumbersAndWindowHaveFixedWidths) {

@@ -158,6 +158,14 @@ TEST_F(Zavmaster, NimmtParameterbloeckeUndUhrNurInIhrerLaenge) {
   EXPECT_EQ(sim.uhr(), "5958231631122600");
 }
 
+TEST_F(Zavmaster, EntsperrtBeimNeustartUndMeldetIhnEinmal) {
+  EXPECT_EQ(frage("LD01"), "F00");
+  draht.roh("*i");  // both bare
+  EXPECT_EQ(draht.bis(rahmen("F99")), rahmen("F00") + rahmen("F99"));
+  EXPECT_FALSE(sim.gesperrt());
+  EXPECT_EQ(frage("i"), "F00");
+}
+
 TEST_F(Zavmaster, ZeigtEreignisseBisZumStern) {
   sim.ereignis({7, 2});  // nobody looks
   EXPECT_EQ(frage("I"), "F00");
