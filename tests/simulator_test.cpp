@@ -10,11 +10,10 @@
 #include <unistd.h>
 
 #include <algorithm>
-#include <filesystem>
-#include <fstream>
 #include <iterator>
 #include <sstream>
 
+#include "hilfen.h"
 #include "simulator/fd.h"
 
 namespace zav::simulator {
@@ -316,10 +315,8 @@ TEST_F(Zavmaster, LaedtDasBetriebssystemNurAusGutenSaetzen) {
 }
 
 TEST(Ablage, BehaeltDenSpeicherUndLehntBeschaedigtesAb) {
-  const std::string ordner = ::testing::TempDir() + "zavmaster_ablage";
-  std::filesystem::remove_all(ordner);
-  std::filesystem::create_directory(ordner);
-  const std::string datei = ordner + "/speicher";
+  const Testordner ordner;
+  const std::string datei = ordner / "speicher";
   const auto aufsetzen = [&] { return std::make_unique<Simulator>(Optionen{.speicher = datei}); };
   {
     const auto sim = aufsetzen();
@@ -333,19 +330,17 @@ TEST(Ablage, BehaeltDenSpeicherUndLehntBeschaedigtesAb) {
   EXPECT_EQ(aufsetzen()->block("M"), "010203040506");
   EXPECT_EQ(aufsetzen()->empfaengertabelle(3)[64], 9);
 
-  std::string gut;
-  std::getline(std::ifstream(datei), gut, '\0');
-  const auto ablegen = [&](const std::string& text) { std::ofstream(datei, std::ios::binary) << text; };
+  const std::string gut = Dateibytes(datei);
   for (std::size_t k = 0; k < gut.size(); k += 37) {
-    ablegen(gut.substr(0, k + 1));
+    Datei_anlegen(datei, gut.substr(0, k + 1));
     EXPECT_THROW(aufsetzen(), std::runtime_error) << k;
     std::string anders = gut;
     anders[k] ^= 4;
-    ablegen(anders);
+    Datei_anlegen(datei, anders);
     EXPECT_THROW(aufsetzen(), std::runtime_error) << k;
-    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(ordner), {}), 1);
+    EXPECT_EQ(ordner.eintraege(), 1U);
   }
-  EXPECT_THROW(Simulator({.speicher = ordner + "/fehlt/speicher"}), std::runtime_error);
+  EXPECT_THROW(Simulator({.speicher = ordner / "fehlt/speicher"}), std::runtime_error);
   EXPECT_THROW(Simulator({.speicher = "/dev/full"}), std::runtime_error);
 }
 
