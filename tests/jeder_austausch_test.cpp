@@ -280,11 +280,10 @@ class Jeder_austausch : public ::testing::TestWithParam<Verbindung> {
     EXPECT_FALSE(sim.gesperrt());
     for (std::size_t i = soll.bis; i < ablauf.size(); ++i) Gesendet(ablauf, i, rest);
     EXPECT_TRUE(Vormerkung() == rest) << "flags after the good run";
-    ueberlebt += !HasFailure();
   }
   void Bericht(const char* was) const {
     std::cout << was << (GetParam() == Verbindung::com ? " (pty): " : " (TCP): ") << eingespielt
-              << " faults injected, " << ueberlebt << " survived\n";
+              << " faults injected" << (HasFailure() ? "" : ", all survived") << "\n";
   }
 
   Testordner ordner;
@@ -295,7 +294,6 @@ class Jeder_austausch : public ::testing::TestWithParam<Verbindung> {
   Vormerkung anfang, vorgemerkt;
   std::vector<Bildzeile> bild = {};
   int eingespielt = 0;
-  int ueberlebt = 0;
 };
 
 TEST_P(Jeder_austausch, DerUebertragung) {
@@ -384,7 +382,6 @@ TEST_P(Jeder_austausch, DesLoeschens) {
         EXPECT_EQ(Ohne_fehler(Senden()), Sendeergebnis::gesendet);
         EXPECT_TRUE(Master_haelt_bild());
       }
-      ueberlebt += !HasFailure();
     }
   }
   Bericht("erase");
@@ -445,7 +442,6 @@ TEST_P(Jeder_austausch, DerUhr) {
         EXPECT_EQ(b.boxen, std::vector{uhrfrage});
         EXPECT_EQ(sim.uhr(), "3015081004052600");
         EXPECT_EQ(sim.speicher(0x362000, 3), (simulator::Bytes{1, 0x26, 0x22}));
-        ueberlebt += !HasFailure();
       }
     }
   }
@@ -496,7 +492,6 @@ TEST_P(Jeder_austausch, DesFunkempfaengers) {
       const auto tabelle = sim.empfaengertabelle(r);
       EXPECT_EQ(simulator::Bytes(tabelle.begin(), tabelle.begin() + 9),
                 (simulator::Bytes{0x01, 0x23, 0x45, 0x67, 16, 0, 0, 0, 0}));
-      ueberlebt += !HasFailure();
     }
   }
   Bericht("radio receiver");

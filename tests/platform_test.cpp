@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
-#include <sys/resource.h>
 
+#include <ctime>
 #include <filesystem>
 #include <numeric>
 #include <thread>
@@ -140,7 +140,6 @@ TEST(Csc, BytesGoThroughWholeAndTheEndIsSeen) {
   EXPECT_EQ(cscGetData(s, puffer.data(), 300), 256);
   EXPECT_EQ(std::string(puffer.data(), 256), Alle_bytes());
   EXPECT_LT(cscAwaitData(s, 60000), 0);
-  EXPECT_LT(cscReadSize(s), 0);
   // No signal ends the process. The first write may still be taken by the system.
   cscPutData(s, "x", 1);
   std::this_thread::sleep_for(std::chrono::milliseconds(50));
@@ -219,15 +218,9 @@ TEST(Sio, WaitingSleepsInTheKernel) {
   einstellungen = {};
   Gegenstelle g(Verbindung::com);
   ASSERT_EQ(SioReset(sio_direkt, 128, 1100), 0);
-  const auto rechenzeit = [] {
-    rusage r{};
-    getrusage(RUSAGE_THREAD, &r);
-    return r.ru_utime.tv_sec * 1000 + r.ru_utime.tv_usec / 1000 + r.ru_stime.tv_sec * 1000 +
-           r.ru_stime.tv_usec / 1000;
-  };
-  const auto vorher = rechenzeit();
+  const std::clock_t vorher = std::clock();  // of the processor, not of the wall
   EXPECT_EQ(SioWarten(sio_direkt, 1, 400), 0);
-  EXPECT_LT(rechenzeit() - vorher, 40);
+  EXPECT_LT(std::clock() - vorher, CLOCKS_PER_SEC / 25);
   SioDone(sio_direkt);
 }
 
