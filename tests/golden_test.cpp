@@ -14,6 +14,7 @@
 #include <nlohmann/json.hpp>
 #include <sstream>
 
+#include "app/deskriptor.h"
 #include "befehlszeile.h"
 #include "platform/uhrwerk.h"
 #include "shell/bericht.h"
@@ -136,6 +137,53 @@ TEST(Golden, ReportIsAsPromised) {
   projekt.Wetter_v_regen[7] = 2;
   projekt.Wetter_v_defekt[7] = 1;
   Vergleichen("bericht", Bericht());
+}
+
+// The house, and a storey that has what its keys have not: a part behind "--", characters of XML, every place
+// and every question; a camera with keys and without ports.
+TEST(Golden, AppDescriptorIsAsPromised) {
+  Projekt p;
+  ASSERT_TRUE(Projekt_lesen(Bytes(EINFAMILIENHAUS_DATEI), p));
+  constexpr int k = 26, d = plaetze * k + 2, von = 4 * 240;
+  ASSERT_EQ(p.Komb_text[k], "");
+  p.Komb_text[k] = "dach--hell";
+  p.Komb_text2[k] = "Küche's";
+  p.App_typ[d] = 29;
+  p.App_text[d] = "240";
+  p.App_text2[d] = "2";
+  for (const auto& [n, text] :
+       {std::pair{0, "Licht & Lärm"}, {4, "nicht in der App"}, {5, "Tor"}, {6, "Szene"}}) {
+    p.Dev_text[tastenplaetze * d + n] = text;
+  }
+  const auto satz = [&p](int ereignis, std::initializer_list<std::pair<App_feld, const char*>> werte) {
+    for (const auto& [feld, wert] : werte) p.App_eigenschaften.zeile(ereignis)[feld] = wert;
+  };
+  satz(von, {{App_geraet, "3"},
+             {App_bereich, "2"},
+             {App_mit_icon, "1"},
+             {App_icon_name, "Licht"},
+             {App_mit_rueckmeldung, "1"},
+             {App_rueckmeldung, "513"}});
+  satz(von + 1, {{App_geraet, "3"}});  // a key without a text
+  satz(von + 5, {{App_geraet, "2"},
+                 {App_eigener_text, "1"},
+                 {App_tastentext, "Straße"},
+                 {App_mit_bestaetigung, "1"},
+                 {App_frage_art, "3"},
+                 {App_frage1, "Zu?"},
+                 {App_ja1, "Ja"},
+                 {App_nein1, "Nein"},
+                 {App_frage2, "\"Auf\"?"},
+                 {App_ja2, "J"},
+                 {App_nein2, "N"}});
+  satz(von + 6, {{App_geraet, "1"}, {App_bereich, "1"}, {App_als_szene, "1"}});
+  p.Kamera_aktiv[2] = "1";
+  p.Kamera_usecase[2] = "63";
+  p.Kamera_titel[2] = "Tür & Tor";
+  p.Kamera_taste1[2] = std::to_string(von);
+  p.Kamera_tastentext1[2] = "Öffnen";
+  p.Kamera_taste2[2] = "0";  // no key, though event 0 is one of the app
+  Vergleichen("app", App_xml_bauen(p));
 }
 
 }  // namespace
