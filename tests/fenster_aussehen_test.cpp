@@ -4,11 +4,13 @@
 #include <QIcon>
 #include <QLabel>
 #include <QLineEdit>
+#include <QTest>
 #include <QTimer>
 #include <QWindow>
 #include <chrono>
 #include <thread>
 
+#include "editor/einmask8.h"
 #include "fenster_hilfen.h"
 #include "platform/uhrwerk.h"
 #include "weather/wetterdisplay.h"
@@ -98,6 +100,25 @@ TEST_F(Aussehen, FolgtDemArbeitsplatzAuchInBildernUndFeldern) {
   QEvent neues_thema(QEvent::ThemeChange);  // the desktop of the tests is light
   QApplication::sendEvent(f.windowHandle(), &neues_thema);
   erwarte(false);
+}
+
+TEST_F(Aussehen, WasNichtAufDenSchirmPasstRolltUndBleibtErreichbar) {
+  const QFont vorher = QApplication::font();
+  QFont gross = vorher;
+  gross.setPointSizeF(2 * gross.pointSizeF());
+  QApplication::setFont(gross);
+  Einmask8 form;
+  Formfenster f(form, nullptr);
+  f.show();
+  QApplication::processEvents();
+  EXPECT_LE(f.width(), 1366);
+  EXPECT_LE(f.height(), 768);
+  const QWidget& letzter = *Widget_von(f, form.Cancel);
+  EXPECT_TRUE(letzter.visibleRegion().isEmpty());
+  for (int schritt = 0; schritt < 200 && !letzter.hasFocus(); ++schritt)
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab, Qt::ShiftModifier);
+  EXPECT_EQ(letzter.visibleRegion().boundingRect(), letzter.rect());
+  QApplication::setFont(vorher);
 }
 
 }  // namespace

@@ -11,15 +11,15 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScreen>
-#include <QScrollArea>
-#include <QScrollBar>
 #include <QSettings>
+#include <QStyle>
 #include <QTimer>
 #include <QVBoxLayout>
 #include <algorithm>
 
 #include "zavlink/farben.h"
 #include "zavlink/qt_text.h"
+#include "zavlink/rollen.h"
 #include "zavlink/schirmhalter.h"
 
 namespace zav::fenster {
@@ -91,7 +91,8 @@ void Formfenster::menue_aufsetzen() {
   hilfe.insertAction(hilfe.actions().value(0), handbuch);
 }
 
-// What does not fit a small screen scrolls; the buttons below stay in sight.
+// What does not fit a small screen scrolls; the buttons below stay in sight, and scroll sideways by
+// themselves where even they are too many.
 void Formfenster::einpassen() {
   // At 200 % an ordinary screen is a small one. The screen of the platform without screens is no measure.
   const bool ohne_schirm = QGuiApplication::platformName() == "offscreen";
@@ -100,15 +101,17 @@ void Formfenster::einpassen() {
   layout()->activate();
   const QSize noetig = minimumSizeHint();
   if (noetig.height() > platz.height() || noetig.width() > platz.width()) {
-    auto* const rollen = new QScrollArea(this);
-    rollen->setFrameShape(QFrame::NoFrame);
-    rollen->setFocusPolicy(Qt::NoFocus);
-    rollen->setWidgetResizable(true);
-    auto* const spalte = static_cast<QVBoxLayout*>(layout());
-    delete spalte->replaceWidget(gebautes_.inhalt, rollen);
-    rollen->setWidget(gebautes_.inhalt);
-    spalte->setStretchFactor(rollen, 1);
-    resize(noetig.boundedTo(platz) + QSize(rollen->verticalScrollBar()->sizeHint().width(), 0));
+    auto& spalte = static_cast<QVBoxLayout&>(*layout());
+    const int leiste = style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, this);
+    spalte.setStretchFactor(&Rollen_lassen(spalte, *gebautes_.inhalt), 1);
+    QWidget* const knoepfe = gebautes_.knopfzeile;
+    if (knoepfe != nullptr && knoepfe->minimumSizeHint().width() > platz.width() - 2 * gruppenabstand) {
+      QScrollArea& reihe = Rollen_lassen(spalte, *knoepfe);
+      reihe.setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+      reihe.setFixedHeight(knoepfe->sizeHint().height() + leiste);
+    }
+    spalte.activate();  // the window may be smaller now
+    resize(noetig.boundedTo(platz) + QSize(leiste, 0));
   } else {
     resize(sizeHint().boundedTo(platz));
   }
@@ -134,8 +137,8 @@ void Formfenster::hinweis_zeigen(const QString& text) {
       std::min(hinweis_->fontMetrics().horizontalAdvance(text) + 3 * raster, width() - 2 * gruppenabstand);
   hinweis_->resize(breite, hinweis_->heightForWidth(breite));
   // Above the buttons, or above the status line.
-  const int unten =
-      gebautes_.knopfzeile != nullptr ? gebautes_.knopfzeile->y() : height() - 2 * gruppenabstand;
+  const int unten = gebautes_.knopfzeile != nullptr ? gebautes_.knopfzeile->mapTo(this, QPoint()).y()
+                                                    : height() - 2 * gruppenabstand;
   hinweis_->move(gruppenabstand, unten - hinweis_->height() - raster);
   hinweis_->raise();
   hinweis_->repaint();
@@ -159,7 +162,10 @@ void Formfenster::nachfuehren() {
     const auto w = gebautes_.widgets.find(form_.fokus());
     // As by Tab: what stands in a field is selected, ready to be typed over.
     if (w != gebautes_.widgets.end())
-      QTimer::singleShot(0, w->second, [ziel = w->second] { ziel->setFocus(Qt::TabFocusReason); });
+      QTimer::singleShot(0, w->second, [ziel = w->second] {
+        ziel->setFocus(Qt::TabFocusReason);
+        In_sicht_bringen(*ziel, ziel->rect());
+      });
   }
   if (!form_.offen()) schleife_.quit();
 }
@@ -186,6 +192,13 @@ void Formfenster::closeEvent(QCloseEvent* e) {
 
 void Formfenster::reject() {
   Handeln([this] { form_.abbrechen_wuenschen(); });
+}
+
+// The keyboard brings what it comes to into sight; the mouse moves nothing under itself.
+bool Formfenster::focusNextPrevChild(bool vorwaerts) {
+  const bool gegangen = QDialog::focusNextPrevChild(vorwaerts);
+  if (const QWidget* const hier = focusWidget()) In_sicht_bringen(*hier, hier->rect());
+  return gegangen;
 }
 
 bool Formfenster::event(QEvent* e) {

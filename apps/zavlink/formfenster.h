@@ -30,6 +30,7 @@ class Formfenster : public QDialog {
   void showEvent(QShowEvent* e) override;
   void keyPressEvent(QKeyEvent* e) override;
   bool event(QEvent* e) override;
+  bool focusNextPrevChild(bool vorwaerts) override;
 
  private:
   void nachfuehren();

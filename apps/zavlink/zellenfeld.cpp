@@ -5,10 +5,10 @@
 #include <QHash>
 #include <QHelpEvent>
 #include <QPointer>
-#include <QScrollArea>
 #include <QToolTip>
 
 #include "zavlink/qt_text.h"
+#include "zavlink/rollen.h"
 
 namespace zav::fenster {
 
@@ -133,21 +133,11 @@ bool Zellenfeld::event(QEvent* e) {
   return true;
 }
 
-// On a small screen the page scrolls under the keyboard.
-void Zellenfeld::in_sicht_bringen(const QRect& r) {
-  for (QWidget* w = parentWidget(); w != nullptr; w = w->parentWidget()) {
-    auto* const rollen = qobject_cast<QScrollArea*>(w);
-    if (rollen == nullptr) continue;
-    const QPoint mitte = mapTo(rollen->widget(), r.center());
-    rollen->ensureVisible(mitte.x(), mitte.y(), r.width() / 2 + 8, r.height() / 2 + 8);
-  }
-}
-
 void Zellenfeld::zeiger_melden() {
   const int i = zeiger();
   if (i < 0 || i >= zellenzahl()) return;
   setAccessibleDescription(zelltext(i));
-  if (hasFocus()) in_sicht_bringen(zelle(i).toRect());
+  if (hasFocus()) In_sicht_bringen(*this, zelle(i).toRect());
   if (!hasFocus() || !QAccessible::isActive()) return;
   QAccessibleEvent hier(this, QAccessible::Focus);
   hier.setChild(i);

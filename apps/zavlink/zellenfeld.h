@@ -29,9 +29,6 @@ class Zellenfeld : public QWidget {
   void mousePressEvent(QMouseEvent* e) override;
   void focusOutEvent(QFocusEvent* e) override;
   bool event(QEvent* e) override;
-
- private:
-  void in_sicht_bringen(const QRect& r);
 };
 
 }  // namespace zav::fenster
