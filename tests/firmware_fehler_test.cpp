@@ -7,6 +7,7 @@
 #include <array>
 #include <atomic>
 #include <condition_variable>
+#include <cstdlib>
 #include <functional>
 #include <iostream>
 #include <mutex>
@@ -288,8 +289,9 @@ TEST_P(Firmware_fehler, AnJedemAustausch) {
     int nummer = k;
     for (std::string art : {"stumm", "trenn", "verloren", "kurz", "lang", "muell", "F"}) {
       // A device server takes its time to start: there, two kinds at each exchange and two of the others by
-      // turns.
-      if (GetParam() == Updateweg::ethernet && nummer++ > k + 1 && nummer % 3 != 0) continue;
+      // turns; all of them with ZAV_GRUENDLICH in the environment.
+      const bool dran = GetParam() == Updateweg::com || nummer++ <= k + 1 || nummer % 3 == 0;
+      if (!dran && std::getenv("ZAV_GRUENDLICH") == nullptr) continue;
       if (art == "F") art = "F" + std::to_string(101 + code++ * 16 % 99).substr(1);
       SCOPED_TRACE(art + " at " + austausche.at(static_cast<std::size_t>(k)));
       stoerung = static_cast<Austausch>(k);

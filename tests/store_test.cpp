@@ -165,6 +165,30 @@ TEST(Projektdatei, RoundTripIsExact) {
   EXPECT_EQ(Geaendert(p, gelesen), "");
 }
 
+// One section of the file in use at a time, its texts of all bytes that a line can hold.
+TEST(Projektdatei, FilesOfEveryShapeComeBackByteByByte) {
+  const std::string alle_bytes = Volles_projekt("910").Ein_text[7];
+  using Setzen = void (*)(Projekt&, const str&);
+  const Setzen formen[] = {
+      [](Projekt& p, const str& t) { p.Notizen = t + "\r\n" + t; },
+      [](Projekt& p, const str& t) { p.Grp_text[255] = p.Relais_text[511] = p.Dimmer_text[127] = t; },
+      [](Projekt& p, const str&) { p.Ein_leer[0] = 1, p.Ein_dimmer(0, 127, 3) = -1; },
+      [](Projekt& p, const str&) { p.Ein_leer[1023] = 1, p.Ein_timer(1023, 15) = 4; },
+      [](Projekt& p, const str& t) { p.Uhr_leer[255] = 1, p.Uhr_relais(255, 511) = 20, p.Uhr_text[255] = t; },
+      [](Projekt& p, const str& t) { p.Tev_leer[0] = p.Tev_leer[63] = 1, p.Timer_text[15] = t; },
+      [](Projekt& p, const str& t) { p.Komb_text[0] = p.Komb_text[255] = p.App_text[16 * 255] = t; },
+      [](Projekt& p, const str& t) { p.Kamera_titel[3] = t, Kamera_zusammensetzen(p); }};
+  for (const char* version : {"910", "900", "800"}) {
+    for (const Setzen& form : formen) {
+      Projekt p = Neues_projekt(version), gelesen;
+      form(p, alle_bytes);
+      const std::string bytes = Projekt_schreiben(p);
+      ASSERT_TRUE(Projekt_lesen(bytes, gelesen));
+      EXPECT_TRUE(Projekt_schreiben(gelesen) == bytes) << version << " " << &form - formen;
+    }
+  }
+}
+
 TEST(Projektdatei, EachFieldConvertsByItsRule) {
   Projekt benutzt = Neues_projekt();
   benutzt.Ein_leer[0] = 1;
