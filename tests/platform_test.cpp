@@ -190,6 +190,7 @@ TEST(Sio, PortIsRawAndBelongsToOneProgram) {
   EXPECT_LT(SioParms(-1, 1, 0, 7), 0);
   ASSERT_EQ(SioReset(sio_direkt, 128, 1100), 0) << SioUrsache();
   EXPECT_EQ(SioReset(sio_direkt, 128, 1100), -EBUSY);
+  EXPECT_TRUE(SioUrsache().starts_with("Das Gerät " + g.geraet() + " ist durch ein anderes Programm belegt"));
 
   EXPECT_EQ(SioGetc(sio_direkt), -EAGAIN);
   EXPECT_EQ(SioRxQue(sio_direkt), 0);
