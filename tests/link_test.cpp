@@ -200,25 +200,20 @@ TEST_P(LinkTest, QueryReadsVersionAndNameOfTheProject) {
 }
 
 TEST_P(LinkTest, TelegramAndEventTellTheCodeInTheirOwnWords) {
-  const struct {
-    const char *code, *telegramm, *ereignis;
-  } faelle[] = {
-      {"F06", "F06: Undefinierbarer Fehler", "F06: Argumente sind nicht im Wertebereich"},
-      {"F66", "F66: Nicht genügend Argumente erhalten", "F66: Undefinierbarer Fehler"},
-      {"F81", "F81: Die CAN-Telegrammlänge ist ungültig", "F81: Undefinierbarer Fehler"},
-      {"F80", "F80: Die CAN-Adresse ist nicht im gültigen Bereich",
-       "F80: Die CAN-Adresse ist nicht im gültigen Bereich"},
-      {"???", "???: Undefinierbarer Fehler", "???: Undefinierbarer Fehler"},
-  };
-  for (const auto& fall : faelle) {
+  using Zeile = std::array<std::string, 3>;
+  for (const auto& [code, telegramm, ereignis] :
+       {Zeile{"F06", ": Undefinierbarer Fehler", ": Argumente sind nicht im Wertebereich"},
+        {"F66", ": Nicht genügend Argumente erhalten", ": Undefinierbarer Fehler"},
+        {"F81", ": Die CAN-Telegrammlänge ist ungültig", ": Undefinierbarer Fehler"},
+        {"F80", ": Die CAN-Adresse ist nicht im gültigen Bereich",
+         ": Die CAN-Adresse ist nicht im gültigen Bereich"},
+        {"???", ": Undefinierbarer Fehler", ": Undefinierbarer Fehler"}}) {
     Gegenstelle g(GetParam());
-    g.antworte("X02010253410000000000008A\r", fall.code + std::string("00\r"));
-    g.antworte("Y000A0105F0\r", fall.code + std::string("00\r"));
-    g.los();
-    skript.fehler(fall.telegramm);
+    g.antworte("X02010253410000000000008A\r", code + "00\r").antworte("Y000A0105F0\r", code + "00\r").los();
+    skript.fehler(code + telegramm);
     Can_senden("0201", "02", "5341000000000000");
     EXPECT_EQ(leitung.Empfang_status, 1);
-    skript.fehler(fall.ereignis);
+    skript.fehler(code + ereignis);
     Ereignis_erzeugen("000A", "01", "05");
     EXPECT_EQ(leitung.Empfang_status, 1);
   }
