@@ -95,11 +95,11 @@ TEST_F(Kleine_editoren, RestartStates) {
   Projekt vorher = projekt;
   Actmask_init m;
   EXPECT_EQ(m.Dimmbaugruppe.eintrag(1).farbe, Farbe::belegt);
-  std::string intens = m.Intens[0].text();
+  EXPECT_EQ(m.Intens[0].text(), "Zustand wie vorher");
   m.Slider1[0].schieben(2);
-  intens += ", " + m.Intens[0].text();
+  EXPECT_EQ(m.Intens[0].text(), "2");
   m.Command1[0].druecken();
-  EXPECT_EQ(intens + ", " + m.Intens[0].text(), "Zustand wie vorher, 2, Aus");
+  EXPECT_EQ(m.Intens[0].text(), "Aus");
   m.Alle_512[1].druecken();
   m.Baugruppe.waehlen(63);
   EXPECT_EQ(m.Combo1[7].text(), "Einschalten");

@@ -16,9 +16,11 @@
 
 #include "app/deskriptor.h"
 #include "befehlszeile.h"
+#include "editor/apparatseite.h"
 #include "platform/uhrwerk.h"
 #include "shell/bericht.h"
 #include "store/funktionen.h"
+#include "store/katalog.h"
 #include "store/projektdatei.h"
 
 namespace zav {
@@ -184,6 +186,34 @@ TEST(Golden, AppDescriptorIsAsPromised) {
   p.Kamera_tastentext1[2] = "Öffnen";
   p.Kamera_taste2[2] = "0";  // no key, though event 0 is one of the app
   Vergleichen("app", App_xml_bauen(p));
+}
+
+// What neighbours have in common once, as "2-5 LED".
+template <class F, class Wort>
+std::string Laeufe(const F& feld, Wort wort) {
+  std::string text;
+  for (std::size_t i = 0, j = 0; i < feld.size(); i = ++j) {
+    if (!feld[i]) continue;
+    while (j + 1 < feld.size() && feld[j + 1] && wort(*feld[j + 1]) == wort(*feld[i])) ++j;
+    text += "  " + std::to_string(i) + (j > i ? "-" + std::to_string(j) : "") + " " + wort(*feld[i]) + "\n";
+  }
+  return text;
+}
+
+// All kinds of device: their texts, their addresses, their page.
+TEST(Golden, KindsAreAsPromised) {
+  const auto name = [](const std::string& s) { return s; };
+  const auto knopf = [](const Apparatseite::Knopf& k) { return k.titel + " (" + k.hinweis + ")"; };
+  std::string text;
+  for (const Apparatart& a : Apparatarten()) {
+    const Apparatseite s = Apparat_seite(a.typ);
+    text += std::to_string(a.typ) + " | " + std::string(a.tag) + " | " + std::string(a.titel) + " | " +
+            std::to_string(a.adressen) + "\n";
+    for (const std::string& u : s.ueberschriften) text += u.empty() ? "" : "  " + u + "\n";
+    text += " Tasten\n" + Laeufe(s.tasten, name) + " LED\n" + Laeufe(s.leds, name) + " Ereignisse\n" +
+            Laeufe(s.knoepfe, knopf);
+  }
+  Vergleichen("apparate", text);
 }
 
 }  // namespace
