@@ -5,11 +5,11 @@
 #include <memory>
 #include <nlohmann/json.hpp>
 #include <ostream>
-#include <ranges>
 #include <string>
 #include <string_view>
 
 #include "argumente.h"
+#include "basis/liste.h"
 #include "basis/text.h"
 #include "basis/zahl.h"
 #include "befehl.h"
@@ -197,10 +197,9 @@ Ausfuehrung Befehl_ereignis(CLI::App& app) {
   app.add_option("TASTE", a->taste, "Taste des Apparats, von 0 an gezählt")
       ->required()
       ->check(Ganze_zahl_bis(groesster_versatz));
-  const auto namen = tastenaktionen | std::views::transform(&Tastenaktion::name);
   app.add_option("AKTION", a->aktion, "druecken, loesen oder kurz")
       ->required()
-      ->check(Eines_von({namen.begin(), namen.end()}));
+      ->check(Eines_von(Texte(tastenaktionen, &Tastenaktion::name)));
   return [a](Lauf& lauf) {
     const int taste = *Zahl_lesen(a->taste);
     const int adresse = *Zahl_lesen(a->adresse) + taste / 4;

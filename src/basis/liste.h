@@ -1,6 +1,8 @@
 // Lists of texts, as choices in windows want them.
 #pragma once
 
+#include <concepts>
+#include <cstddef>
 #include <functional>
 #include <ranges>
 #include <string>
@@ -19,7 +21,10 @@ std::vector<std::string> Texte(R&& werte, F text = {}) {
 // The text of each number from 0 to anzahl - 1.
 template <std::invocable<int> F>
 std::vector<std::string> Texte(int anzahl, F text) {
-  return Texte(std::views::iota(0, anzahl), text);
+  std::vector<std::string> liste;
+  liste.reserve(static_cast<std::size_t>(anzahl));
+  for (int i = 0; i < anzahl; ++i) liste.emplace_back(text(i));
+  return liste;
 }
 
 }  // namespace zav
