@@ -3,25 +3,18 @@
 // order.
 #include <benchmark/benchmark.h>
 
-#include <chrono>
 #include <string>
 #include <utility>
 #include <vector>
 
 #include "app/deskriptor.h"
 #include "basis/text.h"
+#include "messen.h"
 #include "store/projekt.h"
 
 namespace {
 
 using namespace zav;
-using Uhr = std::chrono::steady_clock;
-
-double Sekunden(auto&& arbeit) {
-  const auto beginn = Uhr::now();
-  arbeit();
-  return std::chrono::duration<double>(Uhr::now() - beginn).count();
-}
 
 // Every Kombination in use, all 1024 events placed, each a button with everything a button can have.
 Projekt Groesstes_projekt() {

@@ -14,7 +14,6 @@
 #include <QPushButton>
 #include <QTimer>
 #include <algorithm>
-#include <ctime>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
@@ -22,6 +21,7 @@
 
 #include "fenster_bedienen.h"
 #include "form/oberflaeche.h"
+#include "messen.h"
 #include "store/projekt.h"
 #include "store/projektdatei.h"
 #include "zavlink/aussehen.h"
@@ -44,7 +44,7 @@ void Beispielhaus() {
 // Every Kombination with sixteen devices, every address taken, every event with functions on all outputs.
 void Volles_projekt() {
   Beispielhaus();
-  for (int k = 0; k < 126; ++k) {
+  for (int k = 0; k < kombinationen; ++k) {
     projekt.Komb_typ[k] = 1;
     projekt.Komb_layout[k] = 15;
     projekt.Komb_text[k] = "Stockwerk " + std::to_string(k / 12);
@@ -61,13 +61,6 @@ void Volles_projekt() {
     projekt.Ein_leer[e] = 1;
     for (auto& code : projekt.Ein_relais.zeile(e)) code = 1;
   }
-}
-
-// Seconds that this thread has worked.
-double Arbeitszeit() {
-  timespec t{};
-  clock_gettime(CLOCK_THREAD_CPUTIME_ID, &t);
-  return static_cast<double>(t.tv_sec) + 1e-9 * static_cast<double>(t.tv_nsec);
 }
 
 // Runs what the event loop has to do, to the last picture; gives the seconds since `beginn`.

@@ -7,13 +7,13 @@
 #include <unistd.h>
 
 #include <algorithm>
-#include <chrono>
 #include <cstdlib>
 #include <filesystem>
 #include <functional>
 #include <string>
 #include <vector>
 
+#include "messen.h"
 #include "platform/einstellungen.h"
 #include "store/projekt.h"
 #include "store/projektdatei.h"
@@ -60,12 +60,6 @@ class Ordner {
  private:
   std::filesystem::path pfad_;
 };
-
-double Sekunden(const std::function<void()>& tun) {
-  const auto beginn = std::chrono::steady_clock::now();
-  tun();
-  return std::chrono::duration<double>(std::chrono::steady_clock::now() - beginn).count();
-}
 
 double Mittlerer(std::vector<double>& werte) {
   std::nth_element(werte.begin(), werte.begin() + static_cast<std::ptrdiff_t>(werte.size() / 2), werte.end());

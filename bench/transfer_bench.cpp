@@ -11,13 +11,12 @@
 #include <unistd.h>
 
 #include <algorithm>
-#include <chrono>
 #include <cstring>
-#include <ctime>
 #include <random>
 
 #include "link/leitung.h"
 #include "link/protokoll.h"
+#include "messen.h"
 #include "platform/einstellungen.h"
 #include "platform/uhrwerk.h"
 #include "simulator/simulator.h"
@@ -28,13 +27,6 @@
 namespace {
 
 using namespace zav;
-using Uhr = std::chrono::steady_clock;
-
-double Sekunden(auto&& arbeit) {
-  const auto beginn = Uhr::now();
-  arbeit();
-  return std::chrono::duration<double>(Uhr::now() - beginn).count();
-}
 
 // Every cell of every matrix in use.
 Projekt Volles_projekt() {
@@ -160,7 +152,7 @@ double Uebertragen() {
   Uebertragung u(uhr);
   u.Nach_initialisierung = 1;
   const bool gut = u.Senden_starten() == Sendeergebnis::gesendet;
-  return gut ? std::chrono::duration<double>(Uhr::now() - uhr.beginn).count() : -1;
+  return gut ? Sekunden_seit(uhr.beginn) : -1;
 }
 
 // What went over the line after the version was asked, ready to be sent again.
@@ -251,15 +243,11 @@ void Transfer_115200(benchmark::State& state) {
   for (auto _ : state) {
     Vormerken(40, false);
     sim.mitschrift_leeren();
-    timespec vorher{};
-    timespec nachher{};
-    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &vorher);
+    const double vorher = Arbeitszeit();
     const double dauer = Uebertragen();
-    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &nachher);
     if (dauer < 0) return state.SkipWithError("transfer failed");
+    cpu += Arbeitszeit() - vorher;
     gemessen += dauer;
-    cpu += static_cast<double>(nachher.tv_sec - vorher.tv_sec) +
-           1e-9 * static_cast<double>(nachher.tv_nsec - vorher.tv_nsec);
     for (const auto& m : Meldungen(sim))
       boden += 10.0 * static_cast<double>(m.size() + Antwortlaenge(m)) / baud;
   }
