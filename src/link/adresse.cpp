@@ -48,7 +48,7 @@ std::string Pruefen(std::string& ip, const std::string& port) {
   }
   if (ip.empty()) return Abgelehnt("Eingabefeld ist leer", Adresse_err_ip);
   if (!Nur_ziffern(Ersetzen(ip, ".", ""))) {
-    if (const std::string fehler = Namen_ersetzen(ip); !fehler.empty()) return fehler;
+    if (std::string fehler = Namen_ersetzen(ip); !fehler.empty()) return fehler;
   }
   const auto felder = Teilen(ip, ".");
   if (felder.size() > 4) return Abgelehnt("Zuviele Punkte", Adresse_err_ip);
@@ -70,7 +70,7 @@ std::string Pruefen(std::string& ip, const std::string& port) {
 }  // namespace
 
 std::string Adresse_pruefen(std::string& ip, const std::string& port) {
-  const std::string ergebnis = Pruefen(ip, port);
+  std::string ergebnis = Pruefen(ip, port);
   cscRelease();
   return ergebnis;
 }

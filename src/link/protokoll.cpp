@@ -24,7 +24,7 @@ constexpr int namenslaenge = 51;  // 24 bytes as digits, checksum, CR
 constexpr i32 name_von = 0x808;
 constexpr i32 name_bis = 0x81F;
 
-std::string Mit_nullen(std::string ziffern, std::size_t breite) {
+std::string Mit_nullen(const std::string& ziffern, std::size_t breite) {
   return std::string(breite - ziffern.size(), '0') + ziffern;
 }
 
@@ -173,7 +173,7 @@ Masterinfo Master_abfragen() {
     Melden(std::to_string(leitung.Port_fehler) + " bei Open Port", "SIO: Fehler ");
     return {};
   }
-  const Masterinfo info = Fragen_stellen();
+  Masterinfo info = Fragen_stellen();
   if (!info.gut) Melden("Abfrage nicht möglich. Versuchen Sie es bitte noch einmal.");
   Port_schliessen();
   return info;

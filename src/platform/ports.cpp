@@ -53,9 +53,10 @@ std::string Beschreibung(const std::string& name) {
   if (fehler) return {};
   for (int hoch = 0; hoch < 4 && ordner.has_relative_path(); ++hoch, ordner = ordner.parent_path()) {
     if (!fs::exists(ordner / "product", fehler)) continue;
-    const std::string hersteller = Erste_zeile(ordner / "manufacturer");
-    const std::string produkt = Erste_zeile(ordner / "product");
-    return hersteller.empty() ? produkt : hersteller + " " + produkt;
+    std::string adapter = Erste_zeile(ordner / "manufacturer");
+    if (!adapter.empty()) adapter += ' ';
+    adapter += Erste_zeile(ordner / "product");
+    return adapter;
   }
   return {};
 }

@@ -1,5 +1,7 @@
 #include "store/letzte_dateien.h"
 
+#include <algorithm>
+
 #include "platform/einstellungen.h"
 #include "store/projekt.h"
 
@@ -11,8 +13,9 @@ void Letzte_dateien_eintragen() {
   const auto vorher = liste;
   // The name moves to the head from each place where it stands, those before it move back by one.
   const auto vorziehen = [&](int platz) {
-    for (int n = platz; n > 0; --n) liste[n] = liste[n - 1];
-    liste[0] = name;
+    const auto bis = liste.alle().first(static_cast<std::size_t>(platz) + 1);
+    std::rotate(bis.begin(), bis.end() - 1, bis.end());
+    bis.front() = name;
   };
   for (const int platz : {1, 2, 3}) {
     if (liste[platz] == name) vorziehen(platz);

@@ -52,7 +52,7 @@ void Schaltzeitenseite(const Uhr_tafel& Uhr_work, int m, int d, Block& b) {
     for (const i32 z : zeiten) b.wort(z);
     return;
   }
-  const std::span<u8> seite = b.raum(2 * uhrereignisse);
+  const std::span<u8> seite = b.raum(2 * zeiten.size());
   for (std::size_t e = 0; e < zeiten.size(); ++e) {
     seite[2 * e] = static_cast<u8>(zeiten[e] >> 8);
     seite[2 * e + 1] = static_cast<u8>(zeiten[e]);
