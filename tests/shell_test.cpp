@@ -1,9 +1,11 @@
 // The program around the editors, as a person uses it: start, files, options, sending, end.
 #include <fcntl.h>
 #include <gtest/gtest.h>
+#include <sys/resource.h>
 #include <unistd.h>
 
 #include <cerrno>
+#include <csignal>
 #include <cstdlib>
 #include <filesystem>
 #include <memory>
@@ -234,6 +236,31 @@ TEST_F(Shell, ASaveThatFailsLosesNothingAndSaysSo) {
   });
   EXPECT_EQ(sitzung.Projekt_geaendert, 1);
   EXPECT_EQ(projekt.Notizen, "Arbeit eines Tages");
+}
+
+TEST_F(Shell, AFullDiskLeavesTheOldFileAndSaysSo) {
+  projekt.Projekt_name = Anlegen("haus");
+  const std::string vorher = Dateibytes(ordner / "haus.zav");
+  haupt().Notizen.eingeben("Arbeit eines Tages");
+  signal(SIGXFSZ, SIG_IGN);
+  rlimit grenze{};
+  getrlimit(RLIMIT_FSIZE, &grenze);
+  const rlimit voll{100, grenze.rlim_max};
+  setrlimit(RLIMIT_FSIZE, &voll);
+  const std::string grund = " konnte nicht geschrieben werden: " + Systemfehler_text(EFBIG) + ".";
+  Dateimenue([&](Datei& f) {
+    d.erwarte_text(projekt.Projekt_name + ".zav" + grund + " Die Datei auf der Platte ist unverändert.");
+    f.Command3.druecken();
+  });
+  Dateimenue([&](Datei& f) {
+    d.erwarte_datei(Dateiwahl{.pfad = ordner / "e.txt"});
+    d.erwarte_text(ordner / "e.txt" + grund);
+    f.Drucken.druecken();
+  });
+  setrlimit(RLIMIT_FSIZE, &grenze);
+  EXPECT_EQ(sitzung.Projekt_geaendert, 1);
+  EXPECT_EQ(Dateibytes(ordner / "haus.zav"), vorher);
+  EXPECT_FALSE(std::filesystem::exists(ordner / "e.txt"));
 }
 
 TEST_F(Shell, NewProjectAsksForItsFileAtOnce) {

@@ -24,8 +24,9 @@ constexpr int namenslaenge = 51;  // 24 bytes as digits, checksum, CR
 constexpr i32 name_von = 0x808;
 constexpr i32 name_bis = 0x81F;
 
-std::string Mit_nullen(const std::string& ziffern, std::size_t breite) {
-  return std::string(breite - ziffern.size(), '0') + ziffern;
+std::string Mit_nullen(std::string ziffern, std::size_t breite) {
+  ziffern.insert(0, breite - ziffern.size(), '0');
+  return ziffern;
 }
 
 std::string Hex(std::int64_t v, std::size_t breite) {

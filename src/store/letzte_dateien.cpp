@@ -8,7 +8,7 @@
 namespace zav {
 
 void Letzte_dateien_eintragen() {
-  const str& name = projekt.Projekt_name;
+  const str name = projekt.Projekt_name;
   auto& liste = einstellungen.last_file;
   const auto vorher = liste;
   // The name moves to the head from each place where it stands, those before it move back by one.
@@ -17,7 +17,7 @@ void Letzte_dateien_eintragen() {
     std::rotate(bis.begin(), bis.end() - 1, bis.end());
     bis.front() = name;
   };
-  for (const int platz : {1, 2, 3}) {
+  for (int platz = 1; platz <= 3; ++platz) {
     if (liste[platz] == name) vorziehen(platz);
   }
   if (liste[0] != name) vorziehen(3);

@@ -204,7 +204,7 @@ void Ledseite(const Projekt& p, int g, Block& b) {
   for (int k = 0; k < 4; ++k) {
     const i16 led = p.Ein_led[4 * g + k];
     if (led >= 0 && led < ausgang_keiner) {
-      Wort_schreiben(&karte[static_cast<std::size_t>(2 * (led / 16 * 4 + k))], 1U << (led % 16));
+      Wort_schreiben(&karte[2 * static_cast<std::size_t>(led / 16 * 4 + k)], 1U << (led % 16));
     }
   }
 }

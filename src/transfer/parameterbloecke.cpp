@@ -110,7 +110,7 @@ void Block_h(const Projekt& p, Block& b) {
 
 void Block_m(const Projekt& p, Block& b) {
   b.byte(Runden(p.Store_p4 / 10.0)).byte(Runden(p.Store_p2 / 10.0)).byte(Runden(p.Store_p3 / 10.0));
-  b.wort(100 * p.Store_p1).byte(p.Store_p5);
+  b.wort(std::int64_t{100} * p.Store_p1).byte(p.Store_p5);
 }
 
 void Block_w(const Projekt& p, Block& b) {
