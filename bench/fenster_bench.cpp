@@ -86,8 +86,7 @@ void Laengste_zeigen(benchmark::State& runde, const Laengste& l) {
   runde.SetLabel(l.wo);
 }
 
-// ---- opening a window
-// -----------------------------------------------------------------------------------------------
+// ---- opening a window -------------------------------------------------------------------------------------
 
 void Fenster_oeffnen(benchmark::State& runde, const Schaustueck& stueck) {
   double summe = 0;
@@ -103,8 +102,7 @@ void Fenster_oeffnen(benchmark::State& runde, const Schaustueck& stueck) {
   oeffnung.merken(summe / static_cast<double>(runde.iterations()), stueck.name);
 }
 
-// ---- clicking and typing through it
-// ---------------------------------------------------------------------------------
+// ---- clicking and typing through it -----------------------------------------------------------------------
 
 // An act with all that follows from it, until the window listens again.
 void Messen(Laengste& l, Formfenster& f, const std::string& was, const std::function<void()>& tat) {
@@ -163,8 +161,7 @@ void Klicken_und_tippen(benchmark::State& runde, const Schaustueck& stueck) {
   projekt = voll;
 }
 
-// ---- the start of the program
-// ---------------------------------------------------------------------------------------
+// ---- the start of the program -----------------------------------------------------------------------------
 
 // In the child: ends the process as soon as the main window has been painted and waits for the user.
 class Startwaechter final : public QObject {

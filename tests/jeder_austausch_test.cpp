@@ -36,6 +36,16 @@ constexpr i16 antwort_sekunden = 700;
 
 const bool gruendlich = std::getenv("ZAV_GRUENDLICH") != nullptr;
 
+std::string Code(int nr) { return (nr < 10 ? "F0" : "F") + std::to_string(nr); }
+
+// The kinds of fault, and in a thorough run each status code too.
+std::vector<std::string> Mit_allen_codes(std::vector<std::string> arten) {
+  for (int nr = 1; gruendlich && nr <= 99; ++nr) {
+    if (std::ranges::count(arten, Code(nr)) == 0) arten.push_back(Code(nr));
+  }
+  return arten;
+}
+
 // Answers every box, keeps it, and makes the clock race when the reply being waited for will not come.
 class Benutzer : public Melder, public Beobachter {
  public:
@@ -331,7 +341,7 @@ TEST_P(Jeder_austausch, JederCodeDesMasters) {
   }
   for (int code = 1; code <= 99; ++code) {
     if (code == 7) continue;
-    const std::string art = "F" + std::to_string(100 + code).substr(1);
+    const std::string art = Code(code);
     const bool bekannt = Uebertragungstext(art) != unsinn;
     for (const std::size_t k : stellen) {
       const bool dran = k == stellen[static_cast<std::size_t>(code) % stellen.size()];
@@ -366,8 +376,8 @@ TEST_P(Jeder_austausch, DesLoeschens) {
   std::ranges::fill(alles.grp.alle(), i16{1});
   alles.tabelle = 1;
   for (const std::size_t k : {0U, 1U}) {
-    for (const std::string art :
-         {"stumm", "verloren", "kurz", "lang", "muell", "trenn", "F01", "F07", "F99"}) {
+    for (const std::string& art :
+         Mit_allen_codes({"stumm", "verloren", "kurz", "lang", "muell", "trenn", "F01", "F07", "F99"})) {
       SCOPED_TRACE(art + " at " + (k == 0 ? "V" : "EI"));
       Master_unberuehrt();
       u.Nach_initialisierung = 0;
@@ -435,8 +445,8 @@ TEST_P(Jeder_austausch, DerUhr) {
   const auto ablauf = Ablauf(stellen);
   ASSERT_EQ(ablauf.size(), 4U);  // i U D W
   for (std::size_t k = 0; k < ablauf.size(); ++k) {
-    for (const std::string art :
-         {"stumm", "verloren", "kurz", "lang", "muell", "trenn", "F01", "F04", "F44", "F07", "F99"}) {
+    for (const std::string& art : Mit_allen_codes(
+             {"stumm", "verloren", "kurz", "lang", "muell", "trenn", "F01", "F04", "F44", "F07", "F99"})) {
       for (const int mal : art == "F07" ? std::vector{1, 9, 10} : std::vector{1}) {
         SCOPED_TRACE(art + " x" + std::to_string(mal) + " at " + ablauf[k].substr(0, 1));
         sim.speicher_setzen(0x362000, simulator::Bytes(41, 0xEE));
@@ -474,14 +484,13 @@ TEST_P(Jeder_austausch, DesFunkempfaengers) {
   vormerken(true);
   const auto ablauf = Ablauf(programmieren);
   ASSERT_EQ(ablauf.size(), 89U);  // 4 x 18 to write, one to take up, 4 x 4 to check
-  static constexpr const char* arten[] = {"stumm", "muell", "F80",  "trenn",
-                                          "lang",  "F07",   "kurz", "verloren"};
+  const auto arten = Mit_allen_codes({"stumm", "muell", "F80", "trenn", "lang", "F07", "kurz", "verloren"});
   for (std::size_t k = 0; k < ablauf.size(); ++k) {
-    for (std::size_t i = 0; i < std::size(arten); ++i) {
+    for (std::size_t i = 0; i < arten.size(); ++i) {
       // On the serial line each exchange opens the port anew.
       const bool dran = i == k % 8 || (i == (k + 3) % 8 && GetParam() == Verbindung::tcp);
       if (!dran && !gruendlich) continue;
-      const std::string art = arten[i];
+      const std::string& art = arten[i];
       SCOPED_TRACE(art + " at " + std::to_string(k + 1) + " " + ablauf[k]);
       vormerken(true);
       const bool zahlen = ablauf[k] == "x";

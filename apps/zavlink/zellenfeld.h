@@ -19,6 +19,7 @@ class Zellenfeld : public QWidget {
   virtual int zeiger() const = 0;
   // What a click on the cell does; -1: beside all cells.
   virtual void zelle_nehmen(int i) = 0;
+  // What the tip over the cell tells.
   virtual QString tipptext(int i) const { return zelltext(i); }
 
  protected:
